@@ -1,0 +1,25 @@
+# Settings that every target shares, and helpers to declare targets by folder.
+
+add_library(kavor_options INTERFACE)
+target_compile_options(kavor_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  # GCC 12 sees overlaps in std::string's own operator+ that are not there.
+  target_compile_options(kavor_options INTERFACE -Wno-restrict)
+endif()
+if(KAVOR_WARNINGS_AS_ERRORS)
+  target_compile_options(kavor_options INTERFACE -Werror)
+endif()
+if(KAVOR_SANITIZE)
+  target_compile_options(kavor_options INTERFACE -fsanitize=${KAVOR_SANITIZE} -fno-omit-frame-pointer -g1)
+  target_link_options(kavor_options INTERFACE -fsanitize=${KAVOR_SANITIZE})
+endif()
+
+# The C++ sources of the given folders (not of their subfolders).
+function(kavor_sources OUT)
+  set(found)
+  foreach(folder ${ARGN})
+    file(GLOB here CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    list(APPEND found ${here})
+  endforeach()
+  set(${OUT} ${found} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,190 @@
+#include "base/AtomicFile.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+
+namespace kavor::atomic_file {
+
+namespace {
+
+constexpr std::string_view temporaryPrefix = ".tmp-";
+
+Failure failure(const std::filesystem::path& path, int error) { return {path, std::strerror(error)}; }
+
+// A file descriptor that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int number)
+        : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { close(); }
+
+    [[nodiscard]] int number() const { return number_; }
+    int close() {
+        const int result = number_ < 0 ? 0 : ::close(number_);
+        number_ = -1;
+        return result;
+    }
+
+private:
+    int number_;
+};
+
+int writeAll(int descriptor, std::string_view content) {
+    while (!content.empty()) {
+        const auto written = ::write(descriptor, content.data(), content.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return errno;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+void flushFolder(const std::filesystem::path& folder) {
+    const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.number() >= 0)
+        ::fsync(descriptor.number());
+}
+
+std::filesystem::path folderOf(const std::filesystem::path& path) {
+    return path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+}
+
+// The name carries the process, so that a sweep tells the living from the dead.
+std::filesystem::path temporarySibling(const std::filesystem::path& path) {
+    static std::atomic<unsigned> counter = 0;
+    return folderOf(path) / (std::string(temporaryPrefix) + std::to_string(::getpid()) + "-" +
+                             std::to_string(counter.fetch_add(1)));
+}
+
+tl::expected<std::filesystem::path, Failure> writeTemporary(const std::filesystem::path& path,
+                                                            std::string_view content) {
+    const auto temporary = temporarySibling(path);
+    ::unlink(temporary.c_str());
+    Descriptor descriptor(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (descriptor.number() < 0)
+        return tl::unexpected(failure(path, errno));
+    int error = writeAll(descriptor.number(), content);
+    if (error == 0 && ::fsync(descriptor.number()) != 0)
+        error = errno;
+    if (descriptor.close() != 0 && error == 0)
+        error = errno;
+    if (error != 0) {
+        ::unlink(temporary.c_str());
+        return tl::unexpected(failure(path, error));
+    }
+    return temporary;
+}
+
+} // namespace
+
+std::string Failure::text() const { return path.string() + ": " + reason; }
+
+Done write(const std::filesystem::path& path, std::string_view content) {
+    const auto temporary = writeTemporary(path, content);
+    if (!temporary)
+        return tl::unexpected(temporary.error());
+    if (::rename(temporary->c_str(), path.c_str()) != 0) {
+        const int error = errno;
+        ::unlink(temporary->c_str());
+        return tl::unexpected(failure(path, error));
+    }
+    flushFolder(folderOf(path));
+    return {};
+}
+
+Done create(const std::filesystem::path& path, std::string_view content) {
+    const auto temporary = writeTemporary(path, content);
+    if (!temporary)
+        return tl::unexpected(temporary.error());
+    // A hard link fails when the name is taken, which a rename would not.
+    const int error = ::link(temporary->c_str(), path.c_str()) == 0 ? 0 : errno;
+    ::unlink(temporary->c_str());
+    if (error != 0)
+        return tl::unexpected(failure(path, error));
+    flushFolder(folderOf(path));
+    return {};
+}
+
+tl::expected<std::string, Failure> read(const std::filesystem::path& path) {
+    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat status {};
+    if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
+        return tl::unexpected(failure(path, errno));
+    if (!S_ISREG(status.st_mode))
+        return tl::unexpected(Failure{path, "not a regular file"});
+    std::string content(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t filled = 0;
+    while (filled < content.size()) {
+        const auto count = ::read(descriptor.number(), content.data() + filled, content.size() - filled);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return tl::unexpected(failure(path, errno));
+        if (count == 0)
+            break;
+        filled += static_cast<std::size_t>(count);
+    }
+    content.resize(filled);
+    return content;
+}
+
+Done remove(const std::filesystem::path& path) {
+    if (::unlink(path.c_str()) != 0) {
+        if (errno == ENOENT)
+            return {};
+        return tl::unexpected(failure(path, errno));
+    }
+    flushFolder(folderOf(path));
+    return {};
+}
+
+Done makeFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    if (std::filesystem::is_directory(folder, error))
+        return {};
+    if (folder.has_parent_path() && folder.parent_path() != folder) {
+        if (auto parent = makeFolder(folder.parent_path()); !parent)
+            return parent;
+    }
+    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
+        return tl::unexpected(failure(folder, errno));
+    if (!std::filesystem::is_directory(folder, error))
+        return tl::unexpected(Failure{folder, "not a folder"});
+    return {};
+}
+
+void sweepTemporaries(const std::filesystem::path& folder) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const auto name = entry.path().filename().string();
+        if (!name.starts_with(temporaryPrefix))
+            continue;
+        pid_t owner = 0;
+        const char* begin = name.data() + temporaryPrefix.size();
+        std::from_chars(begin, name.data() + name.size(), owner);
+        const bool alive = owner > 0 && owner != ::getpid() && (::kill(owner, 0) == 0 || errno == EPERM);
+        if (!alive)
+            ::unlink(entry.path().c_str());
+    }
+}
+
+std::optional<std::filesystem::path> child(const std::filesystem::path& folder, std::string_view name) {
+    if (name.empty() || name == "." || name == ".." || name.size() > 255 || name.starts_with(temporaryPrefix))
+        return std::nullopt;
+    if (name.find('/') != std::string_view::npos || name.find('\0') != std::string_view::npos)
+        return std::nullopt;
+    return folder / std::filesystem::path(std::string(name));
+}
+
+} // namespace kavor::atomic_file

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <tl/expected.hpp>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Whole files that are replaced in one step, so that a process or a device that dies leaves the old or the new
+// content and never a torn file. Files have the mode 0600, folders 0700.
+namespace kavor::atomic_file {
+
+// Why a file operation failed; text() names the file and the reason.
+struct Failure {
+    std::filesystem::path path;
+    std::string reason;
+    [[nodiscard]] std::string text() const;
+};
+
+using Done = tl::expected<void, Failure>;
+
+// Writes to a temporary sibling, flushes it to disk, renames it over the path and flushes the folder.
+Done write(const std::filesystem::path& path, std::string_view content);
+
+// Like write, but fails without touching anything when the path exists.
+Done create(const std::filesystem::path& path, std::string_view content);
+
+// The whole content of a regular file.
+tl::expected<std::string, Failure> read(const std::filesystem::path& path);
+
+// Removes a file and flushes its folder. A file that is not there is no failure.
+Done remove(const std::filesystem::path& path);
+
+// Makes a folder with its parents; one that exists is no failure.
+Done makeFolder(const std::filesystem::path& folder);
+
+// Removes the temporaries that writers which are no longer alive left in the folder.
+void sweepTemporaries(const std::filesystem::path& folder);
+
+// The path of a direct child of the folder, or nothing when the name is empty, "." or "..", holds a separator or a
+// null, begins like a temporary, or is too long for a file name.
+std::optional<std::filesystem::path> child(const std::filesystem::path& folder, std::string_view name);
+
+} // namespace kavor::atomic_file

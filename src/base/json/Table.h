@@ -1,0 +1,491 @@
+#pragma once
+
+#include "base/LocalDateTime.h"
+#include "base/Url.h"
+#include "base/json/Json.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <charconv>
+#include <cmath>
+#include <concepts>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+// The tables of records and the code that reads and writes documents by them. Included by the sources that declare
+// tables, not by those that use records. A record's table looks like this:
+//
+//   template <> struct Table<Pairing> {
+//       static constexpr auto fields = std::tuple{
+//           required("id", &Pairing::id), required("name", &Pairing::name), optional("note", &Pairing::note)};
+//   };
+//
+// and an enumeration's like this:
+//
+//   template <> struct Cases<PriceType> { static constexpr std::array values{PriceType::main, PriceType::table}; };
+namespace kavor::json {
+
+using Element = simdjson::dom::element;
+
+// ---- Tables -------------------------------------------------------------------------------------------------
+
+enum class Presence {
+    Required,
+    Optional,  // absent and null leave the member unset; an unset member is left out
+    OrTrue,    // a flag that reads as true when absent or null; always written
+    WriteOnly, // written when set, never read
+    Ignored,   // always written, its value in a document is never looked at
+};
+
+// How one member is read and written when its type's own way is not the one wanted.
+struct TypeCodec {};
+
+template <class Record, class Member, class Codec = TypeCodec>
+struct Field {
+    std::string_view key;
+    Member Record::*member;
+    Presence presence;
+};
+
+template <class Record, class Member>
+constexpr Field<Record, Member> required(std::string_view key, Member Record::*member) {
+    return {key, member, Presence::Required};
+}
+template <class Record, class Member>
+constexpr Field<Record, std::optional<Member>> optional(std::string_view key, std::optional<Member> Record::*member) {
+    return {key, member, Presence::Optional};
+}
+template <class Record>
+constexpr Field<Record, bool> orTrue(std::string_view key, bool Record::*member) {
+    return {key, member, Presence::OrTrue};
+}
+template <class Record, class Member>
+constexpr Field<Record, std::optional<Member>> writeOnly(std::string_view key, std::optional<Member> Record::*member) {
+    return {key, member, Presence::WriteOnly};
+}
+template <class Record, class Member>
+constexpr Field<Record, Member> ignoredWhenRead(std::string_view key, Member Record::*member) {
+    return {key, member, Presence::Ignored};
+}
+// Codec has static bool read(Element, Member&, Context&) and static bool write(Writer&, const Member&).
+template <class Codec, class Record, class Member>
+constexpr Field<Record, Member, Codec> requiredAs(std::string_view key, Member Record::*member) {
+    return {key, member, Presence::Required};
+}
+
+template <class Record>
+struct Table;
+
+template <class Enumeration>
+struct Cases;
+
+// ---- Reading ------------------------------------------------------------------------------------------------
+
+// Carries the error up from the place where it was met; every level puts its step in front of the path.
+struct Context {
+    Error error;
+
+    bool fail(std::string reason) {
+        error.reason = std::move(reason);
+        return false;
+    }
+    bool expected(std::string_view what, Element found);
+    bool within(std::string_view key);
+    bool within(std::size_t index);
+};
+
+// The name of a JSON type in messages.
+std::string_view typeName(Element element);
+
+template <class T>
+struct IsVector : std::false_type {};
+template <class T>
+struct IsVector<std::vector<T>> : std::true_type {};
+template <class T>
+struct IsMap : std::false_type {};
+template <class K, class V>
+struct IsMap<std::map<K, V>> : std::true_type {};
+template <class T>
+struct IsOptional : std::false_type {};
+template <class T>
+struct IsOptional<std::optional<T>> : std::true_type {};
+
+template <class Record>
+bool readRecord(Element element, Record& out, Context& context);
+
+bool readValue(Element element, std::int64_t& out, Context& context);
+bool readValue(Element element, std::uint64_t& out, Context& context);
+bool readValue(Element element, double& out, Context& context);
+bool readValue(Element element, bool& out, Context& context);
+bool readValue(Element element, std::string& out, Context& context);
+bool readValue(Element element, Url& out, Context& context);
+bool readValue(Element element, LocalDateTime& out, Context& context);
+// The decimal key of a map.
+bool readKey(std::string_view key, std::int64_t& out, Context& context);
+bool readKey(std::string_view key, std::string& out, Context& context);
+std::string keyText(std::int64_t key);
+inline const std::string& keyText(const std::string& key) { return key; }
+
+template <class T>
+bool readElement(Element element, T& out, Context& context);
+
+template <class Enumeration>
+bool readCase(Element element, Enumeration& out, Context& context) {
+    std::int64_t raw = 0;
+    if (!readValue(element, raw, context))
+        return false;
+    for (const Enumeration value : Cases<Enumeration>::values) {
+        if (static_cast<std::int64_t>(value) == raw) {
+            out = value;
+            return true;
+        }
+    }
+    std::string known;
+    for (const Enumeration value : Cases<Enumeration>::values)
+        known += (known.empty() ? "" : ", ") + std::to_string(static_cast<std::int64_t>(value));
+    return context.fail("expected one of " + known + ", found " + std::to_string(raw));
+}
+
+template <class T>
+bool readList(Element element, std::vector<T>& out, Context& context) {
+    simdjson::dom::array array;
+    if (element.get(array) != simdjson::SUCCESS)
+        return context.expected("list", element);
+    out.clear();
+    out.reserve(array.size());
+    for (const Element item : array) {
+        if (!readElement(item, out.emplace_back(), context))
+            return context.within(out.size() - 1);
+    }
+    return true;
+}
+
+template <class K, class V>
+bool readMap(Element element, std::map<K, V>& out, Context& context) {
+    simdjson::dom::object object;
+    if (element.get(object) != simdjson::SUCCESS)
+        return context.expected("object", element);
+    out.clear();
+    for (const auto [key, value] : object) {
+        K name{};
+        V read{};
+        if (!readKey(key, name, context) || !readElement(value, read, context))
+            return context.within(key);
+        out.insert_or_assign(std::move(name), std::move(read));
+    }
+    return true;
+}
+
+template <class T>
+bool readElement(Element element, T& out, Context& context) {
+    if constexpr (IsVector<T>::value)
+        return readList(element, out, context);
+    else if constexpr (IsMap<T>::value)
+        return readMap(element, out, context);
+    else if constexpr (std::is_enum_v<T>)
+        return readCase(element, out, context);
+    else if constexpr (IsOptional<T>::value) { // an element of a list that may be null
+        if (element.is_null()) {
+            out.reset();
+            return true;
+        }
+        return readElement(element, out.emplace(), context);
+    } else if constexpr (requires { Table<T>::fields; })
+        return readRecord(element, out, context);
+    else
+        return readValue(element, out, context);
+}
+
+// The keys of a record with the ways to find them: by what followed the last key in earlier records of the kind, or
+// else by a hash. Documents repeat their order of keys, so one comparison usually does.
+template <class Record>
+struct Keys {
+    static constexpr std::size_t count = std::tuple_size_v<decltype(Table<Record>::fields)>;
+    static constexpr std::size_t none = count;
+    static constexpr std::size_t slotCount = [] {
+        std::size_t size = 4;
+        while (size < count * 3)
+            size *= 2;
+        return size;
+    }();
+
+    static constexpr auto names = std::apply(
+        [](const auto&... field) { return std::array<std::string_view, count>{field.key...}; }, Table<Record>::fields);
+    static constexpr auto presences = std::apply(
+        [](const auto&... field) { return std::array<Presence, count>{field.presence...}; }, Table<Record>::fields);
+
+    static constexpr std::size_t hash(std::string_view key) {
+        std::uint32_t value = static_cast<std::uint32_t>(key.size()) * 0x9E3779B1U;
+        for (const char c : key)
+            value = (value ^ static_cast<unsigned char>(c)) * 0x01000193U;
+        return (value ^ (value >> 15U)) & (slotCount - 1);
+    }
+
+    static constexpr auto slots = [] {
+        std::array<std::uint16_t, slotCount> table{};
+        table.fill(static_cast<std::uint16_t>(none));
+        for (std::size_t i = 0; i < count; ++i) {
+            std::size_t slot = hash(names[i]);
+            while (table[slot] != none)
+                slot = (slot + 1) & (slotCount - 1);
+            table[slot] = static_cast<std::uint16_t>(i);
+        }
+        return table;
+    }();
+
+    static std::size_t find(std::string_view key) {
+        std::size_t slot = hash(key);
+        while (slots[slot] != none && names[slots[slot]] != key)
+            slot = (slot + 1) & (slotCount - 1);
+        return slots[slot];
+    }
+
+    // The indexes of the fields by their keys in ascending order.
+    static constexpr auto sorted = [] {
+        std::array<std::size_t, count> order{};
+        for (std::size_t i = 0; i < count; ++i)
+            order[i] = i;
+        std::sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) { return names[a] < names[b]; });
+        return order;
+    }();
+};
+
+template <class Record, std::size_t I>
+bool readField(Element element, Record& out, Context& context) {
+    constexpr auto field = std::get<I>(Table<Record>::fields);
+    auto& member = out.*field.member;
+    using Member = std::remove_cvref_t<decltype(member)>;
+    const auto read = [&](auto& target) {
+        using Codec = decltype([]<class R, class M, class C>(const Field<R, M, C>&) { return C(); }(field));
+        if constexpr (std::is_same_v<Codec, TypeCodec>)
+            return readElement(element, target, context);
+        else
+            return Codec::read(element, target, context);
+    };
+    if constexpr (field.presence == Presence::WriteOnly || field.presence == Presence::Ignored) {
+        return true;
+    } else if constexpr (field.presence == Presence::Optional && IsOptional<Member>::value) {
+        if (element.is_null()) {
+            member.reset();
+            return true;
+        }
+        return read(member.emplace()) || context.within(field.key);
+    } else if constexpr (field.presence == Presence::OrTrue) {
+        member = true;
+        return element.is_null() || read(member) || context.within(field.key);
+    } else {
+        return read(member) || context.within(field.key);
+    }
+}
+
+template <class Record>
+using FieldReader = bool (*)(Element, Record&, Context&);
+
+template <class Record, std::size_t... I>
+constexpr std::array<FieldReader<Record>, sizeof...(I)> fieldReaders(std::index_sequence<I...>) {
+    return {readField<Record, I>...};
+}
+
+template <class Record>
+bool readRecord(Element element, Record& out, Context& context) {
+    using K = Keys<Record>;
+    static constexpr auto readers = fieldReaders<Record>(std::make_index_sequence<K::count>());
+    simdjson::dom::object object;
+    if (element.get(object) != simdjson::SUCCESS)
+        return context.expected("object", element);
+    if constexpr (requires { Table<Record>::prepare(out); })
+        Table<Record>::prepare(out);
+    thread_local std::array<std::uint16_t, K::count + 1> successor{};
+    auto& follow = successor;
+    std::bitset<K::count> seen;
+    std::size_t last = K::none;
+    for (const auto [key, value] : object) {
+        std::size_t index = follow[last];
+        if (index >= K::count || K::names[index] != key) {
+            index = K::find(key);
+            if (index == K::none)
+                continue;
+            follow[last] = static_cast<std::uint16_t>(index);
+        }
+        last = index;
+        seen.set(index);
+        if (!readers[index](value, out, context))
+            return false;
+    }
+    if (!seen.all()) {
+        for (std::size_t i = 0; i < K::count; ++i) {
+            if (!seen.test(i) && K::presences[i] == Presence::Required) {
+                context.fail("missing");
+                return context.within(K::names[i]);
+            }
+        }
+    }
+    return true;
+}
+
+// ---- Writing ------------------------------------------------------------------------------------------------
+
+// Appends a document to a text, plain or pretty.
+class Writer {
+public:
+    explicit Writer(bool pretty)
+        : pretty_(pretty) {}
+
+    [[nodiscard]] bool pretty() const { return pretty_; }
+    std::string take() { return std::move(text_); }
+
+    void open(char bracket);
+    void close(char bracket);
+    void separate(); // before each element of a list and each key of an object
+    void key(std::string_view name);
+    void string(std::string_view value);
+    void integer(std::int64_t value);
+    void unsignedInteger(std::uint64_t value);
+    bool number(double value); // false when JSON cannot say it
+    void boolean(bool value) { text_ += value ? "true" : "false"; }
+    void null() { text_ += "null"; }
+
+private:
+    void newLine();
+
+    std::string text_;
+    bool pretty_;
+    bool first_ = true;
+    int depth_ = 0;
+};
+
+inline bool writeValue(Writer& writer, std::int64_t value) { return writer.integer(value), true; }
+inline bool writeValue(Writer& writer, std::uint64_t value) { return writer.unsignedInteger(value), true; }
+inline bool writeValue(Writer& writer, double value) { return writer.number(value); }
+inline bool writeValue(Writer& writer, bool value) { return writer.boolean(value), true; }
+inline bool writeValue(Writer& writer, const std::string& value) { return writer.string(value), true; }
+inline bool writeValue(Writer& writer, const Url& value) { return writer.string(value.text), true; }
+inline bool writeValue(Writer& writer, const LocalDateTime& value) { return writer.string(value.text()), true; }
+
+template <class T>
+bool writeElement(Writer& writer, const T& value);
+
+template <class Record, std::size_t I>
+bool writeField(Writer& writer, const Record& record) {
+    constexpr auto field = std::get<I>(Table<Record>::fields);
+    const auto& member = record.*field.member;
+    using Member = std::remove_cvref_t<decltype(member)>;
+    using Codec = decltype([]<class R, class M, class C>(const Field<R, M, C>&) { return C(); }(field));
+    if constexpr (!std::is_same_v<Codec, TypeCodec>) {
+        writer.key(field.key);
+        return Codec::write(writer, member);
+    } else if constexpr (IsOptional<Member>::value) {
+        if (!member)
+            return true;
+        writer.key(field.key);
+        return writeElement(writer, *member);
+    } else {
+        writer.key(field.key);
+        return writeElement(writer, member);
+    }
+}
+
+template <class Record>
+bool writeRecord(Writer& writer, const Record& record) {
+    using K = Keys<Record>;
+    writer.open('{');
+    bool good = true;
+    const auto writeAll = [&]<std::size_t... I>(std::index_sequence<I...>) {
+        if (!writer.pretty()) {
+            ((good = good && writeField<Record, I>(writer, record)), ...);
+            return;
+        }
+        ((good = good && writeField<Record, K::sorted[I]>(writer, record)), ...);
+    };
+    writeAll(std::make_index_sequence<K::count>());
+    writer.close('}');
+    return good;
+}
+
+template <class T>
+bool writeElement(Writer& writer, const T& value) {
+    if constexpr (IsVector<T>::value) {
+        writer.open('[');
+        for (const auto& item : value) {
+            writer.separate();
+            if (!writeElement(writer, item))
+                return false;
+        }
+        writer.close(']');
+        return true;
+    } else if constexpr (IsMap<T>::value) {
+        writer.open('{');
+        for (const auto& [key, item] : value) {
+            writer.key(keyText(key));
+            if (!writeElement(writer, item))
+                return false;
+        }
+        writer.close('}');
+        return true;
+    } else if constexpr (IsOptional<T>::value) {
+        return value ? writeElement(writer, *value) : (writer.null(), true);
+    } else if constexpr (std::is_enum_v<T>) {
+        writer.integer(static_cast<std::int64_t>(value));
+        return true;
+    } else if constexpr (requires { Table<T>::fields; }) {
+        return writeRecord(writer, value);
+    } else {
+        return writeValue(writer, value);
+    }
+}
+
+// ---- The functions of Json.h --------------------------------------------------------------------------------
+
+struct Parser::Implementation {
+    simdjson::dom::parser parser;
+};
+
+// Parses the text into the parser's own buffers; fails with the place of the first malformed token.
+Decoded<Element> parse(std::string_view document, const Parser& parser);
+
+template <class T>
+Decoded<T> decode(std::string_view document, const Parser& parser) {
+    const auto root = parse(document, parser);
+    if (!root)
+        return tl::unexpected(root.error());
+    Decoded<T> result{T{}};
+    Context context;
+    if (!readElement(*root, *result, context))
+        return tl::unexpected(std::move(context.error));
+    return result;
+}
+
+template <class T>
+tl::expected<std::string, Error> encodeAs(const T& value, bool pretty) {
+    Writer writer(pretty);
+    if (!writeElement(writer, value))
+        return tl::unexpected(Error{"", "a number that is infinite or not a number has no JSON form"});
+    return writer.take();
+}
+
+template <class T>
+tl::expected<std::string, Error> encode(const T& value) {
+    return encodeAs(value, false);
+}
+
+template <class T>
+tl::expected<std::string, Error> encodePretty(const T& value) {
+    return encodeAs(value, true);
+}
+
+} // namespace kavor::json
+
+// Instantiates the functions of Json.h for a type, at namespace scope outside kavor, next to its table.
+#define KAVOR_JSON_DOCUMENT(T)                                                                               \
+    template kavor::json::Decoded<T> kavor::json::decode<T>(std::string_view, const Parser&);                \
+    template tl::expected<std::string, kavor::json::Error> kavor::json::encode<T>(const T&);                 \
+    template tl::expected<std::string, kavor::json::Error> kavor::json::encodePretty<T>(const T&);

@@ -1,0 +1,175 @@
+#include "orders/OrderDiskManager.h"
+
+#include "base/AtomicFile.h"
+#include "base/Log.h"
+#include "base/StopProcess.h"
+#include "base/json/Json.h"
+#include "shell/AppSingleton.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <type_traits>
+
+namespace kavor {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> recordNames{"SellingSheetOrder", "SaveBrochuresOrder", "SaveTextileOrder"};
+
+std::string_view directoryText(OrderDiskManager::DirectoryName directory) {
+    return directory == OrderDiskManager::DirectoryName::draft ? "draft_orders" : "outbox_orders";
+}
+
+void logWriteFailure(const std::filesystem::path& path, std::string_view reason) {
+    logLine("Error occurred when serializing file \"" + path.string() + "\" " + std::string(reason));
+}
+
+// The path of an order file, or nothing (logged) for a name that does not name a direct child of the folder.
+std::optional<std::filesystem::path> orderPath(const std::filesystem::path& folder, std::string_view fileName) {
+    auto path = atomic_file::child(folder, fileName);
+    if (!path)
+        logWriteFailure(folder / std::string(fileName), "the name is no file name");
+    return path;
+}
+
+} // namespace
+
+OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder)
+    : documents_(std::move(documentsFolder)) {
+    for (const DirectoryName directory : allCases) {
+        for (const std::string_view record : recordNames) {
+            const auto path = folder(record, directory);
+            if (const auto made = atomic_file::makeFolder(path); !made)
+                stopProcess("orders folder: " + made.error().text());
+            atomic_file::sweepTemporaries(path);
+        }
+    }
+    atomic_file::sweepTemporaries(documents_);
+}
+
+OrderDiskManager& OrderDiskManager::shared() {
+    static OrderDiskManager instance(AppSingleton::shared().documentsFolder());
+    return instance;
+}
+
+std::filesystem::path OrderDiskManager::folder(std::string_view recordName, DirectoryName directory) const {
+    return documents_ / "orders" / directoryText(directory) / recordName;
+}
+
+std::string OrderDiskManager::plainName(std::string_view fileName) {
+    const auto dot = fileName.rfind('.');
+    return std::string(fileName.substr(0, dot));
+}
+
+std::string OrderDiskManager::fileName(std::string_view plainName) {
+    return std::string(plainName) + "." + std::string(extension);
+}
+
+template <class Order>
+bool OrderDiskManager::exists(std::string_view name, DirectoryName directory) const {
+    const auto path = atomic_file::child(folder(Order::folderName, directory), fileName(name));
+    return path && ::access(path->c_str(), R_OK) == 0;
+}
+
+template <class Order>
+bool OrderDiskManager::create(const Order& order, DirectoryName directory, std::string_view name) const {
+    const auto path = orderPath(folder(Order::folderName, directory), fileName(name));
+    if (!path)
+        return false;
+    const auto text = json::encodePretty(order);
+    if (!text) {
+        logWriteFailure(*path, text.error().text());
+        return false;
+    }
+    const auto written = atomic_file::create(*path, *text);
+    if (!written)
+        logWriteFailure(*path, written.error().reason);
+    return written.has_value();
+}
+
+template <class Order>
+bool OrderDiskManager::update(const Order& order, std::string_view name, DirectoryName directory) const {
+    const auto path = orderPath(folder(Order::folderName, directory), name);
+    std::error_code error;
+    if (!path || !std::filesystem::exists(*path, error))
+        return false;
+    const auto text = json::encodePretty(order);
+    if (!text) {
+        logWriteFailure(*path, text.error().text());
+        return false;
+    }
+    const auto written = atomic_file::write(*path, *text);
+    if (!written)
+        logWriteFailure(*path, written.error().reason);
+    return written.has_value();
+}
+
+template <class Order>
+std::optional<Order> OrderDiskManager::retrieve(std::string_view name, DirectoryName directory) const {
+    const auto path = atomic_file::child(folder(Order::folderName, directory), name);
+    if (!path)
+        return std::nullopt;
+    const auto text = atomic_file::read(*path);
+    if (!text)
+        return std::nullopt;
+    auto order = json::decode<Order>(*text);
+    if (order)
+        return std::move(*order);
+    const std::string fault = path->string() + ": " + order.error().text();
+    if constexpr (!std::is_same_v<Order, SaveBrochuresOrder>) {
+        if (json::isWellFormed(*text))
+            stopProcess(fault);
+    }
+    logLine(fault);
+    return std::nullopt;
+}
+
+template <class Order>
+std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName directory) const {
+    const auto path = folder(Order::folderName, directory);
+    std::error_code error;
+    std::filesystem::directory_iterator entries(path, error);
+    if (error)
+        stopProcess("orders folder " + path.string() + ": " + error.message());
+    std::vector<Listing> result;
+    for (const auto& entry : entries) {
+        const std::string name = entry.path().filename().string();
+        if (!name.ends_with("." + std::string(extension)))
+            continue;
+        struct statx status {};
+        if (::statx(AT_FDCWD, entry.path().c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0)
+            stopProcess("attributes of " + entry.path().string());
+        // Not every file system keeps the moment of birth.
+        const auto birth = (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime : status.stx_mtime;
+        result.push_back({name, directory, LocalDateTime::fromTime(birth.tv_sec),
+                          LocalDateTime::fromTime(status.stx_mtime.tv_sec)});
+    }
+    return result;
+}
+
+template <class Order>
+bool OrderDiskManager::remove(std::string_view name, DirectoryName directory) const {
+    const auto path = orderPath(folder(Order::folderName, directory), name);
+    if (!path)
+        return false;
+    const auto removed = atomic_file::remove(*path);
+    if (!removed)
+        logLine("Error occurred when deleting file \"" + path->string() + "\" " + removed.error().reason);
+    return removed.has_value();
+}
+
+#define KAVOR_ORDER_FILES(Order)                                                                             \
+    template bool OrderDiskManager::exists<Order>(std::string_view, DirectoryName) const;                    \
+    template bool OrderDiskManager::create(const Order&, DirectoryName, std::string_view) const;             \
+    template bool OrderDiskManager::update(const Order&, std::string_view, DirectoryName) const;             \
+    template std::optional<Order> OrderDiskManager::retrieve(std::string_view, DirectoryName) const;         \
+    template std::vector<OrderDiskManager::Listing> OrderDiskManager::list<Order>(DirectoryName) const;      \
+    template bool OrderDiskManager::remove<Order>(std::string_view, DirectoryName) const;
+
+KAVOR_ORDER_FILES(SaveBrochuresOrder)
+KAVOR_ORDER_FILES(SaveTextileOrder)
+KAVOR_ORDER_FILES(SellingSheetOrder)
+
+} // namespace kavor

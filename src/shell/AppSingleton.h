@@ -1,0 +1,62 @@
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "shell/LoginResult.h"
+#include "shell/SectionIdentifier.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace kavor {
+
+// The session of the whole process: who is logged in, the catalogue, the section entered. Main thread only.
+class AppSingleton {
+public:
+    // The shared instance, made on first use and never released.
+    static AppSingleton& shared();
+
+    std::string version;     // of the application, sent with every request
+    std::string compilation;
+    std::optional<LoginResult> loginResult;
+    std::optional<std::string> userEmail;
+    std::optional<std::string> userPassword;
+    std::optional<SectionIdentifier> actualSection;
+    std::optional<ApplicationType> actualApplicationType;
+    bool isSectionDigital = false;
+    bool resettingBrochure = false;
+    std::shared_ptr<const Catalogue> applicationInformation;
+    std::optional<std::string> autoLoginUser;
+    std::optional<std::string> autoLoginToken;
+    std::optional<std::string> fcmToken;
+    bool appendPromotionToMenu = false;
+
+    // The catalogue; the process stops without one.
+    [[nodiscard]] const Catalogue& catalogue() const;
+    // The catalogue for a change (brands added by hand). Whoever still holds the former one keeps it unchanged.
+    [[nodiscard]] Catalogue& catalogueToChange();
+
+    // The kind of brochure of the section entered, none outside a brochure section.
+    [[nodiscard]] std::optional<BrochureType> brochureType() const;
+
+    // Where the application keeps its documents and its caches; set once by the composition root.
+    [[nodiscard]] const std::filesystem::path& documentsFolder() const { return documentsFolder_; }
+    [[nodiscard]] const std::filesystem::path& cachesFolder() const { return cachesFolder_; }
+    void setFolders(std::filesystem::path documents, std::filesystem::path caches);
+
+    // Loads the state files "ZQLOGINRESULT" and "ZQAPPLICATIONINFORMATION". The login result is replaced also with
+    // nothing. Answers whether both are present now.
+    bool restoreSession();
+    // Writes both state files; a write that fails is ignored. The process stops when the catalogue or the login
+    // result is absent.
+    void storeSession() const;
+
+private:
+    AppSingleton();
+
+    std::filesystem::path documentsFolder_;
+    std::filesystem::path cachesFolder_;
+};
+
+} // namespace kavor
