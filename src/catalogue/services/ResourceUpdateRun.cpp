@@ -1,0 +1,71 @@
+#include "catalogue/services/ResourceUpdateRun.h"
+
+#include "base/NotificationCenter.h"
+#include "catalogue/ApplicationInformation.h"
+#include "catalogue/services/FontUpdater.h"
+#include "device/Prefetcher.h"
+
+#include <utility>
+#include <vector>
+
+namespace kavor {
+
+namespace {
+
+constexpr int withProgress = 1;
+constexpr int inBackground = 2;
+constexpr int concurrency = 5;
+
+Prefetcher::Resources ofType(const std::vector<HashedResource>& images, int downloadType) {
+    Prefetcher::Resources found;
+    for (const HashedResource& image : images) {
+        if (image.downloadType == downloadType)
+            found.push_back({QString::fromStdString(image.cacheKey),
+                             QUrl(QString::fromStdString(image.downloadURL.text))});
+    }
+    return found;
+}
+
+} // namespace
+
+ResourceUpdateRun::ResourceUpdateRun(ImageCache& cache, FontUpdater& fonts, NotificationCenter& notifications,
+                                     QObject* parent)
+    : QObject(parent)
+    , cache_(cache)
+    , fonts_(fonts)
+    , notifications_(notifications) {}
+
+void ResourceUpdateRun::start(const ApplicationInformation& catalogue, Progress progress) {
+    const auto launch = [this](Prefetcher* prefetcher) {
+        connect(prefetcher, &Prefetcher::finished, prefetcher, &QObject::deleteLater);
+        prefetcher->setMaxConcurrentDownloads(concurrency);
+        prefetcher->start();
+    };
+    auto waitedFor = ofType(catalogue.images, withProgress);
+    const int total = int(waitedFor.size());
+    if (progress)
+        progress(0, total);
+    const auto advance = [progress, total](const auto& skipped, const auto& failed, const auto& completed) {
+        if (progress)
+            progress(int(skipped.size() + failed.size() + completed.size()), total);
+    };
+    auto typographies =
+        catalogue.textile ? catalogue.textile->typographies : std::vector<Textile::Typography>();
+    const auto goOn = [this, typographies](const auto&, const auto&, const auto&) {
+        fonts_.update(typographies, [&notifications = notifications_] {
+            notifications.post(notification::updatingResourcesDidEnd);
+        });
+    };
+    launch(new Prefetcher(cache_, std::move(waitedFor), advance, goOn, this));
+    launch(new Prefetcher(cache_, ofType(catalogue.images, inBackground), {}, {}, this));
+}
+
+QString ResourceUpdateRun::label(int count, int total) {
+    return QStringLiteral("Actualizando imágenes %1/%2").arg(count).arg(total);
+}
+
+double ResourceUpdateRun::fraction(int count, int total) {
+    return total == 0 ? 2.0 / 3 : double(count) / total / 3 + 2.0 / 3;
+}
+
+} // namespace kavor

@@ -1,0 +1,227 @@
+#include "device/AlertPresenter.h"
+#include "device/AppLifecycle.h"
+#include "device/FontRegistry.h"
+#include "device/LocalNotifications.h"
+#include "device/PhotoPicker.h"
+#include "device/PushRegistration.h"
+#include "device/Reachability.h"
+#include "device/ReverseLocationManager.h"
+#include "device/UrlOpener.h"
+#include "support/DeviceFakes.h"
+#include "support/TemporaryFolder.h"
+#include "support/WaitFor.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace kavor {
+namespace {
+
+TEST(QtReachability, IsOnlineUnlessOfflineIsCertainOrForced) {
+    QtReachability network;
+    int changes = 0;
+    QObject::connect(&network, &Reachability::changed, [&] { ++changes; });
+    const bool before = network.isReachable();
+    network.setForcedOffline(true);
+    EXPECT_FALSE(network.isReachable());
+    network.setForcedOffline(false);
+    EXPECT_EQ(network.isReachable(), before);
+    EXPECT_EQ(changes, before ? 2 : 0);
+    qputenv("KAVOR_OFFLINE", "1");
+    EXPECT_FALSE(QtReachability().isReachable());
+    qunsetenv("KAVOR_OFFLINE");
+}
+
+TEST(QtAppLifecycle, TakesOnlySuspensionForTheBackground) {
+    QtAppLifecycle lifecycle;
+    QStringList seen;
+    QObject::connect(&lifecycle, &AppLifecycle::enteredBackground, [&] { seen << "background"; });
+    QObject::connect(&lifecycle, &AppLifecycle::enteringForeground, [&] { seen << "foreground"; });
+    for (const auto state :
+         {Qt::ApplicationActive, Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended,
+          Qt::ApplicationSuspended, Qt::ApplicationInactive, Qt::ApplicationActive, Qt::ApplicationSuspended})
+        emit qGuiApp->applicationStateChanged(state);
+    EXPECT_EQ(seen, (QStringList{"background", "foreground", "background"}));
+}
+
+TEST(QtAppLifecycle, TellsTheEndOnceAndLeavesTheEventLoopOnASignal) {
+    for (const int signal : {SIGTERM, SIGINT}) {
+        QtAppLifecycle lifecycle;
+        int ends = 0;
+        QObject::connect(&lifecycle, &AppLifecycle::willTerminate, [&] { ++ends; });
+        QTimer::singleShot(0, [signal] { std::raise(signal); });
+        QTimer::singleShot(10'000, qApp, [] { QCoreApplication::exit(1); });
+        EXPECT_EQ(QCoreApplication::exec(), 0);
+        lifecycle.reportWindowClosed();
+        EXPECT_EQ(ends, 1);
+    }
+}
+
+TEST(FontRegistry, FindsFontsByTheirGivenNamesAndKeepsThemOnBadBytes) {
+    const std::string regular = contentOf(KAVOR_FONTS "/Roboto-Regular.ttf");
+    const std::string bold = contentOf(KAVOR_FONTS "/Roboto-Bold.ttf");
+    ASSERT_FALSE(regular.empty() || bold.empty());
+    FontRegistry registry;
+    EXPECT_FALSE(registry.registerFont("none", "no font"));
+    EXPECT_EQ(registry.font("none", 17), std::nullopt);
+    EXPECT_TRUE(registry.registerFont("plain", QByteArray::fromStdString(regular)));
+    EXPECT_TRUE(registry.registerFont("heavy", QByteArray::fromStdString(bold)));
+    EXPECT_TRUE(registry.registerFont("plain", QByteArray::fromStdString(regular)));
+    EXPECT_FALSE(registry.registerFont("heavy", QByteArray::fromStdString(bold.substr(0, 300))));
+    ASSERT_TRUE(registry.font("plain", 17) && registry.font("heavy", 17));
+    EXPECT_EQ(registry.font("heavy", 17)->pixelSize(), 17);
+    EXPECT_EQ(registry.family("plain"), "Roboto");
+    EXPECT_GT(registry.font("heavy", 17)->weight(), registry.font("plain", 17)->weight());
+    registry.unregisterFont("plain");
+    EXPECT_EQ(registry.font("plain", 17), std::nullopt);
+}
+
+TEST(FilePhotoPicker, PicksAPictureAndRefusesWhatIsNone) {
+    const TemporaryFolder folder;
+    QImage image(6, 3, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(QString::fromStdString(folder / "photo.png"));
+    put(folder / "text.png", "no picture");
+    for (const auto& [name, size] : {std::pair("photo.png", QSize(6, 3)), std::pair("text.png", QSize())}) {
+        FilePhotoPicker picker(QString::fromStdString(folder / name));
+        std::optional<std::optional<QImage>> answer;
+        EXPECT_TRUE(picker.pick(nullptr, [&](const std::optional<QImage>& photo) { answer = photo; }));
+        ASSERT_TRUE(waitFor([&] { return answer.has_value(); })) << name;
+        EXPECT_EQ(answer->has_value() ? (*answer)->size() : QSize(), size) << name;
+    }
+    EXPECT_FALSE(FilePhotoPicker("/nowhere").pick(nullptr, {}));
+}
+
+TEST(ReverseLocationManager, ReportsPlacemarksAndEachKindOfFailure) {
+    FakeLocationService location;
+    FakeReverseGeocoder geocoder;
+    ReverseLocationManager manager(location, geocoder);
+    std::optional<Placemark> placemark;
+    std::optional<QString> error;
+    manager.onReverseHandler = [&](const auto& found, const auto& failure) {
+        placemark = found;
+        error = failure;
+    };
+    geocoder.placemark = Placemark{"28001", "Madrid", "Madrid", std::nullopt};
+    EXPECT_TRUE(manager.start());
+    ASSERT_TRUE(placemark.has_value());
+    EXPECT_EQ(placemark->postalCode, "28001");
+    location.answer = {std::nullopt, "denied"};
+    EXPECT_TRUE(manager.start());
+    EXPECT_EQ(error, "denied");
+    location.available = false;
+    EXPECT_FALSE(manager.start());
+    EXPECT_EQ(geocoder.asked.size(), 1U);
+    NoReverseGeocoder none;
+    error.reset();
+    none.reverse({1, 2}, [&](const auto&, const auto& failure) { error = failure; });
+    EXPECT_TRUE(waitFor([&] { return error.has_value(); }));
+}
+
+TEST(SystemUrlOpener, RefusesFilesAndPrograms) {
+    SystemUrlOpener opener;
+    for (const char* address : {"file:///etc/passwd", "/bin/sh", "javascript:alert(1)", "", "no url"})
+        EXPECT_FALSE(opener.openExternally(address)) << address;
+}
+
+TEST(NoPushRegistration, FailsEveryRegistration) {
+    NoPushRegistration push;
+    QString description;
+    QObject::connect(&push, &PushRegistration::failed, [&](const QString& text) { description = text; });
+    push.registerForRemoteNotifications();
+    EXPECT_TRUE(waitFor([&] { return !description.isEmpty(); }));
+    EXPECT_EQ(push.token(), std::nullopt);
+}
+
+TEST(AlertPresenter, ShowsOneAlertAtATimeAndNeverAnswersAClosedScreen) {
+    AlertPresenter presenter;
+    auto screen = std::make_unique<QObject>();
+    QStringList answers;
+    presenter.inform("uno", "", nullptr, [&] { answers << "uno"; });
+    presenter.inform("dos", "", screen.get(), [&] { answers << "dos"; });
+    presenter.inform("tres", "", nullptr, [&] { answers << "tres"; });
+    EXPECT_EQ(presenter.title(), "uno");
+    screen.reset();
+    presenter.answerButton(5);
+    presenter.answerButton(0);
+    EXPECT_EQ(presenter.title(), "tres");
+    presenter.answerButton(0);
+    EXPECT_EQ(answers, (QStringList{"uno", "tres"}));
+    EXPECT_FALSE(presenter.isVisible());
+}
+
+// A notification service that remembers and can tap.
+class FakeNotificationService : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+public:
+    QStringList bodies;
+    QStringList offered;
+
+public slots:
+    uint Notify(const QString&, uint, const QString&, const QString&, const QString& body,
+                const QStringList& actions, const QVariantMap&, int) {
+        bodies << body;
+        offered = actions;
+        return uint(bodies.size());
+    }
+
+signals:
+    void ActionInvoked(uint id, const QString& action);
+    void NotificationClosed(uint id, uint reason);
+};
+
+struct Tap {
+    QString action;
+    QVariantMap userInfo;
+};
+
+TEST(OnABus, NotificationsGiveBackTheirUserInformationWhenTapped) {
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "the desktop");
+    if (!bus.isConnected())
+        GTEST_SKIP() << "there is no session bus";
+    std::vector<Tap> taps;
+    DesktopNotifications notifications;
+    QObject::connect(&notifications, &LocalNotifications::tapped,
+                     [&](const QString& action, const QVariantMap& info) {
+                         taps.push_back({action, info});
+                     });
+    int banner = 0;
+    QObject::connect(&notifications, &LocalNotifications::bannerWanted, [&](int id) { banner = id; });
+    notifications.post({"Borrador Encolado", "sin servicio", {{"orderId", 3}}, {}});
+    ASSERT_TRUE(waitFor([&] { return banner != 0; }));
+    notifications.respondToBanner(banner, notification_action::open);
+    notifications.respondToBanner(banner, notification_action::open);
+
+    FakeNotificationService service;
+    ASSERT_TRUE(bus.registerObject("/org/freedesktop/Notifications", &service,
+                                   QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
+    ASSERT_TRUE(bus.registerService("org.freedesktop.Notifications"));
+    notifications.registerCategory("orderBrochureResponse", {{"show", "Ver pedido"}});
+    notifications.post({"Pedido guardado", "<Su> pedido", {{"orderId", 7}}, "orderBrochureResponse"});
+    notifications.post({"Pedido guardado", "otro", {{"orderId", 8}}, {}});
+    ASSERT_TRUE(waitFor([&] { return service.bodies.size() == 2; }));
+    EXPECT_EQ(service.bodies.first(), "&lt;Su&gt; pedido");
+    EXPECT_EQ(service.offered, (QStringList{"default", "Abrir"}));
+    // On the bus, the signals come after the answers to the posts.
+    emit service.ActionInvoked(1, "show");
+    emit service.NotificationClosed(1, 2);
+    emit service.ActionInvoked(99, "default");
+    emit service.NotificationClosed(2, 2);
+    ASSERT_TRUE(waitFor([&] { return taps.size() == 3; }));
+    EXPECT_EQ(taps[0].userInfo.value("orderId"), 3);
+    EXPECT_EQ(taps[1].action, "show");
+    EXPECT_EQ(taps[1].userInfo.value("orderId"), 7);
+    EXPECT_EQ(taps[2].action, "dismiss");
+    EXPECT_EQ(taps[2].userInfo.value("orderId"), 8);
+}
+
+} // namespace
+} // namespace kavor
+
+#include "PlatformTest.moc"

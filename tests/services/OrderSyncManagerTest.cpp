@@ -1,0 +1,152 @@
+#include "orders/services/OrderSyncManager.h"
+
+#include "base/NotificationCenter.h"
+#include "base/StopProcess.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "device/Clock.h"
+#include "orders/OrderDiskManager.h"
+#include "shell/AppSingleton.h"
+#include "support/CatalogueBuilder.h"
+#include "support/DeviceFakes.h"
+#include "support/FakeServices.h"
+#include "support/TemporaryFolder.h"
+#include "support/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+namespace kavor {
+namespace {
+
+using DirectoryName = OrderDiskManager::DirectoryName;
+
+class OrderSyncManagerTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        auto& session = AppSingleton::shared();
+        session.setFolders(folder.path(), folder.path() / "caches");
+        session.applicationInformation = CatalogueBuilder().take();
+        session.actualSection = SectionIdentifier::brochure(BrochureType::beer);
+        BrochureIntermediateData::replaceTemporalBrochure();
+        tasks.registerHandler(QLatin1String(OrderSyncManager::taskIdentifier),
+                              [this](const auto& task) { manager.handleBrochureSync(task); });
+    }
+
+    void draft(const std::string& name, std::optional<Int> identifier = std::nullopt) {
+        SaveBrochuresOrder order;
+        order.filename = name;
+        order.orderIdentifier = identifier;
+        ASSERT_TRUE(orders.create(order, DirectoryName::draft, name));
+    }
+    std::optional<Int> storedIdentifier(const std::string& name) {
+        return orders.retrieve<SaveBrochuresOrder>(name + ".zvo", DirectoryName::draft)->orderIdentifier;
+    }
+    void saveInFront() {
+        const auto calls = services.requests.saveOrder.calls.size();
+        manager.startOrderSync();
+        ASSERT_TRUE(waitFor([&] { return services.requests.saveOrder.calls.size() > calls; }));
+    }
+    static SaveBrochuresOrderResponse stored(Int id) {
+        SaveBrochuresOrderResponse answer;
+        answer.orderId = id;
+        return answer;
+    }
+
+    TemporaryFolder folder;
+    FakeServices services;
+    OrderDiskManager orders{folder.path()};
+    RecordingNotifications notifications;
+    NotificationCenter center;
+    ManualBackgroundTasks tasks;
+    ManualClock clock;
+    QStringList sessions;
+    int listShown = 0;
+    OrderSyncManager manager{{services, orders, notifications, center, tasks, clock,
+                              [this] { sessions << QStringLiteral("background"); },
+                              [this] { sessions << QStringLiteral("default"); }, [this] { ++listShown; }}};
+};
+
+TEST_F(OrderSyncManagerTest, QueuesTheCurrentDraftTellsTheUserAndStoresItsNumber) {
+    draft("Bar Nube");
+    BrochureIntermediateData::temporalBrochure()->fileName = "Bar Nube";
+    saveInFront();
+    EXPECT_EQ(sessions, QStringList{QStringLiteral("background")});
+    EXPECT_EQ(std::get<0>(services.requests.saveOrder.calls.back()).save, OrderRequestType::saveCloud);
+    EXPECT_TRUE(notifications.posted.empty()) << "a notification comes a second later";
+    clock.advance(std::chrono::seconds(1));
+    ASSERT_EQ(notifications.posted.size(), 1U);
+    EXPECT_EQ(notifications.posted[0].title, QStringLiteral("Borrador Encolado"));
+    EXPECT_EQ(notifications.posted[0].body,
+              QStringLiteral("Su pedido Bar Nube se sincronizará con la nube cuando tenga conexión a internet."));
+
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_EQ(storedIdentifier("Bar Nube"), 77);
+    EXPECT_EQ(BrochureIntermediateData::temporalBrochure()->orderIdentifier, 77);
+    EXPECT_EQ(sessions.last(), QStringLiteral("default"));
+    clock.advance(std::chrono::seconds(1));
+    ASSERT_EQ(notifications.posted.size(), 2U);
+    EXPECT_EQ(notifications.posted[1].body, QStringLiteral("Su pedido Bar Nube se ha sincronizado."));
+    EXPECT_EQ(notifications.posted[1].category, QLatin1String(OrderSyncManager::notificationCategory));
+
+    bool reloaded = false;
+    const auto subscription = center.observe(notification::reloadOrders, [&](const auto&) { reloaded = true; });
+    emit notifications.tapped(QStringLiteral("show"), {{QStringLiteral("orderId"), QStringLiteral("77")}});
+    EXPECT_EQ(listShown, 0) << "an id that is no integer opens nothing";
+    emit notifications.tapped(QStringLiteral("show"), notifications.posted[1].userInfo);
+    EXPECT_TRUE(reloaded && listShown == 1);
+}
+
+TEST_F(OrderSyncManagerTest, GoesBackToTheDefaultSessionOnFailureAndOnExpiry) {
+    saveInFront();
+    services.requests.saveOrder.fail(failureWith({}));
+    EXPECT_EQ(sessions.last(), QStringLiteral("default"));
+    saveInFront();
+    services.requests.saveOrder.succeed({});
+    EXPECT_EQ(sessions.last(), QStringLiteral("background")) << "an answer without a number changes nothing";
+    clock.advance(OrderSyncManager::extensionBudget);
+    EXPECT_EQ(sessions.last(), QStringLiteral("default"));
+}
+
+TEST_F(OrderSyncManagerTest, AnOrderWithoutANameStopsTheProcessOnceItIsStored) {
+    saveInFront();
+    clock.advance(std::chrono::seconds(1));
+    EXPECT_EQ(notifications.posted.at(0).body,
+              QStringLiteral("Su pedido sin nombre se sincronizará con la nube cuando tenga conexión a internet."));
+    EXPECT_EXIT(services.requests.saveOrder.succeed(stored(1)), ::testing::ExitedWithCode(stoppedExitStatus), "file name");
+}
+
+TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServer) {
+    draft("a");
+    draft("b");
+    draft("c");
+    draft("ya en la nube", 5);
+    manager.scheduleBrochureSync();
+    std::optional<bool> outcome;
+    auto task = tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
+    EXPECT_TRUE(tasks.pending.contains(QLatin1String(OrderSyncManager::taskIdentifier))) << "the next run is planned";
+    ASSERT_EQ(services.requests.saveOrder.calls.size(), 2U);
+    services.requests.saveOrder.succeed(stored(11));
+    services.requests.saveOrder.succeed(stored(12));
+    // A run whose last order went through waits for its expiry, by the system's own comparison.
+    EXPECT_FALSE(outcome.has_value());
+    task->expire();
+    EXPECT_EQ(outcome, false);
+
+    tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
+    ASSERT_EQ(services.requests.saveOrder.calls.size(), 3U) << "the third goes in a later run";
+    services.requests.saveOrder.fail(failureWith({}));
+    EXPECT_EQ(outcome, true) << "a run whose last order failed is over";
+}
+
+TEST_F(OrderSyncManagerTest, ARunWithoutDraftsEndsOnlyByExpiryAndABrokenDraftStopsIt) {
+    std::optional<bool> outcome;
+    auto task = tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
+    EXPECT_TRUE(waitFor([&] { return !outcome; }));
+    task->expire();
+    EXPECT_EQ(outcome, false);
+    put(folder / "orders/draft_orders/SaveBrochuresOrder/rota.zvo", "{");
+    EXPECT_EXIT(tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [](bool) {}),
+                ::testing::ExitedWithCode(stoppedExitStatus), "rota.zvo");
+}
+
+} // namespace
+} // namespace kavor
