@@ -1,0 +1,163 @@
+#include "network/NetworkManager.h"
+
+#include "base/Log.h"
+#include "device/Clock.h"
+#include "device/Reachability.h"
+#include "network/Pipeline.h"
+#include "shell/AppSingleton.h"
+#include "shell/LoginResult.h"
+
+#include <QFutureWatcher>
+#include <QUuid>
+#include <QtConcurrentRun>
+
+#include <utility>
+
+namespace kavor {
+
+QByteArray newIdempotencyKey() {
+    return QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
+}
+
+NetworkManager::NetworkManager(NetworkConfiguration configuration, const Collaborators& collaborators,
+                               QObject* parent)
+    : QObject(parent)
+    , networkConfiguration_(std::move(configuration))
+    , reachability_(collaborators.reachability)
+    , clock_(collaborators.clock)
+    , retrier_(
+          collaborators.auth,
+          [this](const StoredCredentials& credentials, const RequestRetrier::LoginAnswers& answers) {
+              silentLogin(credentials, answers);
+          },
+          [this](const std::string& token) { accessToken_ = QString::fromStdString(token); })
+    , trafficLog_(qEnvironmentVariable("KAVOR_TRAFFIC_LOG")) {
+    configureSession(defaultConfiguration());
+}
+
+NetworkManager::~NetworkManager() = default;
+
+SessionConfiguration NetworkManager::defaultConfiguration() {
+    const AppSingleton& app = AppSingleton::shared();
+    SessionConfiguration configuration;
+    configuration.additionalHeaders = {{"version", QByteArray::fromStdString(app.version)},
+                                       {"compilation", QByteArray::fromStdString(app.compilation)},
+                                       {"User-Agent", "Kavor/" + QByteArray::fromStdString(app.version)}};
+    return configuration;
+}
+
+SessionConfiguration NetworkManager::backgroundConfiguration() {
+    SessionConfiguration configuration = defaultConfiguration();
+    configuration.waitsForConnectivity = true;
+    return configuration;
+}
+
+void NetworkManager::configureSession(const SessionConfiguration& configuration) {
+    if (HttpSession* old = sessionManager_.release()) {
+        old->invalidate();
+        old->deleteLater(); // an answer of it may be the one that brought us here
+    }
+    for (const RequestPointer& request : std::exchange(inFlight_, {})) {
+        if (request->isSilentLogin)
+            retrier_.refreshWasLost();
+    }
+    additionalHeaders_ = configuration.additionalHeaders;
+    sessionManager_ = std::make_unique<HttpSession>(configuration, clock_, reachability_);
+}
+
+bool NetworkManager::isReachable() const {
+    return reachability_.isReachable();
+}
+
+QString NetworkManager::baseUrl() const {
+    return QString::fromStdString(networkConfiguration_.urls.baseURLPro);
+}
+
+QString NetworkManager::forgotPasswordUrl() const {
+    return baseUrl() + QString::fromStdString(networkConfiguration_.urls.forgotPasswordURL);
+}
+
+QUrl NetworkManager::urlOf(const std::string& path, const QString& trailing) const {
+    return QUrl(baseUrl() + QString::fromStdString(path) + trailing);
+}
+
+void NetworkManager::run(const RequestPointer& request) {
+    inFlight_.insert(request);
+    request->startedAt = clock_.now().toMSecsSinceEpoch();
+    sessionManager_->send(adapted(*request),
+                          [this, request](const HttpAnswer& answer) { received(request, answer); });
+}
+
+HttpRequest NetworkManager::adapted(const PipelineRequest& request) const {
+    const Operation& operation = request.operation;
+    HttpRequest adapted{operation.method, operation.url, {}, operation.body, operation.contentType};
+    adapted.headers.append({"Authorization", "Bearer " + accessToken_.toUtf8()});
+    if (!request.idempotencyKey.isEmpty())
+        adapted.headers.append({"Idempotency-Key", request.idempotencyKey});
+    return adapted;
+}
+
+void NetworkManager::received(const RequestPointer& request, const HttpAnswer& answer) {
+    inFlight_.erase(request);
+    if (trafficLog_.isOpen())
+        trafficLog_.write({request->operation.name, adapted(*request), additionalHeaders_, answer,
+                           clock_.now().toMSecsSinceEpoch() - request->startedAt});
+    if (answer.fault == HttpAnswer::Fault::None && answer.status == 200)
+        decode(request, answer);
+    else
+        failed(request, answer);
+}
+
+// Large answers take a while, so all are read in a worker thread; a watcher brings the end back to this one.
+void NetworkManager::decode(const RequestPointer& request, const HttpAnswer& answer) {
+    using Watcher = QFutureWatcher<std::optional<json::Error>>;
+    auto* watcher = new Watcher(this);
+    connect(watcher, &Watcher::finished, this, [this, watcher, request, answer] {
+        const std::optional<json::Error> error = watcher->result();
+        watcher->deleteLater();
+        if (!error) {
+            request->succeed();
+            return;
+        }
+        logLine(request->operation.name.toStdString() + ": " + error->text());
+        failed(request, answer);
+    });
+    watcher->setFuture(
+        QtConcurrent::run([decode = request->decode, body = answer.body]() -> std::optional<json::Error> {
+            return decode(body);
+        }));
+}
+
+void NetworkManager::failed(const RequestPointer& request, const HttpAnswer& answer) {
+    const auto status = answer.status != 0 ? std::optional(answer.status) : std::nullopt;
+    retrier_.decide(status,
+                    {[request, answer] { request->fail(mapFailure(answer)); },
+                     [this, request](std::chrono::milliseconds delay) { repeatAfter(request, delay); }});
+}
+
+void NetworkManager::repeatAfter(const RequestPointer& request, std::chrono::milliseconds delay) {
+    if (delay.count() == 0) {
+        run(request);
+        return;
+    }
+    inFlight_.insert(request);
+    HttpSession* session = sessionManager_.get();
+    clock_.after(delay, session, [this, request, session] {
+        if (session == sessionManager_.get())
+            run(request);
+    });
+}
+
+void NetworkManager::silentLogin(const StoredCredentials& credentials,
+                                 const RequestRetrier::LoginAnswers& answers) {
+    const LoginParameters parameters{QString::fromStdString(credentials.account),
+                                     QString::fromStdString(credentials.password), std::nullopt};
+    const Completion<LoginResult> done(
+        nullptr, [success = answers.success](const LoginResult& result) { success(result.token); },
+        [failure = answers.failure](const RequestFailure&) { failure(); });
+    const RequestPointer request = prepare(loginOperation(parameters), done, decodeBody<LoginResult>);
+    request->isSilentLogin = true;
+    run(request);
+}
+
+} // namespace kavor

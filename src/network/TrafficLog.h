@@ -1,0 +1,37 @@
+#pragma once
+
+#include "network/HttpSession.h"
+
+#include <QFile>
+#include <QString>
+
+namespace kavor {
+
+// Passwords and tokens taken out of a text: values of JSON members, of form fields and behind "Bearer".
+QByteArray redacted(const QByteArray& text);
+// A header's value, blanked when the header carries a secret.
+QByteArray redactedHeader(const QByteArray& name, const QByteArray& value);
+
+// One line of JSON for each request and its answer, for diagnosis; written only when asked for. Nothing
+// secret goes into it. Members: "time", "operation", "method", "path", "status" (0 without an answer), "ms",
+// "fault" (when there is one), "requestHeaders", "requestBody", "answerHeaders", "answerBody".
+class TrafficLog {
+public:
+    // An empty name writes nothing.
+    explicit TrafficLog(const QString& fileName);
+
+    struct Entry {
+        QString operation;
+        HttpRequest request;
+        HttpHeaders additionalHeaders;
+        HttpAnswer answer;
+        qint64 milliseconds = 0;
+    };
+    [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
+    void write(const Entry& entry);
+
+private:
+    QFile file_;
+};
+
+} // namespace kavor

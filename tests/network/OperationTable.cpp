@@ -1,0 +1,195 @@
+#include "OperationTable.h"
+
+#include "account/UserProfile.h"
+#include "activations/ActivationOrder.h"
+#include "base/json/Json.h"
+#include "brochures/engine/PriceRecommendationResponse.h"
+#include "brochures/engine/RetrieveBrochureOrderListResponse.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
+#include "catalogue/Catalogue.h"
+#include "network/records/ErrorRecords.h"
+#include "orders/OrderList.h"
+#include "promotions/PromotionOrder.h"
+#include "sellingsheets/SellingSheetOrder.h"
+#include "shell/LoginResult.h"
+#include "textile/SaveTextileOrder.h"
+
+namespace kavor {
+
+namespace {
+
+template <class Response>
+QByteArray encoded() {
+    return QByteArray::fromStdString(json::encode(Response()).value());
+}
+
+SaveBrochuresOrder brochure() {
+    SaveBrochuresOrder order;
+    order.filename = "Bar Ñ & Cía";
+    return order;
+}
+
+std::vector<OperationCase> makeTable() {
+    using NM = NetworkManager;
+    const QByteArray generic = encoded<GenericOrderResponse>();
+    const QByteArray message = R"({"msg": "hecho"})";
+    return {
+        {"loginURL", "POST", "/loginURL", "login=ana%2B1%40bar.es&password=a%26b%20%C3%B1%3D%25", goodLogin,
+         [](NM& m, Outcome& o) {
+             m.login({QStringLiteral("ana+1@bar.es"), QStringLiteral("a&b ñ=%"), {}},
+                     o.completion<LoginResult>());
+         }},
+        {"userInformation", "GET", "/userInformation", "", goodLogin,
+         [](NM& m, Outcome& o) { m.userInformation(o.completion<LoginResult>()); }},
+        {"appInformationURL", "GET", "/appInformationURL", "", encoded<ApplicationInformation>(),
+         [](NM& m, Outcome& o) { m.appInformation(o.completion<std::shared_ptr<const Catalogue>>()); }},
+        {"profileInformationURL", "GET", "/profileInformationURL", "", encoded<UserProfile>(),
+         [](NM& m, Outcome& o) { m.profileInformation(o.completion<UserProfile>()); }},
+        {"suggestionMailboxAdd", "POST",
+         "/suggestionMailboxAdd?body=M%C3%A1s%20%26%20mejor%2B%3F&category_id=4", "", message,
+         [](NM& m, Outcome& o) {
+             m.suggestionMailboxAdd(4, QStringLiteral("Más & mejor+?"), o.completion<MessageResponse>());
+         },
+         true},
+        {"getCustomerDataFromTevoCodeURL", "GET",
+         "/getCustomerDataFromTevoCodeURL?application_type_id=1&tevo=B%2F00%2B1", "", R"([{"name": "Bar"}])",
+         [](NM& m, Outcome& o) {
+             m.getCustomerDataFromTevoCode(QStringLiteral("B/00+1"), o.completion<std::vector<Customer>>());
+         }},
+        {"searchMapsURL", "POST", "/searchMapsURL?direction=Calle%20Mayor%2C%203", "",
+         encoded<SearchMapsResponse>(),
+         [](NM& m, Outcome& o) {
+             m.searchMaps(QStringLiteral("Calle Mayor, 3"), o.completion<SearchMapsResponse>());
+         }},
+        {"priceRecommendationURL", "POST",
+         "/priceRecommendationURL?placeLocality=Alcal%C3%A1&placePostalCode=28801&product_id=12", "",
+         encoded<PriceRecommendationResponse>(),
+         [](NM& m, Outcome& o) {
+             m.priceRecommendation(12, QStringLiteral("28801"), QStringLiteral("Alcalá"),
+                                   o.completion<PriceRecommendationResponse>());
+         }},
+        {"saveOrderURL",
+         "POST",
+         "/saveOrderURL",
+         "",
+         encoded<SaveBrochuresOrderResponse>(),
+         [](NM& m, Outcome& o) { m.saveOrder(brochure(), o.completion<SaveBrochuresOrderResponse>()); },
+         true,
+         false,
+         {"\n  \"name_archive_tablet\": \"Bar Ñ & Cía\"", "\"save\": 3"}},
+        {"retrieveBrochureOrderListURL", "POST", "/retrieveBrochureOrderListURL",
+         "cloud=1&current_year=0&order_id=&pdv=Bar%20%C3%91&sin_confirmar=7&tevo=", encoded<OrderList>(),
+         [](NM& m, Outcome& o) {
+             m.retrieveBrochureOrderList({.orderId = {},
+                                          .tevo = {},
+                                          .pdv = QStringLiteral("Bar Ñ"),
+                                          .sinConfirmar = 7,
+                                          .sinCompletar = {},
+                                          .currentYear = 0,
+                                          .cloud = true},
+                                         o.completion<OrderList>());
+         }},
+        {"retrieveBrochureOrderURL", "GET", "/retrieveBrochureOrderURL/31", "",
+         encoded<RetrieveBrochureOrderListResponse>(),
+         [](NM& m, Outcome& o) {
+             m.retrieveBrochureOrder(31, o.completion<RetrieveBrochureOrderListResponse>());
+         }},
+        {"deleteOrder",
+         "DELETE",
+         "/deleteOrder",
+         "",
+         "{}",
+         [](NM& m, Outcome& o) {
+             m.deleteOrder(9, ApplicationType::orderFood, o.completion<SimpleResponse>());
+         },
+         true,
+         true,
+         {"\"application_type_id\": 3", "\"id\": 9"}},
+        {"claimOrder", "POST", "/claimOrder?comment=falta%20%22todo%22&order_id=5", "", message,
+         [](NM& m, Outcome& o) {
+             m.claimOrder(5, QStringLiteral("falta \"todo\""), o.completion<MessageResponse>());
+         },
+         true},
+        {"demandBrandQr", "POST",
+         "/demandBrandQr?brand_qr_id=2&comment=ya&order_id=1&quantity_qr=4&quantity_qr_circular=5&"
+         "quantity_qr_taco=6&type=3",
+         "", message,
+         [](NM& m, Outcome& o) {
+             m.demandBrandQr({1, 2, 3, 4, 5, 6, QStringLiteral("ya")},
+                             o.completion<DemandBrandQrErrorResponse>());
+         },
+         true},
+        {"sendRawOrder",
+         "POST",
+         "/sendRawOrder",
+         "",
+         "{}",
+         [](NM& m, Outcome& o) {
+             m.sendRawOrder(brochure(), QStringLiteral("2024.zvo"), o.completion<SimpleResponse>());
+         },
+         true,
+         true,
+         {"\"fileName\": \"2024.zvo\"", "\"name_archive_tablet\""}},
+        {"createTextileOrder",
+         "POST",
+         "/createTextileOrder",
+         "",
+         encoded<SaveTextileOrderResponse>(),
+         [](NM& m, Outcome& o) { m.createTextileOrder({}, o.completion<SaveTextileOrderResponse>()); },
+         true,
+         false,
+         {"\"order\": {", "\"lines\": []"}},
+        {"retrieveTextileOrder", "GET", "/retrieveTextileOrder/8", "",
+         encoded<RetrieveTextileOrderResponse>(),
+         [](NM& m, Outcome& o) { m.retrieveTextileOrder(8, o.completion<RetrieveTextileOrderResponse>()); }},
+        {"promotionOrderSendURL",
+         "POST",
+         "/promotionOrderSendURL",
+         "",
+         generic,
+         [](NM& m, Outcome& o) { m.promotionOrderSend({}, o.completion<GenericOrderResponse>()); },
+         true,
+         false,
+         {"\"promotion_id\": 0"}},
+        {"sellingSheetOrderListURL", "GET", "/sellingSheetOrderListURL", "",
+         encoded<SellingSheetOrderListResponse>(),
+         [](NM& m, Outcome& o) { m.sellingSheetOrderList(o.completion<SellingSheetOrderListResponse>()); }},
+        {"sellingSheetOrderSendURL",
+         "POST",
+         "/sellingSheetOrderSendURL",
+         "",
+         generic,
+         [](NM& m, Outcome& o) { m.sellingSheetOrderSend({}, o.completion<GenericOrderResponse>()); },
+         true,
+         false,
+         {"\"style_id\": 0"}},
+        {"sellingSheetOrderDeleteURL", "POST", "/sellingSheetOrderDeleteURL?order_id=6&order_token=x%3D%3D",
+         "", "{}",
+         [](NM& m, Outcome& o) {
+             m.sellingSheetOrderDelete(6, QStringLiteral("x=="), o.completion<SimpleResponse>());
+         },
+         true, true},
+        {"activationOrderURL",
+         "POST",
+         "/activationOrderURL",
+         "",
+         encoded<SaveBrochuresOrderActivationResponse>(),
+         [](NM& m, Outcome& o) {
+             m.activationOrder({}, o.completion<SaveBrochuresOrderActivationResponse>());
+         },
+         true,
+         false,
+         {"\"activation_id\": 0"}},
+        {"activationUserQuota", "GET", "/activationUserQuota", "", encoded<ActivationsUserQuota>(),
+         [](NM& m, Outcome& o) { m.activationUserQuota(o.completion<ActivationsUserQuota>()); }},
+    };
+}
+
+} // namespace
+
+const std::vector<OperationCase>& everyOperation() {
+    static const std::vector<OperationCase> table = makeTable();
+    return table;
+}
+
+} // namespace kavor

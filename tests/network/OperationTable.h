@@ -1,0 +1,31 @@
+#pragma once
+
+#include "NetworkFixture.h"
+
+#include <QByteArray>
+
+#include <functional>
+#include <ostream>
+#include <vector>
+
+namespace kavor {
+
+// One operation of the backend: how it is called, what it sends, and an answer that it takes.
+struct OperationCase {
+    const char* name;
+    QByteArray method;
+    QByteArray target; // path and query behind "/api"
+    QByteArray form;   // the body when it is a form
+    QByteArray answer;
+    std::function<void(NetworkManager&, Outcome&)> start;
+    bool changesServer = false;
+    bool takesAnyDocument = false;
+    std::vector<QByteArray> bodyHas = {}; // pieces of a JSON body
+
+    [[nodiscard]] QByteArray path() const { return "/api" + target.split('?').first(); }
+    friend std::ostream& operator<<(std::ostream& out, const OperationCase& each) { return out << each.name; }
+};
+
+const std::vector<OperationCase>& everyOperation();
+
+} // namespace kavor

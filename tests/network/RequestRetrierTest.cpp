@@ -1,0 +1,155 @@
+#include "NetworkFixture.h"
+#include "shell/LoginResult.h"
+
+// An expired token and what becomes of the requests that meet it.
+namespace kavor {
+namespace {
+
+using A = ScriptedAnswer;
+using namespace std::chrono_literals;
+
+int requestsWith(const ScriptedServer& server, const QByteArray& path, const QByteArray& authorization) {
+    int count = 0;
+    for (const ScriptedRequest& request : server.requestsTo(path))
+        count += request.header("authorization") == authorization;
+    return count;
+}
+
+TEST(RequestRetrier, RepairsAnExpiredTokenWithTheStoredCredentialUnseenByTheCaller) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.server.answer(loginPath, A::json(goodLogin));
+    const Outcome& outcome = rig.start();
+    ASSERT_TRUE(waitFor([&] { return outcome.ended(); }));
+    EXPECT_EQ(outcome.successes, 1);
+    EXPECT_EQ(rig.manager.accessToken(), "fresh");
+    EXPECT_FALSE(rig.manager.isTokenRefreshing());
+    ASSERT_EQ(rig.server.requestsTo(loginPath).size(), 1);
+    EXPECT_EQ(rig.server.requestsTo(loginPath).first().body, "login=ana&password=s3cret");
+    EXPECT_EQ(requestsWith(rig.server, infoPath, "Bearer stale"), 1);
+    EXPECT_EQ(requestsWith(rig.server, infoPath, "Bearer fresh"), 1);
+    EXPECT_EQ(rig.auth.readCredentials()->token, "stored") << "the keychain keeps the old token";
+}
+
+TEST(RequestRetrier, LeavesTheSecondOfTwoExpiredRequestsUnanswered) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.server.answer(loginPath, A::json(goodLogin));
+    rig.server.hold();
+    const Outcome& first = rig.start();
+    const Outcome& second = rig.start();
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 2; }));
+    rig.server.release();
+    ASSERT_TRUE(waitFor([&] { return first.ended() || second.ended(); }));
+    const Outcome& third = rig.start();
+    ASSERT_TRUE(waitFor([&] { return third.ended(); }));
+    EXPECT_EQ(first.successes + second.successes, 1);
+    EXPECT_EQ(first.failures + second.failures, 0);
+    EXPECT_EQ(rig.server.requestsTo(infoPath).size(), 4);
+    EXPECT_EQ(rig.server.requestsTo(loginPath).size(), 1);
+}
+
+TEST(RequestRetrier, LetsNoFailurePastA401WithoutACredentialButEverySuccess) {
+    Rig rig;
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.then(infoPath, A::empty(500));
+    rig.server.then(infoPath, A::json("not json"));
+    rig.server.then(infoPath, A::empty(419));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    for (int i = 0; i < 4; ++i) {
+        rig.start();
+        ASSERT_TRUE(rig.waitForRequests(i + 1));
+    }
+    for (int i = 0; i < 3; ++i) {
+        const Outcome& good = rig.start();
+        ASSERT_TRUE(waitFor([&] { return good.ended(); }));
+        EXPECT_EQ(good.successes, 1);
+    }
+    rig.clock.advance(300s);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_FALSE(rig.outcomes[i]->ended()) << i;
+    EXPECT_EQ(rig.server.requests().size(), 7) << "nothing is repeated";
+    EXPECT_TRUE(rig.manager.isTokenRefreshing());
+}
+
+TEST(RequestRetrier, HangsForGoodWhenTheLoginBringsNoToken) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.then(infoPath, A::empty(500));
+    rig.server.answer(loginPath, A::json(R"({"msg": "hola"})"));
+    const Outcome& hanging = rig.start();
+    ASSERT_TRUE(waitFor([&] { return !rig.server.requestsTo(loginPath).isEmpty(); }));
+    const Outcome& other = rig.start();
+    ASSERT_TRUE(waitFor([&] { return other.ended(); }));
+    EXPECT_EQ(other.failures, 1) << "other failures go on";
+    EXPECT_FALSE(hanging.ended());
+    EXPECT_TRUE(rig.manager.isTokenRefreshing());
+    EXPECT_EQ(rig.manager.accessToken(), "stale");
+}
+
+TEST(RequestRetrier, RepeatsWithTheOldTokenAfterAFailedLoginAndGoesRoundWhileTheServerSays401) {
+    Rig rig(true);
+    for (int i = 0; i < 3; ++i)
+        rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.server.answer(loginPath, A::json(R"({"msg": "clave caducada"})", 422));
+    const Outcome& outcome = rig.start();
+    ASSERT_TRUE(waitFor([&] { return outcome.ended(); }));
+    EXPECT_EQ(outcome.successes, 1);
+    EXPECT_EQ(rig.server.requestsTo(loginPath).size(), 3);
+    EXPECT_EQ(requestsWith(rig.server, infoPath, "Bearer stale"), 4);
+    EXPECT_EQ(rig.manager.accessToken(), "stale");
+}
+
+TEST(RequestRetrier, HangsWhenTheLoginOfTheRepairIsItselfRefusedWith401) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.server.answer(loginPath, A::empty(401));
+    const Outcome& hanging = rig.start();
+    ASSERT_TRUE(waitFor([&] { return !rig.server.requestsTo(loginPath).isEmpty(); }));
+    const Outcome& sentinel = rig.start();
+    ASSERT_TRUE(waitFor([&] { return sentinel.ended(); }));
+    EXPECT_FALSE(hanging.ended());
+    EXPECT_EQ(rig.server.requestsTo(loginPath).size(), 1);
+}
+
+TEST(RequestRetrier, RepeatsA419EveryTenSecondsAsOftenAsItComes) {
+    Rig rig;
+    rig.server.answer(infoPath, A::empty(419));
+    const Outcome& outcome = rig.start();
+    for (int round = 1; round <= 15; ++round) { // well past the deadline of a single request
+        ASSERT_TRUE(rig.waitForRequests(round));
+        ASSERT_TRUE(waitFor([&] { return rig.clock.untilNext() == 10s; }));
+        rig.clock.advance(9999ms);
+        EXPECT_EQ(rig.clock.pending(), 1);
+        if (round == 15)
+            rig.server.answer(infoPath, A::json(goodLogin));
+        rig.clock.advance(1ms);
+    }
+    ASSERT_TRUE(waitFor([&] { return outcome.ended(); }));
+    EXPECT_EQ(outcome.successes, 1);
+    EXPECT_EQ(rig.server.requests().size(), 16);
+}
+
+TEST(RequestRetrier, LosesARepairWithItsSessionAndCanStartAnother) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.then(loginPath, A::of(A::Kind::Silence));
+    rig.server.answer(loginPath, A::json(goodLogin));
+    const Outcome& lost = rig.start();
+    ASSERT_TRUE(waitFor([&] { return !rig.server.requestsTo(loginPath).isEmpty(); }));
+    rig.manager.configureSession(NetworkManager::defaultConfiguration());
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    const Outcome& next = rig.start();
+    ASSERT_TRUE(waitFor([&] { return next.ended(); }));
+    EXPECT_EQ(next.successes, 1);
+    EXPECT_FALSE(lost.ended());
+}
+
+} // namespace
+} // namespace kavor
