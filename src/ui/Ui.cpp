@@ -1,0 +1,51 @@
+#include "ui/Ui.h"
+
+#include "ui/PdfPageProvider.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QQmlEngine>
+
+#include <initializer_list>
+
+// Written by the build. In a static library nothing else would keep them.
+extern void qml_register_types_Kavor_Ui();
+
+static void initialiseResources() {
+    Q_INIT_RESOURCE(qmake_Kavor_Ui);
+    Q_INIT_RESOURCE(kavor_ui_raw_qml_0);
+    Q_INIT_RESOURCE(kavor_ui_assets);
+    Q_INIT_RESOURCE(qmlcache_kavor_ui);
+}
+
+namespace kavor {
+
+namespace {
+
+void addFonts() {
+    for (const char* weight : {"Regular", "Medium", "Bold"}) {
+        if (QFontDatabase::addApplicationFont(QStringLiteral(":/kavor/ui/fonts/Roboto-%1.ttf").arg(weight)) <
+            0)
+            qWarning("the bundled font Roboto %s cannot be read", weight);
+    }
+    QFont font(QStringLiteral("Roboto"));
+    font.setPixelSize(15);
+    QGuiApplication::setFont(font);
+}
+
+} // namespace
+
+void registerUi(QQmlEngine& engine) {
+    static const bool once = [] {
+        initialiseResources();
+        volatile auto registration = &qml_register_types_Kavor_Ui;
+        Q_UNUSED(registration);
+        addFonts();
+        return true;
+    }();
+    Q_UNUSED(once);
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImageProvider(PdfPageProvider::name(), new PdfPageProvider);
+}
+
+} // namespace kavor

@@ -1,0 +1,8 @@
+import QtQuick
+
+// Stands where a step is still to come.
+EmptyState {
+    icon: "clock"
+    tone: "amber"
+    title: "Próximamente"
+}

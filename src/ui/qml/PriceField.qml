@@ -1,0 +1,156 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// Edits one price. Shows `displayText` (with its currency) at rest and `editText` while it has the focus.
+// Comma and point of the keypad both write the decimal comma. `entered` when the focus comes, `edited` on each
+// change, `finished(text)` with what was typed when it goes; Escape gives back what stood there.
+FocusScope {
+    id: price
+
+    property string label: ""
+    property string displayText: ""
+    property string editText: ""
+    property string placeholder: "0,00 €"
+    property string error: ""
+    property string decimalSign: ","
+    property int maximumDecimals: 2
+    property bool readOnly: false
+    property bool emphasised: false
+    readonly property alias field: field
+
+    signal entered()
+    signal edited(string text)
+    signal finished(string text)
+
+    // What was typed or pasted, with one decimal sign at most.
+    function normalised(text: string): string {
+        let digits = text.replace(/[^0-9.,]/g, "");
+        const lastPoint = digits.lastIndexOf("."), lastComma = digits.lastIndexOf(",");
+        const decimalAt = Math.max(lastPoint, lastComma);
+        if (decimalAt < 0)
+            return digits;
+        const whole = digits.slice(0, decimalAt).replace(/[.,]/g, "");
+        return whole + decimalSign + digits.slice(decimalAt + 1, decimalAt + 1 + maximumDecimals);
+    }
+
+    implicitWidth: 120
+    implicitHeight: (label !== "" ? caption.implicitHeight + 6 : 0) + field.height + (error !== "" ? 22 : 0)
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: field.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    Text {
+        id: caption
+
+        width: parent.width
+        visible: price.label !== ""
+        text: price.label
+        color: price.error !== "" ? Theme.dangerDark : Theme.mutedInk
+        elide: Text.ElideRight
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.fontSmall
+        font.weight: Font.Medium
+    }
+
+    T.TextField {
+        id: field
+
+        property bool editing: false
+        property string before: "" // the text before the last key
+
+        function begin(): void {
+            editing = true;
+            price.entered();
+            text = before = price.editText;
+            selectAll();
+            InputMethod.show();
+        }
+        function end(): void {
+            if (!editing)
+                return;
+            editing = false;
+            price.finished(text);
+            text = Qt.binding(() => price.displayText);
+            deselect();
+        }
+
+        y: price.label !== "" ? caption.implicitHeight + 6 : 0
+        width: parent.width
+        height: Theme.touch
+        focus: true
+        text: price.displayText
+        readOnly: price.readOnly
+        leftPadding: Theme.spaceM
+        rightPadding: Theme.spaceM
+        horizontalAlignment: TextInput.AlignRight
+        verticalAlignment: TextInput.AlignVCenter
+        color: enabled ? Theme.ink : Theme.mutedInk
+        selectionColor: Theme.amber
+        selectedTextColor: Theme.ink
+        selectByMouse: true
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.fontLarge
+        font.weight: price.emphasised ? Font.Bold : Font.Normal
+        inputMethodHints: Qt.ImhFormattedNumbersOnly
+
+        Accessible.role: Accessible.EditableText
+        Accessible.name: price.label !== "" ? price.label : "Precio"
+        Accessible.description: price.error
+
+        onActiveFocusChanged: {
+            if (activeFocus && !readOnly)
+                begin();
+            else
+                end();
+        }
+        onTextEdited: {
+            const key = text.charAt(cursorPosition - 1);
+            // A second decimal sign is refused; pasted texts may bring points of thousands.
+            const second = text.length === before.length + 1 && (key === "," || key === ".")
+                && before.indexOf(price.decimalSign) >= 0;
+            const wanted = second ? before : price.normalised(text);
+            if (wanted !== text) {
+                const fromEnd = text.length - cursorPosition;
+                text = wanted;
+                cursorPosition = Math.max(0, wanted.length - fromEnd);
+            }
+            before = text;
+            price.edited(text);
+        }
+        Keys.onEscapePressed: {
+            text = before = price.editText;
+            selectAll();
+        }
+        // Enter goes on to the next field, as one types a column of prices.
+        Keys.onReturnPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+        Keys.onEnterPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+
+        background: FieldFrame {
+            active: field.activeFocus
+            wrong: price.error !== ""
+            usable: field.enabled && !field.readOnly
+        }
+
+        Text {
+            anchors.fill: parent
+            anchors.rightMargin: field.rightPadding
+            horizontalAlignment: Text.AlignRight
+            verticalAlignment: Text.AlignVCenter
+            visible: field.length === 0 && field.preeditText === ""
+            text: price.placeholder
+            color: Theme.mutedInk
+            opacity: 0.6
+            font: field.font
+        }
+    }
+
+    HelpText {
+        anchors.top: field.bottom
+        anchors.topMargin: 4
+        width: parent.width
+        text: price.error
+        tone: "danger"
+    }
+}

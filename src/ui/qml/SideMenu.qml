@@ -1,0 +1,6 @@
+import QtQuick
+
+// The same entries, always as a rail.
+StepMenu {
+    vertical: true
+}

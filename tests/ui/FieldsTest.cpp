@@ -1,0 +1,126 @@
+#include "UiScene.h"
+
+#include <gtest/gtest.h>
+
+namespace kavor {
+
+namespace {
+
+// A price field that keeps what it hands over, and a neighbour to leave it for.
+const char* const kPrice = R"(
+    PriceField { id: price; objectName: "price"; x: 20; y: 20; width: 160
+        displayText: "2,50 €"; editText: "2,5"
+        onEntered: window.log = window.log.concat("entered")
+        onFinished: (text) => window.log = window.log.concat("finished " + text) }
+    TextRow { objectName: "other"; x: 20; y: 120; width: 300; label: "Otro" }
+)";
+
+QString fieldText(const UiScene& scene, const QString& name) {
+    return qvariant_cast<QQuickItem*>(scene.value(name, "field"))->property("text").toString();
+}
+
+} // namespace
+
+TEST(PriceField, TakesCommaAndPointAsTheDecimalSign) {
+    struct Case {
+        const char* typed;
+        const char* wanted;
+    };
+    for (const Case& c :
+         {Case{"3.4", "3,4"}, Case{"3,4", "3,4"}, Case{"12.345", "12,34"}, Case{"1.2.3", "1,23"},
+          Case{"1,2.3", "1,23"}, Case{"2x5", "25"}, Case{".5", ",5"}, Case{"7", "7"}}) {
+        UiScene scene(QString::fromUtf8(kPrice));
+        scene.click("price");
+        scene.type(c.typed);
+        EXPECT_EQ(fieldText(scene, "price"), c.wanted) << c.typed;
+    }
+}
+
+TEST(PriceField, ShowsCurrencyAtRestAndThePlainNumberWhileEdited) {
+    UiScene scene(QString::fromUtf8(kPrice));
+    EXPECT_EQ(fieldText(scene, "price"), "2,50 €");
+    scene.click("price");
+    EXPECT_EQ(fieldText(scene, "price"), "2,5");
+    scene.type("9");
+    scene.key(Qt::Key_Tab);
+    EXPECT_EQ(scene.focusName(), "other");
+    EXPECT_EQ(fieldText(scene, "price"), "2,50 €") << "the owner refused the new price";
+    EXPECT_EQ(scene.log(), QStringList({"entered", "finished 9"}));
+    scene.window()->findChild<QQuickItem*>("price")->setProperty("displayText", "9,00 €");
+    EXPECT_EQ(fieldText(scene, "price"), "9,00 €");
+    EXPECT_TRUE(scene.warnings().isEmpty());
+}
+
+TEST(PriceField, EscapeGivesBackWhatStoodThereAndEnterGoesOn) {
+    UiScene scene(QString::fromUtf8(kPrice));
+    scene.click("price");
+    scene.type("88");
+    scene.key(Qt::Key_Escape);
+    EXPECT_EQ(fieldText(scene, "price"), "2,5");
+    scene.key(Qt::Key_Return);
+    EXPECT_EQ(scene.focusName(), "other");
+    EXPECT_EQ(scene.log(), QStringList({"entered", "finished 2,5"}));
+}
+
+TEST(TextRow, HandsItsTextOverBeforeATappedButtonActs) {
+    UiScene scene(R"(
+        TextRow { objectName: "name"; x: 20; y: 20; width: 300; label: "Nombre"; maximumLength: 5
+            onFinished: (text) => window.log = window.log.concat("finished " + text) }
+        AppButton { objectName: "send"; x: 20; y: 140; text: "Enviar"; onClicked: window.log = window.log.concat("sent") }
+    )");
+    scene.click("name");
+    scene.type("Marisol");
+    scene.click("send");
+    EXPECT_EQ(scene.log(), QStringList({"finished Maris", "sent"}));
+}
+
+TEST(QuantityField, AsksOnlyForValuesWithinItsLimits) {
+    UiScene scene(R"(
+        QuantityField { id: copies; objectName: "copies"; x: 20; y: 20; value: 2; minimum: 1; maximum: 3
+            onEdited: (wanted) => { value = wanted; window.log = window.log.concat(wanted) } }
+        TextRow { objectName: "other"; x: 20; y: 120; width: 300 }
+    )");
+    scene.click("copiesPlus");
+    scene.click("copiesPlus");
+    scene.click("copiesMinus");
+    scene.click("copies");
+    scene.type("250");
+    scene.key(Qt::Key_Tab);
+    EXPECT_EQ(scene.log(), QStringList({"3", "2", "3"}));
+    EXPECT_EQ(fieldText(scene, "copies"), "3");
+}
+
+TEST(SwitchRow, AsksByTapAndBySpaceAndShowsWhatItsOwnerSays) {
+    UiScene scene(R"(
+        SwitchRow { objectName: "qr"; x: 20; y: 20; width: 300; label: "QR"
+            onToggled: (on) => window.log = window.log.concat(String(on)) }
+    )");
+    scene.click("qr");
+    scene.key(Qt::Key_Space);
+    EXPECT_EQ(scene.log(), QStringList({"true", "true"}));
+    EXPECT_FALSE(scene.value("qr", "checked").toBool());
+}
+
+TEST(FormPage, KeepsTheFieldBeingTypedIntoAboveTheKeyboard) {
+    UiScene scene(R"(
+        FormPage { objectName: "page"; anchors.fill: parent
+            Repeater { model: 12
+                TextRow { required property int index; objectName: "row" + index; Layout.fillWidth: true; label: "Campo" } } }
+    )",
+                  UiScene::kPhone);
+    constexpr int kKeyboard = 320;
+    scene.click("row7");
+    scene.item("page")->setProperty("keyboardHeight", kKeyboard);
+    const QQuickItem* row = scene.item("row7");
+    const auto bottom = [row] { return row->mapToScene({0, row->height()}).y(); };
+    EXPECT_TRUE(UiScene::waitFor([&] { return bottom() <= UiScene::kPhone.height() - kKeyboard; }))
+        << bottom();
+    for (int tab = 0; tab < 4; ++tab)
+        scene.key(Qt::Key_Tab);
+    EXPECT_EQ(scene.focusName(), "row11");
+    row = scene.item("row11");
+    EXPECT_TRUE(UiScene::waitFor([&] { return bottom() <= UiScene::kPhone.height() - kKeyboard; }))
+        << bottom();
+}
+
+} // namespace kavor
