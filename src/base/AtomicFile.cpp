@@ -117,7 +117,8 @@ Done create(const std::filesystem::path& path, std::string_view content) {
 }
 
 tl::expected<std::string, Failure> read(const std::filesystem::path& path) {
-    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    // Without O_NONBLOCK a pipe in the file's place would block until somebody writes to it.
+    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
     if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0)
         return tl::unexpected(failure(path, errno));
@@ -146,6 +147,13 @@ Done remove(const std::filesystem::path& path) {
         return tl::unexpected(failure(path, errno));
     }
     flushFolder(folderOf(path));
+    return {};
+}
+
+Done move(const std::filesystem::path& from, const std::filesystem::path& to) {
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        return tl::unexpected(failure(from, errno));
+    flushFolder(folderOf(to));
     return {};
 }
 

@@ -32,6 +32,9 @@ tl::expected<std::string, Failure> read(const std::filesystem::path& path);
 // Removes a file and flushes its folder. A file that is not there is no failure.
 Done remove(const std::filesystem::path& path);
 
+// Moves a file within its folder, over a file of the new name if there is one, and flushes the folder.
+Done move(const std::filesystem::path& from, const std::filesystem::path& to);
+
 // Makes a folder with its parents; one that exists is no failure.
 Done makeFolder(const std::filesystem::path& folder);
 

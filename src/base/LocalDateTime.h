@@ -1,6 +1,8 @@
 #pragma once
 
+#ifndef Q_MOC_RUN // its parser stops at concepts
 #include <compare>
+#endif
 #include <ctime>
 #include <optional>
 #include <string>

@@ -1,6 +1,8 @@
 #pragma once
 
+#ifndef Q_MOC_RUN // its parser stops at concepts
 #include <compare>
+#endif
 #include <string>
 #include <string_view>
 

@@ -73,4 +73,78 @@ std::string_view label(BrochureType type) {
     return "";
 }
 
+std::string_view caseName(ApplicationType type) {
+    switch (type) {
+    case ApplicationType::orderBeer:
+        return "orderBeer";
+    case ApplicationType::orderDrink:
+        return "orderDrink";
+    case ApplicationType::orderFood:
+        return "orderFood";
+    case ApplicationType::orderFlyer:
+        return "orderFlyer";
+    case ApplicationType::orderChalkboard:
+        return "orderChalkboard";
+    case ApplicationType::orderVideo:
+        return "orderVideo";
+    case ApplicationType::orderMantel:
+        return "orderMantel";
+    case ApplicationType::encarte:
+        return "encarte";
+    case ApplicationType::orderWineA4:
+        return "orderWineA4";
+    case ApplicationType::orderWineOrder:
+        return "orderWineOrder";
+    case ApplicationType::carteleria:
+        return "carteleria";
+    case ApplicationType::promotion:
+        return "promotion";
+    case ApplicationType::carteleriaVino:
+        return "carteleriaVino";
+    case ApplicationType::textil:
+        return "textil";
+    case ApplicationType::textilWine:
+        return "textilWine";
+    case ApplicationType::hojaVendedora:
+        return "hojaVendedora";
+    case ApplicationType::activaciones:
+        return "activaciones";
+    case ApplicationType::rrss:
+        return "rrss";
+    case ApplicationType::mercado:
+        return "mercado";
+    }
+    return "";
+}
+
+std::string_view caseName(BrochureType type) {
+    switch (type) {
+    case BrochureType::beer:
+        return "beer";
+    case BrochureType::beverage:
+        return "beverage";
+    case BrochureType::menu:
+        return "menu";
+    case BrochureType::flyer:
+        return "flyer";
+    case BrochureType::chalkboard:
+        return "chalkboard";
+    case BrochureType::video:
+        return "video";
+    case BrochureType::mantel:
+        return "mantel";
+    case BrochureType::encarte:
+        return "encarte";
+    case BrochureType::wineA4:
+        return "wineA4";
+    case BrochureType::wineOrder:
+        return "wineOrder";
+    case BrochureType::digital:
+        return "digital";
+    case BrochureType::pennant:
+        return "pennant";
+    }
+    return "";
+}
+
 } // namespace kavor

@@ -90,4 +90,8 @@ enum class OrderRequestType : Int { sendToPrint = 1, sendPreview = 2, saveCloud 
 std::string_view label(ApplicationType type);
 std::string_view label(BrochureType type);
 
+// The names of the kinds as the model has them: "beer", "wineA4", "textil" ...
+std::string_view caseName(ApplicationType type);
+std::string_view caseName(BrochureType type);
+
 } // namespace kavor

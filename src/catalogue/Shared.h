@@ -47,10 +47,10 @@ struct Pairing {
     Int position = 0;
 };
 
+// A category of the suggestion box.
 struct SuggestionCategory {
     Int id = 0;
     std::string name;
-    Int position = 0;
 };
 
 // A free field of a style or promotion; its value is entered by the user and travels with the order.

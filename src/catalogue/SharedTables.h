@@ -53,8 +53,7 @@ struct Table<Pairing> {
 template <>
 struct Table<SuggestionCategory> {
     using R = SuggestionCategory;
-    static constexpr auto fields =
-        std::tuple{required("id", &R::id), required("name", &R::name), required("position", &R::position)};
+    static constexpr auto fields = std::tuple{required("id", &R::id), required("name", &R::name)};
 };
 
 template <>

@@ -76,7 +76,8 @@ bool OrderDiskManager::exists(std::string_view name, DirectoryName directory) co
 template <class Order>
 bool OrderDiskManager::create(const Order& order, DirectoryName directory, std::string_view name) const {
     const auto path = orderPath(folder(Order::folderName, directory), fileName(name));
-    if (!path)
+    std::error_code error;
+    if (!path || std::filesystem::exists(*path, error))
         return false;
     const auto text = json::encodePretty(order);
     if (!text) {

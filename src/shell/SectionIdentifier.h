@@ -3,6 +3,7 @@
 #include "catalogue/Enumerations.h"
 
 #include <optional>
+#include <string>
 #include <variant>
 
 namespace kavor {
@@ -31,6 +32,9 @@ struct SectionIdentifier {
         const auto* type = std::get_if<BrochureType>(&value);
         return type ? std::optional(*type) : std::nullopt;
     }
+
+    // "Brochure(beer)", "Textile(textil)", "SellingSheet" ...
+    [[nodiscard]] std::string text() const;
 
     bool operator==(const SectionIdentifier&) const = default;
 };

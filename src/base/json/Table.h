@@ -93,6 +93,7 @@ struct Cases;
 // Carries the error up from the place where it was met; every level puts its step in front of the path.
 struct Context {
     Error error;
+    bool repeated = false; // the key just met was met before in its object
 
     bool fail(std::string reason) {
         error.reason = std::move(reason);
@@ -283,6 +284,10 @@ bool readField(Element element, Record& out, Context& context) {
         member = true;
         return element.is_null() || read(member) || context.within(field.key);
     } else {
+        if constexpr (requires { Table<Member>::fields; }) {
+            if (context.repeated) // nothing of the former object stays
+                member = Member();
+        }
         return read(member) || context.within(field.key);
     }
 }
@@ -317,6 +322,7 @@ bool readRecord(Element element, Record& out, Context& context) {
             follow[last] = static_cast<std::uint16_t>(index);
         }
         last = index;
+        context.repeated = seen.test(index);
         seen.set(index);
         if (!readers[index](value, out, context))
             return false;

@@ -1,0 +1,187 @@
+#include "orders/DraftOrderRows.h"
+
+#include "base/StopProcess.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+
+namespace kavor {
+
+namespace {
+
+using DirectoryName = OrderDiskManager::DirectoryName;
+
+template <class Record>
+void sortNewestFirst(std::vector<Record>& records) {
+    std::stable_sort(records.begin(), records.end(),
+                     [](const Record& a, const Record& b) { return a.date > b.date; });
+}
+
+SectionIdentifier sectionOf(const SaveBrochuresOrder& order) {
+    return SectionIdentifier::brochure(order.menu.orderType);
+}
+SectionIdentifier sectionOf(const SaveTextileOrder& order) {
+    return SectionIdentifier::textile(order.orderInformation.applicationType);
+}
+
+void keep(DraftOrderRow& row, SaveBrochuresOrder order) { row.brochureOrder = std::move(order); }
+void keep(DraftOrderRow& row, SaveTextileOrder order) { row.textileOrder = std::move(order); }
+
+template <class Order>
+void appendFiles(std::vector<DraftOrderRow>& rows, const OrderDiskManager& orders, DirectoryName directory) {
+    for (const auto& file : orders.list<Order>(directory)) {
+        auto order = orders.retrieve<Order>(file.fileName, directory);
+        if (!order)
+            stopProcess("order file " + file.fileName + " that can be read");
+        DraftOrderRow row;
+        row.sectionIdentifier = sectionOf(*order);
+        keep(row, std::move(*order));
+        row.filename = OrderDiskManager::plainName(file.fileName);
+        row.state = directory;
+        row.date = file.modificationDate;
+        row.syncState =
+            directory == DirectoryName::draft ? OrderSyncState::savedLocally : OrderSyncState::pendingToSend;
+        rows.push_back(std::move(row));
+    }
+}
+
+template <class Order>
+DraftOrderRow cloudRow(const Order& order, SectionIdentifier section) {
+    if (!order.filename)
+        stopProcess("name of the cloud order " + std::to_string(order.id));
+    DraftOrderRow row;
+    row.filename = *order.filename;
+    row.date = order.date;
+    row.syncState = OrderSyncState::cloud;
+    row.sectionIdentifier = section;
+    return row;
+}
+
+// The first order of each id.
+template <class Order>
+std::unordered_map<Int, const Order*> byId(const std::optional<std::vector<Order>>& orders) {
+    std::unordered_map<Int, const Order*> index;
+    if (orders) {
+        for (const Order& order : *orders)
+            index.try_emplace(order.id, &order);
+    }
+    return index;
+}
+
+} // namespace
+
+std::optional<Int> DraftOrderRow::serverId() const {
+    if (brochureServerOrder)
+        return brochureServerOrder->id;
+    if (textileServerOrder)
+        return textileServerOrder->id;
+    return std::nullopt;
+}
+
+void DraftOrderRows::rebuildLocalRows(const OrderDiskManager& orders) {
+    draftsOrderList_.clear();
+    appendFiles<SaveBrochuresOrder>(draftsOrderList_, orders, DirectoryName::draft);
+    appendFiles<SaveBrochuresOrder>(draftsOrderList_, orders, DirectoryName::outbox);
+    appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::draft);
+    appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::outbox);
+    sortRows();
+}
+
+void DraftOrderRows::applyAnswer(const OrderList& answer) {
+    clearSentOrders();
+    forgetFormerAnswer();
+    const auto isSent = [](const auto& order) { return order.stateId != OrderState::cloud; };
+    if (answer.orders)
+        std::copy_if(answer.orders->begin(), answer.orders->end(), std::back_inserter(sentBrochureOrders_), isSent);
+    if (answer.textileOrders)
+        std::copy_if(answer.textileOrders->begin(), answer.textileOrders->end(),
+                     std::back_inserter(sentTextileOrders_), isSent);
+    summary_ = answer.summary;
+    appendCloudRows(answer);
+    mergeLocalRows(answer);
+    dropDuplicates();
+    sortRows();
+}
+
+// A search asks again without new local rows: what the last answer brought must not show twice.
+void DraftOrderRows::forgetFormerAnswer() {
+    std::erase_if(draftsOrderList_, [](const DraftOrderRow& row) { return row.syncState == OrderSyncState::cloud; });
+    for (DraftOrderRow& row : draftsOrderList_) {
+        row.brochureServerOrder.reset();
+        row.textileServerOrder.reset();
+        if (row.syncState == OrderSyncState::synced)
+            row.syncState = OrderSyncState::savedLocally;
+    }
+}
+
+void DraftOrderRows::appendCloudRows(const OrderList& answer) {
+    for (const auto& order : answer.orders.value_or(std::vector<OrderList::Order>())) {
+        if (order.stateId != OrderState::cloud)
+            continue;
+        draftsOrderList_.push_back(cloudRow(order, SectionIdentifier::brochure(order.typeId)));
+        draftsOrderList_.back().brochureServerOrder = order;
+    }
+    for (const auto& order : answer.textileOrders.value_or(std::vector<OrderList::OrderTextile>())) {
+        if (order.stateId != OrderState::cloud)
+            continue;
+        draftsOrderList_.push_back(cloudRow(order, SectionIdentifier::textile(order.applicationType)));
+        draftsOrderList_.back().textileServerOrder = order;
+    }
+}
+
+void DraftOrderRows::mergeLocalRows(const OrderList& answer) {
+    const auto brochures = byId(answer.orders);
+    const auto textiles = byId(answer.textileOrders);
+    for (DraftOrderRow& row : draftsOrderList_) {
+        if (row.syncState != OrderSyncState::savedLocally)
+            continue;
+        const auto id = row.brochureOrder ? row.brochureOrder->orderIdentifier : row.textileOrder->orderIdentifier;
+        if (!id)
+            continue;
+        if (row.brochureOrder) {
+            const auto found = brochures.find(*id);
+            if (found == brochures.end())
+                continue;
+            row.brochureServerOrder = *found->second;
+        } else {
+            const auto found = textiles.find(*id);
+            if (found == textiles.end())
+                continue;
+            row.textileServerOrder = *found->second;
+        }
+        row.syncState = OrderSyncState::synced;
+    }
+}
+
+void DraftOrderRows::dropDuplicates() {
+    std::set<std::pair<std::string, Int>> synced;
+    const auto key = [](const DraftOrderRow& row) {
+        const auto& section = row.sectionIdentifier.value;
+        const Int kind = row.sectionIdentifier.brochureType()
+                             ? static_cast<Int>(*row.sectionIdentifier.brochureType())
+                             : static_cast<Int>(std::get<ApplicationType>(section));
+        return std::pair(std::to_string(section.index()) + ":" + std::to_string(kind), *row.serverId());
+    };
+    for (const DraftOrderRow& row : draftsOrderList_) {
+        if (row.syncState == OrderSyncState::synced)
+            synced.insert(key(row));
+    }
+    std::erase_if(draftsOrderList_, [&](const DraftOrderRow& row) {
+        return row.syncState == OrderSyncState::cloud && synced.contains(key(row));
+    });
+}
+
+void DraftOrderRows::clearSentOrders() {
+    sentBrochureOrders_.clear();
+    sentTextileOrders_.clear();
+}
+
+void DraftOrderRows::sortSentOrders() {
+    sortNewestFirst(sentBrochureOrders_);
+    sortNewestFirst(sentTextileOrders_);
+}
+
+void DraftOrderRows::sortRows() { sortNewestFirst(draftsOrderList_); }
+
+} // namespace kavor

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "base/NotificationCenter.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
+#include "orders/services/OrderSync.h"
+
+#include <QObject>
+#include <QString>
+#include <QVariantMap>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace kavor {
+
+class BackgroundTasks;
+class Clock;
+class LocalNotifications;
+class OrderDiskManager;
+class ServiceOperations;
+
+// Brings brochure drafts to the server's cloud: the current draft when a save in front of the user could not,
+// and, in background runs, up to two files that never reached the server. Textile drafts, selling sheets and
+// the outbox aren't touched. The user is told of success only, by local notification. Main thread only.
+class OrderSyncManager : public QObject, public BackgroundOrderSync {
+    Q_OBJECT
+public:
+    static constexpr int ordersPerRun = 2;
+    static constexpr char notificationCategory[] = "orderBrochureResponse";
+    static constexpr char showAction[] = "show";
+    // How long an upload may go on once the screens are gone.
+    static constexpr std::chrono::milliseconds extensionBudget = std::chrono::minutes(3);
+
+    // Everything outlives the manager.
+    struct Collaborators {
+        ServiceOperations& network;
+        OrderDiskManager& orders;
+        LocalNotifications& notifications;
+        NotificationCenter& center;
+        BackgroundTasks& tasks;
+        Clock& clock;
+        std::function<void()> useBackgroundSession; // configureSession with the background configuration
+        std::function<void()> useDefaultSession;    // configureSession with the default one
+        std::function<void()> showAllOrders;        // resetRoot to the order list
+    };
+
+    explicit OrderSyncManager(Collaborators collaborators, QObject* parent = nullptr);
+
+    void startOrderSync() override;
+    void scheduleBrochureSync() override;
+    void handleBrochureSync(const std::shared_ptr<BackgroundTask>& task) override;
+
+    // Whether uploads of a background run still wait for their answers.
+    [[nodiscard]] int answersAwaited() const { return answersAwaited_; }
+
+signals:
+    // Every upload of a background run has been answered; its task may still wait for its expiry.
+    void runAnswered();
+
+private:
+    struct Run;
+
+    void queueCurrentDraft();
+    void uploadCurrentDraft(const SaveBrochuresOrder& order);
+    void finishForegroundUpload(SaveBrochuresOrder order, Int orderId);
+    void uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
+    void answeredOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
+    void storeIdentifier(SaveBrochuresOrder& order, Int orderId);
+    void notifySynchronised(const SaveBrochuresOrder& order, const QString& category);
+    void sendLocalNotification(const QString& title, const QString& body, const QVariantMap& userInfo,
+                               const QString& category);
+    void beginExtension();
+    void endExtension();
+    void received(const QString& action, const QVariantMap& userInfo);
+
+    Collaborators services_;
+    quint64 backgroundTaskID_ = 0; // 0: invalid
+    int answersAwaited_ = 0;
+};
+
+} // namespace kavor

@@ -1,0 +1,175 @@
+#include "base/Int.h"
+#include "base/json/Table.h"
+
+#include <gtest/gtest.h>
+
+namespace kavor {
+
+namespace {
+
+struct Corner {
+    Int id = 0;
+    std::optional<std::string> note;
+    std::optional<std::vector<double>> prices;
+    struct Inner {
+        Int a = 0;
+        std::optional<Int> b;
+    };
+    std::optional<Inner> inner;
+};
+
+// One record that must be there inside another.
+struct Nest {
+    Corner::Inner inner;
+};
+
+} // namespace
+
+namespace json {
+template <>
+struct Table<Corner::Inner> {
+    static constexpr auto fields =
+        std::tuple{required("a", &Corner::Inner::a), optional("b", &Corner::Inner::b)};
+};
+template <>
+struct Table<Corner> {
+    static constexpr auto fields =
+        std::tuple{required("id", &Corner::id), optional("note", &Corner::note),
+                   optional("prices", &Corner::prices), optional("inner", &Corner::inner)};
+};
+template <>
+struct Table<Nest> {
+    static constexpr auto fields = std::tuple{required("inner", &Nest::inner)};
+};
+} // namespace json
+
+namespace {
+
+using namespace std::string_literals;
+
+// What a document of one value reads as, written again; its fault otherwise.
+template <class Value>
+std::string reading(const std::string& document) {
+    const auto value = json::decode<Value>(document);
+    return value ? json::encode(*value).value() : value.error().text();
+}
+
+bool isRefused(const std::string& document) {
+    return !json::isWellFormed(document);
+}
+
+TEST(JsonCorners, WellFormedTextsAreTaken) {
+    const std::string texts[] = {"[]",
+                                 "{}",
+                                 " \t\r\n[ 1 , 2 ]\n",
+                                 "null",
+                                 "true",
+                                 "1",
+                                 "\"x\"",
+                                 "[[]   ]",
+                                 "{\"\":0}",
+                                 "{\"a\":1,\"a\":2}",
+                                 "[-0]",
+                                 "[0e1]",
+                                 "[1E+2]",
+                                 "[123e45]",
+                                 "[20e-1]",
+                                 "[-1]",
+                                 "[0.1]",
+                                 "[1.5e-7]",
+                                 "[123.456789]",
+                                 "[0e+1]",
+                                 "[1e-400]",
+                                 "[9223372036854775807]",
+                                 "[-9223372036854775808]",
+                                 "[18446744073709551615]",
+                                 R"(["\"\\\/\b\f\n\r\t"])",
+                                 R"(["\u0000"])",
+                                 R"(["\uD83C\uDF7A"])",
+                                 R"(["\u00e1\u20AC"])",
+                                 "[\"\x7f\"]",
+                                 "[\"\u2028\"]",
+                                 "[\"\xF4\x8F\xBF\xBF\"]",
+                                 "[\"new\u00a0line\"]",
+                                 "{\"\\u0061\":[]}"};
+    for (const auto& text : texts)
+        EXPECT_TRUE(json::isWellFormed(text)) << text;
+}
+
+TEST(JsonCorners, AnythingElseIsRefused) {
+    const std::string texts[] = {
+        // structure
+        "", " ", "[", "]", "{", "[1", "[1}", "{\"a\":1]", "[1,]", "[,1]", "[1,,2]", "[1 2]", "[\"a\" \"b\"]",
+        "[1]x", "[1][2]", "1 2", "{\"a\":1,}", "{,}", "{a:1}", "{'a':1}", "{\"a\" 1}", "{\"a\":}", "{\"a\"}",
+        "{1:1}", "{\"a\":1 \"b\":2}", "[1:2]", "{\"a\":\"b\":\"c\"}", "{}}", "[]]", "//c\n[]", "[1/*c*/]",
+        "[\f]", "[\u00a0]", "[1]\0"s, "\0"s, "[1\0]"s,
+        // words and numbers
+        "[nul]", "[True]", "[FALSE]", "[undefined]", "[NaN]", "[Infinity]", "[-Infinity]", "[01]", "[-01]",
+        "[+1]", "[.5]", "[1.]", "[1.e1]", "[-]", "[--1]", "[1e]", "[1e+]", "[1eE2]", "[0x1F]", "[1_000]",
+        "[1,000.]", "[- 1]", "[1e400]", "[-1e400]", "[18446744073709551616]", "[-9223372036854775809]",
+        "[\u0661]", "[1a]",
+        // texts
+        "\"", "[\"a]", "[\"\\\"]", "['a']", "[\"\t\"]", "[\"\n\"]", "[\"\0\"]"s, "[\"\\x41\"]", "[\"\\u12\"]",
+        "[\"\\u12G4\"]", "[\"\\U0041\"]", "[\"\\", "[\"\\uD800\"]", "[\"\\uDC00\"]", "[\"\\uD800\\u0041\"]",
+        "[\"\\uD800x\"]",
+        // bytes that are no UTF-8
+        "[\"\xFF\"]", "[\"\xC0\x80\"]", "[\"\xE0\x80\x80\"]", "[\"\xED\xA0\x80\"]", "[\"\xF4\x90\x80\x80\"]",
+        "[\"\xE2\x82\"]", "[\"\x80\"]", "[\"\xF8\x88\x80\x80\x80\"]", "\xFE\xFF[]", "[\xC3\xA9]"};
+    for (const auto& text : texts)
+        EXPECT_TRUE(isRefused(text)) << text;
+}
+
+TEST(JsonCorners, NumbersKeepTheirLastDigit) {
+    const auto number = reading<double>;
+    const std::pair<const char*, const char*> numbers[] = {
+        {"12", "12.0"},
+        {"-0.0", "-0.0"},
+        {"-0", "0.0"},
+        {"0.1", "0.1"},
+        {"0.30000000000000004", "0.30000000000000004"},
+        {"1e15", "1000000000000000.0"},
+        {"9007199254740993", "9007199254740992.0"},
+        {"1.7976931348623157e308", "1.7976931348623157e+308"},
+        {"5e-324", "5e-324"},
+        {"2.2250738585072011e-308", "2.225073858507201e-308"},
+        {"1e-400", "0.0"},
+        {"123456789012345678901234567890.0", "1.2345678901234568e+29"},
+        {"18446744073709551615", "1.8446744073709552e+19"}};
+    for (const auto& [text, written] : numbers) {
+        EXPECT_EQ(number(text), written);
+        EXPECT_EQ(number(written), written);
+    }
+}
+
+TEST(JsonCorners, DepthCostsAnErrorAndNoMemory) {
+    const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
+    EXPECT_TRUE(json::isWellFormed(nested(1000)));
+    EXPECT_TRUE(isRefused(nested(2000)));
+    EXPECT_TRUE(isRefused(nested(5'000'000)));
+    EXPECT_TRUE(isRefused(std::string(5'000'000, '[')));
+    std::string objects;
+    for (int i = 0; i < 100'000; ++i)
+        objects += "{\"a\":";
+    EXPECT_TRUE(isRefused(objects));
+    EXPECT_FALSE(json::decode<Corner>("{\"id\":1,\"unknown\":" + nested(2000) + "}"));
+}
+
+TEST(JsonCorners, WhatIsPassedOverMustBeJsonToo) {
+    EXPECT_EQ(reading<Corner>(R"({"x":{"id":"no"},"id ":2,"":3,"\u0069d":7,"y":[[{}]],"n\u006Fte":"escaped keys"})"),
+              R"({"id":7,"note":"escaped keys"})");
+    EXPECT_EQ(reading<Corner>(R"({"id":7,"inner":{"b":2}})"), "inner.a: missing");
+    for (const char* ignored : {"[1,]", "{\"a\"}", "nul", "\"\\x\"", "1.", "[[]", "18446744073709551616"})
+        EXPECT_FALSE(json::decode<Corner>(std::string(R"({"id":7,"unknown":)") + ignored + "}")) << ignored;
+}
+
+TEST(JsonCorners, OfARepeatedKeyTheLastCountsAndNothingOfTheOthers) {
+    EXPECT_EQ(
+        reading<Corner>(
+            R"({"id":1,"prices":[1],"inner":{"a":1,"b":2},"note":"x","id":2,"prices":[2,3],"inner":{"a":3},"note":null})"),
+        R"({"id":2,"prices":[2.0,3.0],"inner":{"a":3}})");
+    EXPECT_EQ(reading<Nest>(R"({"inner":{"a":1,"b":2},"inner":{"a":3}})"), R"({"inner":{"a":3}})");
+}
+
+} // namespace
+
+} // namespace kavor
