@@ -1,0 +1,284 @@
+#include "catalogue/Content.h"
+
+#include <array>
+
+namespace kavor::demo {
+
+std::span<const ChalkboardFormat> chalkboardFormats() {
+    static const std::array formats = {
+        ChalkboardFormat{1, 1, "Vertical grande", "60 x 90 cm, para la entrada", 3, 1, {3, 4, 5}, false},
+        ChalkboardFormat{2, 1, "Vertical de mesa", "20 x 30 cm, para la barra", 1, 2, {2, 3}, false},
+        ChalkboardFormat{3, 2, "Apaisada grande", "90 x 60 cm, para la pared", 3, 1, {4, 6}, true},
+        ChalkboardFormat{4, 2, "Apaisada de barra", "40 x 20 cm, junto al grifo", 2, 2, {1, 2}, true},
+    };
+    return formats;
+}
+
+std::span<const OrderSheet> orderSheets() {
+    static const std::array sheets = {
+        OrderSheet{1, "Comandero de cervezas", "CM-201", 0x123F31, {0, 1, 2, 4}},
+        OrderSheet{2, "Comandero de verano", "CM-202", 0x01A7C2, {3, 5, 6}},
+        OrderSheet{3, "Comandero de terraza", "CM-203", 0xC8452F, {0, 7, 8, 9, 10}},
+        OrderSheet{4, "Comandero neutro", "CM-204", 0x5B3A6B, {}},
+    };
+    return sheets;
+}
+
+std::span<const PennantBrand> pennantBrands() {
+    static const std::array pennants = {
+        PennantBrand{1,
+                     "Tira de barra",
+                     "Banderines pequeños en tira de cinco metros",
+                     "Se cuelga sobre la barra. Un juego por local.",
+                     {0, 1, 2},
+                     0},
+        PennantBrand{2,
+                     "Banderola de fachada",
+                     "Banderola de tela con ojales",
+                     "Pide permiso municipal antes de colgarla.",
+                     {3, 4},
+                     1},
+        PennantBrand{3,
+                     "Guirnalda de fiesta",
+                     "Guirnalda de papel de colores",
+                     "Pensada para verbenas y terrazas.",
+                     {5, 6, 7, 8},
+                     2},
+    };
+    return pennants;
+}
+
+std::span<const Poster> posters() {
+    static const std::array table = {
+        Poster{1, 1, 1, "Jueves de quintos", "Cubo de cinco quintos a precio de cuatro", Family::beer, 0, 0,
+               0, true, true},
+        Poster{2, 1, 1, "La hora tostada", "De ocho a nueve, tapa con cada tostada", Family::beer, 1, 6, 1,
+               true, false},
+        Poster{3, 1, 2, "Caña y bravas", "Caña y ración de bravas", Family::beer, 2, 2, 2, true, true},
+        Poster{4, 1, 2, "Barril recién pinchado", "Hoy se estrena barril", Family::beer, 3, 4, 0, false,
+               false},
+        Poster{5, 1, 3, "Noche de partido", "Pinta y bocadillo mientras dure el partido", Family::beer, 4, 4,
+               3, true, true},
+        Poster{6, 1, 3, "Verbena del barrio", "Música, farolillos y cañas frías", Family::beer, 5, 8, 4, true,
+               false},
+        Poster{7, 1, 4, "Arroces del domingo", "Arroz de la casa y una de trigo", Family::beer, 6, 5, 2,
+               false, true},
+        Poster{8, 1, 4, "Temporada de setas", "Setas a la plancha y una negra", Family::beer, 7, 7, 2, false,
+               false},
+        Poster{9, 2, 1, "Segunda ronda", "La segunda pinta, a mitad de precio", Family::beer, 8, 0, 0, true,
+               true},
+        Poster{10, 2, 2, "Tapa de bienvenida", "Con la primera bebida, tapa de la casa", Family::beer, 9, 3,
+               2, true, false},
+        Poster{11, 2, 3, "Tarde de juegos", "Un juego de mesa por mesa y jarra", Family::beer, 10, 8, 3, true,
+               true},
+        Poster{12, 2, 0, "Menú de peñas", "Para grupos de más de diez", Family::beer, 11, 2, 4, false, true},
+        Poster{13, 3, 4, "Copa y queso", "Una copa y tabla de quesos", Family::wine, 0, 9, 5, true, true},
+        Poster{14, 3, 4, "Vendimia en la barra", "Blancos y tintos por copas", Family::wine, 1, 9, 5, true,
+               false},
+        Poster{15, 3, 1, "Martes de rosado", "Rosado bien frío y aceitunas", Family::wine, 2, 2, 5, false,
+               true},
+        Poster{16, 1, 2, "Sin alcohol, con todo", "Refrescos artesanos de la casa", Family::market, 0, 3, 8,
+               true, false},
+    };
+    return table;
+}
+
+std::span<const Support> supports() {
+    static const std::array table = {
+        Support{1, "Cartel A3", "Papel de 170 g, interior", 0.71, 1.0},
+        Support{2, "Cartel A4", "Papel de 170 g, interior", 0.55, 0.78},
+        Support{3, "Vinilo de escaparate", "50 x 70 cm, despegable", 0.8, 1.0},
+        Support{4, "Triángulo de mesa", "Cartulina plegada", 0.9, 0.6},
+        Support{5, "Pantalla", "Imagen de 1920 x 1080", 1.0, 0.56},
+    };
+    return table;
+}
+
+std::span<const SheetStyle> sheetStyles() {
+    static const std::array table = {
+        SheetStyle{1, "Hoja clásica", 0},   SheetStyle{2, "Hoja de costa", 3},
+        SheetStyle{3, "Hoja de bodega", 9}, SheetStyle{4, "Hoja de verbena", 8},
+        SheetStyle{5, "Hoja de kraft", 7},
+    };
+    return table;
+}
+
+std::span<const ActivationGroup> activationGroups() {
+    static const std::array table = {
+        ActivationGroup{1, "Fiestas de barra", 0, 0x123F31},
+        ActivationGroup{2, "Catas y maridajes", 1, 0x6B4423},
+        ActivationGroup{3, "Noches de música", 4, 0x4A2C63},
+        ActivationGroup{4, "Barril invitado", 9, 0xB5541C},
+    };
+    return table;
+}
+
+std::span<const Activation> activations() {
+    static const std::array table = {
+        Activation{1, 1, "Fiesta del grifo", "Dos azafatos, vasos serigrafiados y juego de la ruleta",
+                   "Agencia Farolillo Norte", 0, 0xE0A126, 10, 4, 1, true, true, 9},
+        Activation{2, 1, "Verbena en la terraza", "Farolillos, música de vinilo y sorteo de camisetas",
+                   "Agencia Farolillo Norte", 4, 0xE4572E, 15, 2, 2, false, true, 6},
+        Activation{3, 1, "Torneo de futbolín", "Mesa de competición y trofeos para tres parejas",
+                   "Agencia Gol y Corcho", 3, 0x01A7C2, 7, 6, 0, true, false, std::nullopt},
+        Activation{4, 2, "Cata guiada", "Cinco cervezas, cinco bocados y un maestro cervecero",
+                   "Estudio Paladar Abierto", 1, 0xC77B3B, 21, 3, 1, true, true, 12},
+        Activation{5, 2, "Maridaje de quesos", "Tabla de quesos y cuatro cervezas", "Estudio Paladar Abierto",
+                   2, 0xF2C14E, 14, 2, 0, false, false, std::nullopt},
+        Activation{6, 3, "Concierto acústico", "Dúo acústico de noventa minutos con equipo propio",
+                   "Promotora Compás de Barra", 7, 0xE94F64, 30, 2, 0, false, true, 8},
+        Activation{7, 3, "Noche de vinilos", "Pinchadiscos con maletas de los setenta",
+                   "Promotora Compás de Barra", 6, 0x9ED8DB, 12, 5, 3, true, false, 10},
+        Activation{8, 4, "Barril invitado", "Un barril de edición corta con su columna de grifo",
+                   "Agencia Gol y Corcho", 0, 0xD9A441, 5, 8, 2, false, true, std::nullopt},
+    };
+    return table;
+}
+
+std::span<const GarmentType> garmentTypes() {
+    static const std::array table = {
+        GarmentType{1, "Camiseta", 5, 200},
+        GarmentType{2, "Polo", 5, 100},
+        GarmentType{3, "Delantal", 2, 60},
+        GarmentType{4, "Sudadera", 5, 80},
+    };
+    return table;
+}
+
+std::span<const GarmentColour> garmentColours() {
+    static const std::array table = {
+        GarmentColour{1, "Verde botella", 0x123F31}, GarmentColour{2, "Crudo", 0xF1E7D0},
+        GarmentColour{3, "Negro", 0x22252A},         GarmentColour{4, "Granate", 0x7A1F2B},
+        GarmentColour{5, "Azul marino", 0x1F3A68},
+    };
+    return table;
+}
+
+std::span<const Manual> manuals() {
+    static const std::array table = {
+        Manual{1,
+               "carta",
+               "Tu primera carta",
+               {"Busca el bar por su código", "Elige un estilo de portada", "Marca cervezas y formatos",
+                "Escribe los precios", "Revisa y envía"}},
+        Manual{2,
+               "carta",
+               "Trabajar sin conexión",
+               {"Guarda el pedido con un nombre", "Se queda en el dispositivo",
+                "Se envía al volver la conexión"}},
+        Manual{3,
+               "textil",
+               "Pedir ropa para el equipo",
+               {"Elige marca y prenda", "Reparte tallas y colores", "Escribe el texto y su letra"}},
+        Manual{4,
+               "activacion",
+               "Organizar una fiesta",
+               {"Mira el cupo disponible", "Elige fecha con antelación", "Completa los datos del local"}},
+    };
+    return table;
+}
+
+std::span<const Notice> notices() {
+    static const std::array table = {
+        Notice{1, "Novedades de temporada", "Ya puedes pedir las cartas con los estilos Verbena y Huerta.",
+               4},
+        Notice{2, "Barril invitado", "Quedan plazas para la activación de este mes.", 0},
+        Notice{3, "Consejo de la semana",
+               "Marca como nuevas las referencias que el bar estrena: se distinguen en la carta.", 1},
+    };
+    return table;
+}
+
+std::span<const Language> languages() {
+    using enum BrochureKind;
+    static const std::array table = {
+        Language{1,
+                 "Español",
+                 "es",
+                 "ES",
+                 {beer, beverage, menu, flyer, chalkboard, video, mantel, encarte, wineA4, wineOrder, digital,
+                  pennant}},
+        Language{
+            2, "Catalán", "ca", "CA", {beer, beverage, menu, flyer, chalkboard, mantel, wineA4, digital}},
+        Language{3, "Inglés", "en", "EN", {beer, beverage, menu, video, encarte, wineA4, wineOrder, digital}},
+        Language{4, "Gallego", "gl", "GL", {beer, menu, mantel, wineOrder}},
+        Language{5, "Euskera", "eu", "EU", {beer, menu, chalkboard}},
+        Language{6, "Francés", "fr", "FR", {beer, beverage, wineA4, wineOrder}},
+        Language{7, "Alemán", "de", "DE", {beer, beverage}},
+    };
+    return table;
+}
+
+std::span<const DrinkCategory> drinkCategories() {
+    static const std::array table = {
+        DrinkCategory{1,
+                      "Cafés e infusiones",
+                      "Café molido en el momento",
+                      {{101, "Café solo", nullptr, "Taza", 1.40, 1.60},
+                       {102, "Café con leche", "Con leche fresca", "Taza", 1.70, 1.90},
+                       {103, "Infusión de hierbaluisa", nullptr, "Tetera", 1.90, std::nullopt}}},
+        DrinkCategory{2,
+                      "Combinados",
+                      nullptr,
+                      {{201, "Ginebra con tónica", "Con piel de limón", "Copa", 7.50, 8.50},
+                       {202, "Ron con cola", nullptr, "Copa", 7.00, 8.00},
+                       {203, "Vermut de grifo", "Con aceituna y naranja", "Vaso", 3.20, 3.60},
+                       {204, "Vermut de grifo", "Con aceituna y naranja", "Jarra", 11.00, std::nullopt}}},
+        DrinkCategory{3,
+                      "Tapas",
+                      "De la cocina a la barra",
+                      {{301, "Bravas de la casa", nullptr, "Ración", 5.50, 6.20},
+                       {302, "Croquetas de puerro", "Seis unidades", "Ración", 6.80, 7.50},
+                       {303, "Ensaladilla", nullptr, "Tapa", 2.90, std::nullopt},
+                       {304, "Tortilla de patata", "Con cebolla", "Pincho", 2.60, 3.00}}},
+        DrinkCategory{4,
+                      "Raciones",
+                      nullptr,
+                      {{401, "Calamares a la romana", nullptr, "Ración", 9.80, 10.90},
+                       {402, "Pulpo a la brasa", "Con patata revolcona", "Media", 11.50, std::nullopt},
+                       {403, "Tabla de quesos", nullptr, nullptr, 12.00, 13.50}}},
+        DrinkCategory{5,
+                      "Postres",
+                      "Hechos en casa",
+                      {{501, "Torrija caramelizada", nullptr, nullptr, 4.80, std::nullopt},
+                       {502, "Arroz con leche", nullptr, "Cuenco", std::nullopt, std::nullopt}}},
+    };
+    return table;
+}
+
+const char* priceName(int priceType) {
+    switch (priceType) {
+    case 1:
+        return "Barra";
+    case 2:
+        return "Terraza";
+    case 3:
+        return "Mesa";
+    case 5:
+        return "Noche";
+    default:
+        return "";
+    }
+}
+
+std::span<const char* const> pairingNames() {
+    static constexpr std::array names = {"Quesos curados", "Frituras", "Arroces",   "Carnes a la brasa",
+                                         "Ensaladas",      "Mariscos", "Embutidos", "Guisos",
+                                         "Postres",        "Setas"};
+    return names;
+}
+
+const Brand& brandAt(std::span<const Brand> brands, Family family, int place) {
+    std::vector<const Brand*> found;
+    for (const Brand& brand : brands) {
+        if (brand.family == family) {
+            if (int(found.size()) == place) {
+                return brand;
+            }
+            found.push_back(&brand);
+        }
+    }
+    return found.empty() ? brands.front() : *found[size_t(place) % found.size()];
+}
+
+} // namespace kavor::demo

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "catalogue/Styles.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace kavor::demo {
+
+/// What the catalogue offers beside brands and styles, as tables that both the documents and the drawings
+/// read. `brandPlace` counts inside a family, from 0.
+
+struct ChalkboardFormat {
+    int id, typeId;
+    const char* name;
+    const char* description;
+    int sizeIcon, prints;
+    std::vector<int> brandCounts;
+    bool landscape;
+};
+std::span<const ChalkboardFormat> chalkboardFormats();
+
+struct OrderSheet {
+    int id;
+    const char* name;
+    const char* reference;
+    int colour;
+    std::vector<int> brandPlaces;
+};
+std::span<const OrderSheet> orderSheets();
+
+struct PennantBrand {
+    int id;
+    const char* name;
+    const char* description;
+    const char* help;
+    std::vector<int> brandPlaces;
+    int shape;
+};
+std::span<const PennantBrand> pennantBrands();
+
+struct Poster {
+    int id, typeId, classificationId; // classification 0: none
+    const char* title;
+    const char* description;
+    Family family;
+    int brandPlace, theme, motif;
+    bool online, priced;
+};
+std::span<const Poster> posters();
+
+struct Support {
+    int id;
+    const char* name;
+    const char* description;
+    double width, height; ///< proportions of its icon
+};
+std::span<const Support> supports();
+
+struct SheetStyle {
+    int id;
+    const char* name;
+    int theme;
+};
+std::span<const SheetStyle> sheetStyles();
+
+struct Activation {
+    int id, groupId;
+    const char* name;
+    const char* description;
+    const char* agency;
+    int motif, colour, noticeDays, quota, made;
+    bool related, withDocument;
+    std::optional<int> monthsOpen;
+};
+std::span<const Activation> activations();
+
+struct ActivationGroup {
+    int id;
+    const char* name;
+    int brandPlace, colour;
+};
+std::span<const ActivationGroup> activationGroups();
+
+struct GarmentType {
+    int id;
+    const char* name;
+    int least, greatest;
+};
+std::span<const GarmentType> garmentTypes();
+
+struct GarmentColour {
+    int id;
+    const char* name;
+    int colour;
+};
+std::span<const GarmentColour> garmentColours();
+
+struct Manual {
+    int id;
+    const char* type;
+    const char* label;
+    std::vector<const char*> steps;
+};
+std::span<const Manual> manuals();
+
+struct Notice {
+    int id;
+    const char* title;
+    const char* description;
+    int motif;
+};
+std::span<const Notice> notices();
+
+struct Language {
+    int id;
+    const char* name;
+    const char* code;
+    const char* reference;
+    std::vector<BrochureKind> kinds;
+};
+std::span<const Language> languages();
+
+struct DrinkProduct {
+    int id;
+    const char* name;
+    const char* description; ///< may be null, as `format` and the prices may be absent
+    const char* format;
+    std::optional<double> price, secondPrice;
+};
+struct DrinkCategory {
+    int id;
+    const char* name;
+    const char* description; ///< may be null
+    std::vector<DrinkProduct> products;
+};
+std::span<const DrinkCategory> drinkCategories();
+
+/// The name of a price column, empty for a number that is none.
+const char* priceName(int priceType);
+
+/// The name of a pairing.
+std::span<const char* const> pairingNames();
+
+/// The brand at a place of a family, counted round when the family is smaller.
+const Brand& brandAt(std::span<const Brand> brands, Family family, int place);
+
+} // namespace kavor::demo

@@ -1,0 +1,302 @@
+#include "documents/PaperPdfs.h"
+
+#include "catalogue/Content.h"
+#include "catalogue/Sections.h"
+#include "documents/PdfSheet.h"
+#include "drawing/Covers.h"
+#include "drawing/Emblems.h"
+#include "drawing/Goods.h"
+#include "drawing/Scenes.h"
+#include "drawing/Tools.h"
+#include "drawing/Vessels.h"
+
+#include <algorithm>
+
+namespace kavor::demo {
+
+namespace {
+
+constexpr double margin = 52;
+
+/// A page with the programme's head band, on which lines are written one under the other.
+class Report {
+public:
+    Report(const QString& title, const QString& subtitle, int theme)
+        : sheet_(title, false)
+        , theme_(themes()[size_t(theme)]) {
+        title_ = title;
+        subtitle_ = subtitle;
+        drawHead();
+    }
+
+    QPainter& painter() { return sheet_.painter(); }
+    double& y() { return y_; }
+    double width() const { return sheet_.page().width() - 2 * margin; }
+    const Theme& theme() const { return theme_; }
+
+    void need(double height) {
+        if (y_ + height > sheet_.page().bottom() - 50) {
+            sheet_.newPage();
+            drawHead();
+        }
+    }
+
+    void heading(const QString& words) {
+        need(80);
+        painter().setPen(colour(theme_.ink));
+        drawFitted(painter(), QRectF(margin, y_, width(), 32), Qt::AlignLeft | Qt::AlignVCenter, words,
+                   face(Face::round, 22, true));
+        painter().setPen(QPen(colour(theme_.accent), 2));
+        painter().drawLine(QPointF(margin, y_ + 35), QPointF(margin + width(), y_ + 35));
+        y_ += 44;
+    }
+
+    void line(const QString& left, const QString& right = {}) {
+        if (left.isEmpty() && right.isEmpty()) {
+            return;
+        }
+        need(26);
+        painter().setPen(colour(theme_.ink));
+        drawFitted(painter(), QRectF(margin + 6, y_, right.isEmpty() ? width() - 6 : width() * 0.68, 24),
+                   Qt::AlignLeft | Qt::AlignVCenter, left, face(Face::body, 17));
+        drawFitted(painter(), QRectF(margin + width() * 0.6, y_, width() * 0.4, 24),
+                   Qt::AlignRight | Qt::AlignVCenter, right, face(Face::body, 17, true));
+        y_ += 26;
+    }
+
+    void paragraph(const QString& words) {
+        need(70);
+        painter().setPen(mixed(colour(theme_.ink), colour(theme_.paper), 0.3));
+        drawFitted(painter(), QRectF(margin + 6, y_, width() - 6, 60),
+                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, words, face(Face::body, 18));
+        y_ += 66;
+    }
+
+    QByteArray finish() { return sheet_.finish(); }
+
+private:
+    void drawHead() {
+        drawPaper(painter(), sheet_.page(), theme_, false);
+        painter().setPen(Qt::NoPen);
+        painter().setBrush(colour(theme_.ink));
+        painter().drawRect(QRectF(0, 0, sheet_.page().width(), 112));
+        painter().setBrush(colour(theme_.accent));
+        painter().drawRect(QRectF(0, 112, sheet_.page().width(), 7));
+        painter().setPen(colour(theme_.paper));
+        drawFitted(painter(), QRectF(margin, 18, width(), 50), Qt::AlignLeft | Qt::AlignVCenter, title_,
+                   theme_.script ? face(Face::script, 42) : face(Face::title, 34, true));
+        drawFitted(painter(), QRectF(margin, 68, width(), 28), Qt::AlignLeft | Qt::AlignVCenter, subtitle_,
+                   face(Face::body, 19));
+        y_ = 146;
+    }
+
+    PdfSheet sheet_;
+    const Theme& theme_;
+    QString title_, subtitle_;
+    double y_ = 0;
+};
+
+QString member(const Json& object, const char* key) {
+    const auto found = object.find(key);
+    return found != object.end() && found->is_string() ? text(found->get<std::string>()) : QString();
+}
+
+template <typename Records>
+const auto* recordOf(const Records& records, int id) {
+    const auto found = std::ranges::find(records, id, [](const auto& record) { return record.id; });
+    return found == records.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
+    const Json& sent = order["order"];
+    const Json customer = order.value("customer", Json::object());
+    Report report("Pedido textil", member(customer, "name"), 0);
+    report.heading("Texto para estampar");
+    QFont font = face(Face::body, 46);
+    for (const TextileFont& known : installedFonts()) {
+        if (known.id == sent.value("typography_id", 0)) {
+            font.setFamilies({known.name});
+        }
+    }
+    report.painter().setPen(colour(report.theme().ink));
+    drawFitted(report.painter(), QRectF(margin, report.y(), report.width(), 70), Qt::AlignCenter,
+               member(sent, "message"), font);
+    report.y() += 86;
+    report.heading("Prendas");
+    const Json textile = catalogue.textile();
+    int units = 0;
+    for (const Json& line : sent["lines"]) {
+        for (const Json& item : textile["textil"]) {
+            if (item["id"] != line["textil_id"]) {
+                continue;
+            }
+            const Brand* brand = catalogue.brand(item["brand_id"].get<int>());
+            const GarmentColour* tone = recordOf(garmentColours(), item["color_id"].get<int>());
+            const GarmentType* type = recordOf(garmentTypes(), item["type_id"].get<int>());
+            report.need(100);
+            drawGarment(report.painter(), QRectF(margin, report.y(), 90, 90), type->id, tone->colour,
+                        brand->look);
+            report.painter().setPen(colour(report.theme().ink));
+            const QString words =
+                QString("%1 %2 · %3 · talla %4")
+                    .arg(text(type->name), text(brand->name), text(tone->name),
+                         member(textile["textil_size"][item["size_id"].get<size_t>() - 1], "code"));
+            drawFitted(report.painter(), QRectF(margin + 106, report.y() + 24, report.width() - 220, 40),
+                       Qt::AlignLeft | Qt::AlignVCenter, words, face(Face::body, 18));
+            drawFitted(report.painter(), QRectF(margin + report.width() - 110, report.y() + 24, 110, 40),
+                       Qt::AlignRight | Qt::AlignVCenter, text(line["quantity"].dump()) + " uds.",
+                       face(Face::body, 20, true));
+            report.y() += 96;
+            units += line["quantity"].get<int>();
+        }
+    }
+    report.line("Total", QString("%1 unidades").arg(units));
+    report.paragraph(member(sent, "orderComment"));
+    return report.finish();
+}
+
+QByteArray promotionPdf(const Json& order, const Catalogue& catalogue) {
+    const Poster* poster = recordOf(posters(), order["promotion_id"].get<int>());
+    if (!poster) {
+        poster = &posters().front();
+    }
+    PdfSheet sheet(poster->title, false);
+    int language = 1;
+    if (!order["supports"].empty()) {
+        language = order["supports"][0]["language_id"].get<int>();
+    }
+    const Look& look = brandAt(catalogue.brands(), poster->family, poster->brandPlace).look;
+    const QRectF page = sheet.page();
+    drawPoster(sheet.painter(), page, *poster, look, language);
+    QStringList words;
+    for (const Json& attribute : order["attributes"]) {
+        words << member(attribute, "value");
+    }
+    const QString name = member(order["customer"], "name");
+    sheet.painter().setPen(colour(themes()[size_t(poster->theme)].ink));
+    drawFitted(sheet.painter(), QRectF(40, page.bottom() - 34, page.width() - 80, 26), Qt::AlignCenter,
+               name + (words.isEmpty() ? "" : "  ·  ") + words.join("  ·  "), face(Face::body, 20, true));
+    return sheet.finish();
+}
+
+QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue) {
+    const SheetStyle* style = recordOf(sheetStyles(), order["style_id"].get<int>());
+    Report report(member(order, "title"), member(order, "sub_title"), style ? style->theme : 0);
+    report.line(
+        QString("Oferta válida del %1 al %2").arg(member(order, "date_from"), member(order, "date_to")),
+        order["taxes_included"].get<bool>() ? "IVA incluido" : "IVA no incluido");
+    report.y() += 8;
+    for (const Json& module : order["items"]) {
+        const Format* first = catalogue.format(module["product1_id"].get<int>());
+        const Brand* brand = catalogue.brandOfFormat(module["product1_id"].get<int>());
+        if (!first || !brand) {
+            continue;
+        }
+        report.need(190);
+        const QRectF box(margin, report.y(), report.width(), 170);
+        report.painter().setPen(QPen(colour(report.theme().accent), 2));
+        report.painter().setBrush(mixed(colour(report.theme().paper), Qt::white, 0.6));
+        report.painter().drawRoundedRect(box, 14, 14);
+        drawBox(report.painter(), QRectF(box.left() + 12, box.top() + 8, 150, 150), brand->look,
+                first->bottlesPerBox.value_or(24));
+        report.painter().setPen(colour(report.theme().ink));
+        drawFitted(report.painter(), QRectF(box.left() + 180, box.top() + 16, 300, 36),
+                   Qt::AlignLeft | Qt::AlignVCenter, text(brand->name), face(Face::round, 28, true));
+        drawFitted(report.painter(), QRectF(box.left() + 180, box.top() + 56, 300, 24),
+                   Qt::AlignLeft | Qt::AlignVCenter,
+                   QString("%1 cajas · %2").arg(module["product1_box"].get<int>()).arg(text(first->icon)),
+                   face(Face::body, 19));
+        if (const Brand* other = catalogue.brandOfFormat(module.value("product2_id", 0))) {
+            const Format* second = catalogue.format(module["product2_id"].get<int>());
+            drawFitted(report.painter(), QRectF(box.left() + 180, box.top() + 84, 300, 24),
+                       Qt::AlignLeft | Qt::AlignVCenter,
+                       QString("+ %1 cajas · %2 %3")
+                           .arg(module.value("product2_box", 0))
+                           .arg(text(other->name), second ? text(second->icon) : QString()),
+                       face(Face::body, 19));
+        }
+        drawFitted(report.painter(), QRectF(box.left() + 180, box.top() + 122, 300, 24),
+                   Qt::AlignLeft | Qt::AlignVCenter, member(module, "code_promotion"), face(Face::body, 16));
+        report.painter().setPen(Qt::NoPen);
+        report.painter().setBrush(colour(report.theme().accent));
+        const QRectF price(box.right() - 156, box.top() + 52, 140, 66);
+        report.painter().drawRoundedRect(price, 33, 33);
+        report.painter().setPen(inkOn(colour(report.theme().accent)));
+        drawFitted(report.painter(), price.adjusted(8, 0, -8, 0), Qt::AlignCenter,
+                   euros(module["price"].get<double>()), face(Face::round, 28, true));
+        report.y() += 184;
+    }
+    report.paragraph(member(order, "free_text"));
+    return report.finish();
+}
+
+QByteArray activationPdf(const Json& order, const Catalogue& catalogue) {
+    const Json& event = order["activation"];
+    const Json& customer = order["customer"];
+    const Activation* activation = recordOf(activations(), event["activation_id"].get<int>());
+    Report report(activation ? activation->name : "Activación", member(customer, "name"), 8);
+    if (activation) {
+        const ActivationGroup* group = recordOf(activationGroups(), activation->groupId);
+        drawActivationScene(report.painter(), QRectF(margin, report.y(), report.width(), 300), *activation, 0,
+                            brandAt(catalogue.brands(), Family::beer, group->brandPlace).look);
+        report.y() += 320;
+    }
+    report.heading("Cuándo y dónde");
+    report.line("Fecha", member(event, "date_event"));
+    report.line("Horario", member(event, "time_from") + " - " + member(event, "time_to"));
+    report.line(member(customer, "full_address"));
+    report.heading("Contacto");
+    report.line(member(customer, "contact"), member(customer, "telephone"));
+    report.line(member(customer, "email"));
+    report.paragraph(member(event, "comment"));
+    return report.finish();
+}
+
+QByteArray activationSheetPdf(int activationId, const Catalogue& catalogue) {
+    const Activation* activation = recordOf(activations(), activationId);
+    if (!activation) {
+        return {};
+    }
+    const ActivationGroup* group = recordOf(activationGroups(), activation->groupId);
+    const Look& look = brandAt(catalogue.brands(), Family::beer, group->brandPlace).look;
+    Report report(activation->name, group->name, 8);
+    report.paragraph(activation->description);
+    for (int scene = 0; scene < 2; ++scene) {
+        drawActivationScene(report.painter(), QRectF(margin, report.y(), report.width(), 300), *activation,
+                            scene, look);
+        report.y() += 318;
+    }
+    report.heading("Condiciones");
+    report.line("Agencia", activation->agency);
+    report.line("Días de antelación", QString::number(activation->noticeDays));
+    report.line("Cupo por usuario", QString::number(activation->quota));
+    return report.finish();
+}
+
+QByteArray priceListPdf(Family family, const Catalogue& catalogue) {
+    Report report("Precios recomendados", family == Family::beer ? "Cervezas" : "Bebidas",
+                  family == Family::beer ? 0 : 3);
+    int shown = 0;
+    for (const Brand& brand : catalogue.brands()) {
+        if (brand.family != family || ++shown > 60) {
+            continue;
+        }
+        report.need(60 + 26.0 * double(brand.formats.size()));
+        drawMark(report.painter(), QRectF(margin, report.y() - 2, 32, 32), brand.look);
+        report.painter().setPen(colour(report.theme().ink));
+        drawFitted(report.painter(), QRectF(margin + 42, report.y(), 400, 30),
+                   Qt::AlignLeft | Qt::AlignVCenter, text(brand.name + "  ·  " + brand.style),
+                   face(Face::round, 19, true));
+        report.y() += 34;
+        for (const Format& format : brand.formats) {
+            report.line("        " + text(format.icon),
+                        format.price ? euros(*format.price) : QStringLiteral("a consultar"));
+        }
+        report.y() += 8;
+    }
+    return report.finish();
+}
+
+} // namespace kavor::demo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+namespace kavor::demo {
+
+/// Small ornaments that covers, posters, emblems and icons are made of.
+enum class Motif {
+    hop,
+    wheat,
+    beer,
+    grapes,
+    plate,
+    ball,
+    lantern,
+    note,
+    star,
+    leaf,
+    sun,
+    mountain,
+    wave,
+    record
+};
+
+/// Draws an ornament into a rectangle, in two colours.
+void drawMotif(QPainter& painter, const QRectF& rectangle, Motif motif, const QColor& main,
+               const QColor& second);
+
+} // namespace kavor::demo

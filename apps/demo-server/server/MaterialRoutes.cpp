@@ -1,0 +1,196 @@
+#include "catalogue/Content.h"
+#include "server/DemoServer.h"
+#include "server/OrderRecords.h"
+#include "server/Time.h"
+
+#include <httplib.h>
+
+#include <algorithm>
+
+namespace kavor::demo {
+
+namespace {
+
+template <typename Records>
+bool holds(const Records& records, int id) {
+    return std::ranges::any_of(records, [id](const auto& record) { return record.id == id; });
+}
+
+} // namespace
+
+void DemoServer::addMaterialRoutes() {
+    route("POST", "/api/textile", Access::bearerWrite,
+          [this](const Call& call) { return saveTextile(call); });
+    route("GET", R"(/api/textile/order/(\d{1,15}))", Access::bearer, [this](const Call& call) {
+        const auto order = orders_.find(call.account.id, std::stoll(call.part(1)), "textile");
+        return order ? Answer::json(retrievedTextile(*order, orders_, baseUrl_))
+                     : Answer::message(404, "El pedido no existe.");
+    });
+    route("POST", "/api/promotions", Access::bearerWrite,
+          [this](const Call& call) { return sendPromotion(call); });
+    route("GET", "/api/sheets/list", Access::bearer, [this](const Call& call) {
+        Json sheets = Json::array();
+        for (const Order& order : orders_.list(call.account.id, "sheet")) {
+            sheets.push_back(sellingSheetEntry(order, baseUrl_));
+        }
+        return Answer::json({{"orders", std::move(sheets)}});
+    });
+    route("POST", "/api/sheets", Access::bearerWrite, [this](const Call& call) { return sendSheet(call); });
+    route("POST", "/api/sheets/delete", Access::bearerWrite,
+          [this](const Call& call) { return deleteSheet(call); });
+    route("POST", "/api/activations", Access::bearerWrite,
+          [this](const Call& call) { return sendActivation(call); });
+    route("GET", "/api/activations/quota", Access::bearer, [this](const Call& call) {
+        Json list = Json::array();
+        for (const Activation& activation : activations()) {
+            list.push_back({{"id", activation.id},
+                            {"quota", activation.quota},
+                            {"number_made", activationsMade(call.account, activation.id)}});
+        }
+        return Answer::json({{"activations", std::move(list)}});
+    });
+}
+
+Answer DemoServer::saveTextile(const Call& call) {
+    const Json body = call.json();
+    if (const Faults faults = textileFormFaults(body); !faults.empty()) {
+        return refusal(faults);
+    }
+    const int save = body["save"].get<int>();
+    const Json customer = body.value("customer", Json::object());
+    if (save != 3 && body["order"]["lines"].empty()) {
+        return refusal({{"order.lines", {"El carrito está vacío."}}});
+    }
+    if (save == 2) {
+        return Answer::json({{"url_pdf", previewUrl("textile", body)}});
+    }
+    Order order;
+    if (body.contains("id")) {
+        const auto earlier = orders_.find(call.account.id, body["id"].get<std::int64_t>(), "textile");
+        if (earlier && earlier->cloud) {
+            order = *earlier;
+        }
+    }
+    const bool known = order.id != 0;
+    order.account = call.account.id;
+    order.kind = "textile";
+    order.type = body["order"]["application_type_id"].get<int>();
+    order.created = now();
+    order.filename = body.value("name_archive_tablet", "");
+    order.tevo = customer.value("tevo", "");
+    order.pdv = customer.value("name", "");
+    order.cloud = save == 3;
+    order.body = body;
+    known ? orders_.update(order) : orders_.add(order);
+    Json answer = {{"order_id", order.id}};
+    if (save == 1) {
+        answer["url_order"] = orderPage(order, baseUrl_);
+        answer["url_pdf"] = orderPdf(order, baseUrl_);
+    }
+    return Answer::json(answer);
+}
+
+Answer DemoServer::sendPromotion(const Call& call) {
+    const Json body = call.json();
+    if (const Faults faults = promotionFormFaults(body); !faults.empty()) {
+        return refusal(faults);
+    }
+    Faults faults;
+    if (!holds(posters(), body["promotion_id"].get<int>())) {
+        faults["promotion_id"].push_back("La promoción ya no está en el catálogo.");
+    }
+    if (body["supports"].empty()) {
+        faults["supports"].push_back("Elige al menos un formato.");
+    }
+    if (!faults.empty()) {
+        return refusal(faults);
+    }
+    if (!body["save"].get<bool>()) {
+        return Answer::json({{"url", previewUrl("promotion", body)}});
+    }
+    Order order;
+    order.account = call.account.id;
+    order.kind = "promotion";
+    order.type = 6;
+    order.tevo = body["customer"].value("cod_tevo", "");
+    order.pdv = body["customer"].value("name", "");
+    order.body = body;
+    orders_.add(order);
+    return Answer::json({{"url", orderPdf(order, baseUrl_)}, {"order_id", order.id}});
+}
+
+Answer DemoServer::sendSheet(const Call& call) {
+    const Json body = call.json();
+    if (const Faults faults = sellingSheetFormFaults(body); !faults.empty()) {
+        return refusal(faults);
+    }
+    if (!holds(sheetStyles(), body["style_id"].get<int>())) {
+        return refusal({{"style_id", {"El estilo ya no está en el catálogo."}}});
+    }
+    if (!body.value("save", true)) {
+        return Answer::json({{"url", previewUrl("sheet", body)}});
+    }
+    Order order;
+    if (const auto earlier = orders_.find(call.account.id, body["id"].get<std::int64_t>(), "sheet")) {
+        order = *earlier;
+    }
+    const bool known = order.id != 0;
+    order.account = call.account.id;
+    order.kind = "sheet";
+    order.type = 7;
+    order.created = now();
+    order.filename = body["name_order"].get<std::string>();
+    order.body = body;
+    known ? orders_.update(order) : orders_.add(order);
+    return Answer::json({{"url", orderPdf(order, baseUrl_)}, {"order_id", order.id}});
+}
+
+Answer DemoServer::deleteSheet(const Call& call) {
+    auto order = orders_.find(call.account.id, call.number("order_id").value_or(0), "sheet");
+    if (!order || order->token != call.parameter("order_token")) {
+        return Answer::message(404, "La hoja vendedora no existe.");
+    }
+    order->fixedState = OrderState::deleted;
+    orders_.update(*order);
+    return Answer::message(200, "Hoja vendedora eliminada.");
+}
+
+int DemoServer::activationsMade(const Account& account, int activationId) {
+    int made = 0;
+    for (const Activation& activation : activations()) {
+        made += activation.id == activationId ? activation.made : 0;
+    }
+    for (const Order& order : orders_.list(account.id, "activation")) {
+        made += order.body["activation"]["activation_id"] == activationId;
+    }
+    return made;
+}
+
+Answer DemoServer::sendActivation(const Call& call) {
+    const Json body = call.json();
+    if (const Faults faults = activationFormFaults(body); !faults.empty()) {
+        return refusal(faults);
+    }
+    const int id = body["activation"]["activation_id"].get<int>();
+    const auto wanted = std::ranges::find(activations(), id, &Activation::id);
+    if (wanted == activations().end()) {
+        return refusal({{"activation.activation_id", {"La activación ya no está en el catálogo."}}});
+    }
+    const int made = activationsMade(call.account, id);
+    if (made >= wanted->quota) {
+        return refusal({{"activation.activation_id", {"No queda cupo para esta activación."}}});
+    }
+    Order order;
+    order.account = call.account.id;
+    order.kind = "activation";
+    order.type = 9;
+    order.pdv = body["customer"]["name"].get<std::string>();
+    order.body = body;
+    orders_.add(order);
+    return Answer::json({{"url", orderPage(order, baseUrl_)},
+                         {"order_id", order.id},
+                         {"quota", wanted->quota},
+                         {"number_made", made + 1}});
+}
+
+} // namespace kavor::demo

@@ -1,0 +1,41 @@
+#include "server/Time.h"
+
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <random>
+
+namespace kavor::demo {
+
+std::int64_t now() {
+    using namespace std::chrono;
+    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
+}
+
+std::string wireDate(std::int64_t seconds) {
+    const std::time_t time = std::time_t(seconds);
+    std::tm local{};
+    localtime_r(&time, &local);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%d-%m-%Y %H:%M:%S", &local);
+    return text.data();
+}
+
+int yearOf(std::int64_t seconds) {
+    const std::time_t time = std::time_t(seconds);
+    std::tm local{};
+    localtime_r(&time, &local);
+    return local.tm_year + 1900;
+}
+
+std::string randomHex(int digits) {
+    static constexpr std::string_view alphabet = "0123456789abcdef";
+    std::random_device device;
+    std::string text;
+    for (int i = 0; i < digits; ++i) {
+        text += alphabet[device() & 15u];
+    }
+    return text;
+}
+
+} // namespace kavor::demo
