@@ -1,0 +1,258 @@
+#include "kavor/KavorApplication.h"
+
+#include "base/AtomicFile.h"
+#include "base/BackgroundFileWriter.h"
+#include "base/NotificationCenter.h"
+#include "base/StopProcess.h"
+#include "brochures/wizard/WizardStep.h"
+#include "catalogue/services/FontUpdater.h"
+#include "catalogue/services/ResourceUpdateRun.h"
+#include "device/AlertPresenter.h"
+#include "device/AppLifecycle.h"
+#include "device/BackgroundTasks.h"
+#include "device/Clock.h"
+#include "device/FontRegistry.h"
+#include "device/ImageCache.h"
+#include "device/KeychainStore.h"
+#include "device/LocalNotifications.h"
+#include "device/LocationService.h"
+#include "device/PhotoPicker.h"
+#include "device/PlainDownloader.h"
+#include "device/PushRegistration.h"
+#include "device/Reachability.h"
+#include "device/ReverseLocationManager.h"
+#include "device/UrlOpener.h"
+#include "device/UserDefaults.h"
+#include "kavor/SectionScreens.h"
+#include "network/AuthManager.h"
+#include "network/NetworkManager.h"
+#include "orders/OrderDiskManager.h"
+#include "orders/services/OrderSyncManager.h"
+#include "shell/AppSingleton.h"
+#include "shell/screens/Artwork.h"
+#include "shell/screens/ResourceImages.h"
+#include "shell/screens/RootController.h"
+#include "shell/screens/Screens.h"
+#include "shell/services/AppDelegate.h"
+#include "shell/services/CatalogueUpdate.h"
+#include "shell/services/SessionStore.h"
+#include "ui/Ui.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+
+#include <utility>
+
+// In a static library nothing else would keep it.
+static void initialiseConfiguration() {
+    Q_INIT_RESOURCE(configuration);
+}
+
+namespace kavor {
+
+namespace {
+
+constexpr char windowWidth[] = "windowWidth";
+constexpr char windowHeight[] = "windowHeight";
+constexpr QSize usualSize(1024, 768);
+constexpr QSize smallestSize(320, 480);
+
+void makeFolder(const std::filesystem::path& folder) {
+    if (const auto made = atomic_file::makeFolder(folder); !made)
+        stopProcess("the folder " + made.error().text());
+}
+
+// The session, before anything that reads it is made.
+AppSingleton& openSession(const KavorOptions& options) {
+    makeFolder(options.documents);
+    makeFolder(options.caches);
+    atomic_file::sweepTemporaries(options.documents);
+    AppSingleton& session = AppSingleton::shared();
+    session.version = KAVOR_VERSION;
+    session.compilation = KAVOR_COMPILATION;
+    session.setFolders(options.documents, options.caches);
+    return session;
+}
+
+// Reading goes on while everything else is made.
+std::unique_ptr<SessionStore> beginReading(AppSingleton& session) {
+    auto sessions = std::make_unique<SessionStore>(session);
+    sessions->preload();
+    return sessions;
+}
+
+} // namespace
+
+// All collaborators, each after those that it uses.
+struct KavorApplication::Parts {
+    Parts(const KavorOptions& options, NetworkConfiguration configuration)
+        : session(openSession(options))
+        , sessions(beginReading(session))
+        , defaults(options.documents / "UserDefaults")
+        , keychain(makeKeychain(options.documents))
+        , auth(*keychain, defaults, configuration.urls.baseURLPro)
+        , network(std::move(configuration), {auth, reachability, clock})
+        , images(options.caches / "Images", downloader)
+        , fontUpdater(options.caches, downloader, fonts)
+        , resources(images, fontUpdater, notifications)
+        , tasks(clock, reachability, {})
+        , sync({network, OrderDiskManager::shared(), localNotifications, notifications, tasks, clock,
+                [this] { network.configureSession(NetworkManager::backgroundConfiguration()); },
+                [this] { network.configureSession(NetworkManager::defaultConfiguration()); },
+                [this] { application.resetRoot(AppDelegate::RootKind::AllOrders); }})
+        , location(locationService, geocoder)
+        , application({session, *sessions, network, auth, defaults, notifications, localNotifications, push,
+                       tasks, sync})
+        , catalogue({session, network, resources, *sessions, defaults, clock})
+        , wizard{network,  OrderDiskManager::shared(), sync, alerts, urls, clock, downloader, photos,
+                 &location}
+        , root({application,
+                alerts,
+                localNotifications,
+                {session, network, auth, defaults, notifications, alerts, urls},
+                {session, application, network, auth, catalogue, notifications, OrderDiskManager::shared(),
+                 alerts, urls, clock, reachability},
+                [this](const QString& transition, const std::function<void()>& close) {
+                    return makeSectionScreen(transition, wizard, close);
+                }}) {}
+
+    AppSingleton& session;
+    NotificationCenter& notifications = NotificationCenter::shared();
+    std::unique_ptr<SessionStore> sessions;
+    SystemClock clock;
+    QtReachability reachability;
+    FileUserDefaults defaults;
+    std::unique_ptr<KeychainStore> keychain;
+    AuthManager auth;
+    NetworkManager network;
+    PlainDownloader downloader;
+    ImageCache images;
+    FontRegistry fonts;
+    FontUpdater fontUpdater;
+    ResourceUpdateRun resources;
+    DesktopNotifications localNotifications;
+    NoPushRegistration push;
+    TimerBackgroundTasks tasks;
+    OrderSyncManager sync;
+    AlertPresenter alerts;
+    SystemUrlOpener urls;
+    FilePhotoPicker photos; // no photo library on a desktop: every pick says so
+    QtLocationService locationService;
+    NoReverseGeocoder geocoder;
+    ReverseLocationManager location;
+    QtAppLifecycle lifecycle;
+    AppDelegate application;
+    CatalogueUpdate catalogue;
+    WizardServices wizard;
+    RootController root;
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = nullptr;
+};
+
+void KavorApplication::prepareProcess() {
+    QCoreApplication::setApplicationName(QStringLiteral("kavor"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KAVOR_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("kavor"));
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+}
+
+tl::expected<NetworkConfiguration, std::string>
+KavorApplication::loadConfiguration(const KavorOptions& options) {
+    if (options.configuration)
+        return NetworkConfiguration::load(*options.configuration);
+    initialiseConfiguration();
+    QFile embedded(QStringLiteral(":/kavor/NetworkConfiguration.plist"));
+    if (!embedded.open(QIODevice::ReadOnly))
+        stopProcess("NetworkConfiguration.plist");
+    return NetworkConfiguration::decode(embedded.readAll().toStdString(), "NetworkConfiguration.plist");
+}
+
+KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfiguration configuration)
+    : options_(options)
+    , parts_(std::make_unique<Parts>(options, std::move(configuration))) {
+    if (options.offline)
+        setOffline(true);
+    // What the wizard wrote last stands on disk before the session is stored.
+    connect(&parts_->lifecycle, &AppLifecycle::willTerminate, this,
+            [] { BackgroundFileWriter::shared().flush(); });
+    connect(&parts_->lifecycle, &AppLifecycle::enteredBackground, this,
+            [] { BackgroundFileWriter::shared().flush(); });
+    parts_->application.follow(parts_->lifecycle);
+    connect(&parts_->root, &RootController::windowClosed, this, [this] {
+        rememberWindowSize();
+        parts_->lifecycle.reportWindowClosed();
+    });
+}
+
+KavorApplication::~KavorApplication() = default;
+
+bool KavorApplication::start() {
+    registerUi(parts_->engine);
+    registerScreens(parts_->engine);
+    parts_->engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));
+    parts_->engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&parts_->root)}});
+    parts_->engine.load(screenView("MainWindow"));
+    if (parts_->engine.rootObjects().isEmpty())
+        return false;
+    parts_->window = qobject_cast<QQuickWindow*>(parts_->engine.rootObjects().constFirst());
+    parts_->root.setWindow(parts_->window, !qEnvironmentVariableIsSet("KAVOR_NO_ANIMATION"));
+    openWindow();
+    parts_->application.didFinishLaunching();
+    for (const QString& url : std::as_const(options_.urls))
+        parts_->application.openUrl(url);
+    return true;
+}
+
+void KavorApplication::openWindow() {
+    const QSize remembered(
+        int(parts_->defaults.integer(QLatin1String(windowWidth)).value_or(usualSize.width())),
+        int(parts_->defaults.integer(QLatin1String(windowHeight)).value_or(usualSize.height())));
+    parts_->window->resize(options_.size.value_or(remembered.expandedTo(smallestSize)));
+    parts_->window->setIcon(Artwork::applicationIcon());
+    parts_->window->show();
+}
+
+void KavorApplication::rememberWindowSize() {
+    if (options_.size || !parts_->window)
+        return;
+    parts_->defaults.setInteger(QLatin1String(windowWidth), parts_->window->width());
+    parts_->defaults.setInteger(QLatin1String(windowHeight), parts_->window->height());
+}
+
+void KavorApplication::startedAgain(const QStringList& urls) {
+    if (parts_->window) {
+        parts_->window->raise();
+        parts_->window->requestActivate();
+    }
+    for (const QString& url : urls)
+        parts_->application.openUrl(url);
+}
+
+QQuickWindow* KavorApplication::window() const {
+    return parts_->window;
+}
+
+RootController& KavorApplication::root() {
+    return parts_->root;
+}
+
+AppDelegate& KavorApplication::delegate() {
+    return parts_->application;
+}
+
+AlertPresenter& KavorApplication::alerts() {
+    return parts_->alerts;
+}
+
+ServiceOperations& KavorApplication::network() {
+    return parts_->network;
+}
+
+void KavorApplication::setOffline(bool offline) {
+    parts_->reachability.setForcedOffline(offline);
+}
+
+} // namespace kavor

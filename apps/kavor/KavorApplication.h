@@ -1,0 +1,56 @@
+#pragma once
+
+#include "kavor/KavorOptions.h"
+#include "network/NetworkConfiguration.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QQuickWindow;
+
+namespace kavor {
+
+class AlertPresenter;
+class AppDelegate;
+class RootController;
+class ServiceOperations;
+
+// The client, put together: session, device, network, services, screens and the window. One at a time, after
+// the application object. Session and drafts stay what they are for the process.
+class KavorApplication : public QObject {
+    Q_OBJECT
+public:
+    // Prepares the process before its application object is made: names, and how the window draws.
+    static void prepareProcess();
+    // The configuration that the options name, or the embedded one; the error names file and key.
+    static tl::expected<NetworkConfiguration, std::string> loadConfiguration(const KavorOptions& options);
+
+    // Makes the folders, mode 0700, and begins to read the session's files.
+    KavorApplication(const KavorOptions& options, NetworkConfiguration configuration);
+    ~KavorApplication() override;
+
+    // Shows the window and launches. False when the window's QML does not load.
+    bool start();
+
+    [[nodiscard]] QQuickWindow* window() const;
+    [[nodiscard]] RootController& root();
+    [[nodiscard]] AppDelegate& delegate();
+    [[nodiscard]] AlertPresenter& alerts();
+    [[nodiscard]] ServiceOperations& network();
+    // Makes the client believe that there is no network, or ends that.
+    void setOffline(bool offline);
+    // Brings the window to the front and opens the URLs.
+    void startedAgain(const QStringList& urls);
+
+private:
+    struct Parts;
+
+    void openWindow();
+    void rememberWindowSize();
+
+    KavorOptions options_;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace kavor

@@ -1,0 +1,43 @@
+#include "base/AtomicFile.h"
+#include "kavor/KavorApplication.h"
+#include "kavor/SingleInstance.h"
+
+#include <QGuiApplication>
+
+#include <sys/stat.h>
+
+#include <cstdio>
+
+int main(int argc, char* argv[]) {
+    ::umask(S_IRWXG | S_IRWXO); // what the client writes is its user's alone
+    kavor::KavorApplication::prepareProcess();
+    QGuiApplication application(argc, argv);
+    const auto options = kavor::KavorOptions::read(QCoreApplication::arguments().mid(1));
+    if (!options) {
+        std::fprintf(stderr, "%s\n", options.error().c_str());
+        return 64;
+    }
+    if (options->help) {
+        std::fputs(kavor::KavorOptions::helpText().c_str(), stdout);
+        return 0;
+    }
+    auto configuration = kavor::KavorApplication::loadConfiguration(*options);
+    if (!configuration) {
+        std::fprintf(stderr, "%s\n", configuration.error().c_str());
+        return 1;
+    }
+    if (const auto made = kavor::atomic_file::makeFolder(options->documents); !made) {
+        std::fprintf(stderr, "kavor: %s\n", made.error().text().c_str());
+        return 1;
+    }
+    kavor::SingleInstance instance(options->documents);
+    if (!instance.isFirst()) {
+        instance.handOver(options->urls);
+        std::fprintf(stderr, "Kavor ya está abierto con la carpeta %s.\n", options->documents.c_str());
+        return 0;
+    }
+    kavor::KavorApplication kavor(*options, std::move(*configuration));
+    QObject::connect(&instance, &kavor::SingleInstance::startedAgain, &kavor,
+                     &kavor::KavorApplication::startedAgain);
+    return kavor.start() ? QGuiApplication::exec() : 1;
+}

@@ -1,0 +1,76 @@
+import QtQuick
+import Kavor.Screens
+import Kavor.Ui
+
+// What has no section of its own. In the bar of a wide window, at the foot of a phone.
+Row {
+    id: bar
+
+    required property WelcomeViewController controller
+    property bool inverse: false
+    readonly property var entries: [
+        { id: "updateInfoapp", text: "Actualizar", icon: "refresh", ready: true },
+        { id: "allOrders", text: "Pedidos", icon: "orders", ready: false },
+        { id: "profile", text: "Perfil", icon: "user", ready: false },
+        { id: "suggestions", text: "Buzón", icon: "mailbox", ready: false },
+        { id: "tutorials", text: "Tutoriales", icon: "play", ready: false },
+        { id: "logout", text: "Salir", icon: "logout", ready: true }
+    ]
+
+    function act(id: string): void {
+        if (id === "updateInfoapp")
+            controller.updateInfoapp();
+        else if (id === "logout")
+            controller.logout();
+    }
+
+    Repeater {
+        model: bar.entries
+
+        Tappable {
+            id: entry
+
+            required property var modelData
+            readonly property color ink: bar.inverse ? Theme.inverseInk : Theme.bottle
+
+            objectName: modelData.id + "Button"
+            width: bar.inverse ? 76 : bar.width / bar.entries.length
+            height: bar.inverse ? 64 : bar.height
+            accessibleName: modelData.text
+            Accessible.description: modelData.ready ? "" : "Próximamente"
+            enabled: modelData.ready
+            opacity: enabled ? 1 : 0.4
+            onClicked: bar.act(modelData.id)
+
+            background: Rectangle {
+                anchors.fill: parent
+                anchors.margins: 4
+                radius: Theme.radius
+                color: entry.down ? (bar.inverse ? Theme.bottleDark : Theme.hairline)
+                     : entry.hot && entry.enabled ? (bar.inverse ? Theme.bottleLight : Theme.sunken) : "transparent"
+
+                FocusRing { shown: entry.visualFocus }
+            }
+            contentItem: Item {
+                Column {
+                    anchors.centerIn: parent
+                    spacing: 2
+
+                    Icon {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        name: entry.modelData.icon
+                        size: 22
+                        colour: entry.ink
+                    }
+                    Text {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        text: entry.modelData.text
+                        color: entry.ink
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontSmall
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,155 @@
+#include "shell/screens/LoginViewController.h"
+
+#include "base/StopProcess.h"
+#include "device/AlertPresenter.h"
+#include "device/UrlOpener.h"
+#include "device/UserDefaults.h"
+#include "network/AuthManager.h"
+#include "network/ServiceOperations.h"
+#include "shell/AppSingleton.h"
+#include "shell/screens/ShellTexts.h"
+
+#include <utility>
+
+namespace kavor {
+
+LoginViewController::LoginViewController(const Services& services, QObject* parent)
+    : QObject(parent)
+    , services_(services) {
+    prefill();
+    urlSchemeOpened_ = services_.notifications.observe(notification::urlSchemeOpened,
+                                                       [this](const NotificationInfo&) { loginWithToken(); });
+}
+
+QString LoginViewController::versionLabel() const {
+    return versionText(services_.session);
+}
+
+void LoginViewController::prefill() {
+    const auto item = services_.auth.readCredentials();
+    if (!item)
+        return;
+    rememberPassword_ = true;
+    retrievedCredentials_ = {item->account, item->password};
+    email_ = QString::fromStdString(item->account);
+    password_ = QString::fromStdString(item->password);
+}
+
+void LoginViewController::setEmail(const QString& email) {
+    if (std::exchange(email_, email) != email)
+        emit fieldsChanged();
+}
+
+void LoginViewController::setPassword(const QString& password) {
+    if (std::exchange(password_, password) != password)
+        emit fieldsChanged();
+}
+
+void LoginViewController::setLoginEnabled(bool enabled) {
+    if (std::exchange(loginEnabled_, enabled) != enabled)
+        emit loginEnabledChanged();
+}
+
+void LoginViewController::setLoggingIn(bool running) {
+    if (std::exchange(loggingIn_, running) != running)
+        emit veilShownChanged();
+}
+
+void LoginViewController::loginAction() {
+    emit passwordResigned();
+    if (email_.isEmpty() || password_.isEmpty() || !loginEnabled_)
+        return;
+    setLoginEnabled(false);
+    performLogin(email_, password_, std::nullopt);
+}
+
+void LoginViewController::loginWithToken() {
+    const auto& user = services_.session.autoLoginUser;
+    const auto& token = services_.session.autoLoginToken;
+    if (!user || !token)
+        return;
+    setEmail(QString::fromStdString(*user));
+    performLogin(email_, std::nullopt, QString::fromStdString(*token));
+}
+
+void LoginViewController::performLogin(const QString& login, const std::optional<QString>& password,
+                                       const std::optional<QString>& token) {
+    if (!services_.network.isReachable()) {
+        setLoginEnabled(true);
+        services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+        return;
+    }
+    setLoggingIn(true);
+    const auto failed = [this](const RequestFailure& failure) {
+        setLoginEnabled(true);
+        showRequestFailure(
+            {services_.alerts, services_.urls}, [this] { setLoggingIn(false); }, failure, true,
+            QStringLiteral("Incidencia"));
+        // The presenter leaves the veil alone when an update is asked for; nothing runs behind it any more.
+        setLoggingIn(false);
+    };
+    services_.network.login({login, password, token},
+                            {this, [this](const LoginResult& result) { loginSucceeded(result); }, failed});
+}
+
+void LoginViewController::loginSucceeded(const LoginResult& result) {
+    if (!result.token)
+        stopProcess("token in the login answer");
+    setLoggingIn(false);
+    services_.network.setAccessToken(QString::fromStdString(*result.token));
+    rememberCredentials();
+    services_.defaults.setBoolean(QLatin1String(default_key::loadIntoInitialViewController), true);
+    services_.session.userEmail = email_.toStdString();
+    services_.session.userPassword = password_.toStdString();
+    services_.session.loginResult = result;
+    emit showUserApplications();
+}
+
+void LoginViewController::rememberCredentials() {
+    if (!rememberPassword_)
+        return; // nothing is deleted here
+    const std::string account = email_.toStdString();
+    const std::string password = password_.toStdString();
+    const std::string token = services_.network.accessToken().toStdString();
+    if (!retrievedCredentials_) {
+        services_.auth.addCredentials(account, password, token);
+        return;
+    }
+    // Unchanged, the item keeps its old token; a 401 repairs it.
+    if (retrievedCredentials_->account != account || retrievedCredentials_->password != password)
+        services_.auth.updateCredentials(account, password, token);
+}
+
+void LoginViewController::rememberPasswordSwitchValueChangedAction(bool on) {
+    if (std::exchange(rememberPassword_, on) == on)
+        return;
+    emit rememberPasswordChanged();
+    if (on)
+        return;
+    setEmail({});
+    setPassword({});
+    retrievedCredentials_.reset();
+    services_.auth.deleteCredentials();
+}
+
+void LoginViewController::resetPasswordAction() {
+    services_.urls.openExternally(services_.network.forgotPasswordUrl());
+}
+
+// The same action as for a forgotten password, on purpose.
+void LoginViewController::activateUserAction() {
+    resetPasswordAction();
+}
+
+void LoginViewController::unwindToLoginView() {
+    services_.network.setAccessToken({});
+    services_.session.userEmail.reset();
+    services_.session.userPassword.reset();
+    setPassword({});
+}
+
+void LoginViewController::viewWillDisappear() {
+    setLoginEnabled(true);
+}
+
+} // namespace kavor

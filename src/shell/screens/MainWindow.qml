@@ -1,0 +1,89 @@
+import QtQuick
+import Kavor.Screens
+import Kavor.Ui
+
+// The one window: the screens on top of each other, then banners and alerts above all of them.
+AppWindow {
+    id: window
+
+    required property RootController root
+    readonly property Item topScreen: stack.count > 0 ? stack.itemAt(stack.count - 1) : null
+
+    objectName: "mainWindow"
+    minimumWidth: 320
+    minimumHeight: 480
+    onClosing: root.reportWindowClosed()
+
+    Repeater {
+        id: stack
+
+        model: window.root.screens
+
+        Loader {
+            id: screen
+
+            required property int index
+            required property url view
+            required property QtObject controller
+            readonly property bool onTop: index === stack.count - 1
+
+            anchors.fill: parent
+            visible: onTop
+            enabled: onTop
+            focus: onTop
+            Component.onCompleted: controller ? setSource(view, { controller: controller }) : setSource(view)
+            onLoaded: {
+                if (onTop)
+                    forceActiveFocus();
+            }
+            onOnTopChanged: {
+                if (onTop)
+                    forceActiveFocus();
+            }
+        }
+    }
+
+    // The former root leaves: it fades and grows.
+    Snapshot {
+        id: leaving
+
+        anchors.fill: parent
+        image: window.root.snapshot
+        visible: transition.running
+        onImageChanged: {
+            if (visible || window.root.snapshot.width === 0)
+                return;
+            opacity = 1;
+            scale = 1;
+            transition.restart();
+        }
+
+        ParallelAnimation {
+            id: transition
+
+            onFinished: window.root.snapshotDone()
+
+            NumberAnimation { target: leaving; property: "opacity"; from: 1; to: 0; duration: 1000 }
+            NumberAnimation { target: leaving; property: "scale"; from: 1; to: 1.5; duration: 1000 }
+        }
+    }
+
+    BannerHost {
+        id: banner
+
+        onTapped: window.root.bannerTapped()
+        onShownChanged: {
+            if (!shown)
+                window.root.bannerGone();
+        }
+    }
+    AlertHost { presenter: window.root.alerts }
+
+    Connections {
+        target: window.root
+
+        function onBannerShown(title: string, body: string): void {
+            banner.show(title, body);
+        }
+    }
+}

@@ -1,0 +1,128 @@
+#include "shell/screens/RootController.h"
+
+#include "device/AlertPresenter.h"
+#include "device/LocalNotifications.h"
+#include "shell/AppSingleton.h"
+#include "shell/screens/Screens.h"
+
+#include <QQuickWindow>
+
+#include <memory>
+#include <utility>
+
+namespace kavor {
+
+RootController::RootController(Services services, QObject* parent)
+    : QObject(parent)
+    , services_(std::move(services)) {
+    connect(&services_.application, &AppDelegate::rootSet, this, &RootController::setRoot);
+    connect(&services_.notifications, &LocalNotifications::bannerWanted, this,
+            [this](int number, const QString& title, const QString& body) {
+                banners_.push_back({number, title, body});
+                if (banners_.size() == 1)
+                    emit bannerShown(title, body);
+            });
+}
+
+void RootController::setWindow(QQuickWindow* window, bool animated) {
+    window_ = window;
+    animated_ = animated;
+}
+
+QObject* RootController::alerts() const {
+    return &services_.alerts;
+}
+
+void RootController::setRoot(AppDelegate::RootKind kind, bool inTransition) {
+    if (inTransition)
+        takeSnapshot();
+    screens_.replaceAll(makeRoot(kind));
+    if (kind == AppDelegate::RootKind::MainNavigation)
+        welcome_->viewWillAppear();
+}
+
+void RootController::takeSnapshot() {
+    if (!animated_ || !window_ || !window_->isExposed())
+        return;
+    snapshot_ = window_->grabWindow();
+    emit snapshotChanged();
+}
+
+void RootController::snapshotDone() {
+    if (snapshot_.isNull())
+        return;
+    snapshot_ = {};
+    emit snapshotChanged();
+}
+
+Screen RootController::makeRoot(AppDelegate::RootKind kind) {
+    switch (kind) {
+    case AppDelegate::RootKind::MainNavigation:
+        return makeWelcome();
+    case AppDelegate::RootKind::LoginNavigation:
+        return makeLogin();
+    case AppDelegate::RootKind::AllOrders:
+        return makeAllOrders();
+    case AppDelegate::RootKind::Launch:
+        break;
+    }
+    return {screenView("LaunchView"), nullptr};
+}
+
+Screen RootController::makeLogin() {
+    login_ = new LoginViewController(services_.login, this);
+    connect(login_, &LoginViewController::showUserApplications, this, &RootController::showUserApplications);
+    return {screenView("LoginView"), login_};
+}
+
+Screen RootController::makeWelcome() {
+    welcome_ = new WelcomeViewController(services_.welcome, this);
+    connect(welcome_, &WelcomeViewController::transitionPerformed, this, &RootController::openSection);
+    connect(welcome_, &WelcomeViewController::dismissWelcomeView, this, [this] {
+        if (login_)
+            login_->unwindToLoginView();
+    });
+    return {screenView("WelcomeView"), welcome_};
+}
+
+Screen RootController::makeAllOrders() {
+    return services_.sections(QLatin1String(allOrdersTransition), [this] {
+        const bool hasSession = services_.welcome.session.loginResult.has_value();
+        services_.application.setRoot(hasSession ? AppDelegate::RootKind::MainNavigation
+                                                 : AppDelegate::RootKind::LoginNavigation);
+    });
+}
+
+void RootController::showUserApplications() {
+    screens_.push(makeWelcome());
+    welcome_->downloadApplicationInformation = true;
+    welcome_->viewWillAppear();
+    login_->viewWillDisappear();
+}
+
+void RootController::openSection(const QString& transition) {
+    const auto controller = std::make_shared<QPointer<QObject>>();
+    const Screen screen = services_.sections(transition, [this, controller] {
+        screens_.remove(*controller);
+        if (welcome_ && screens_.top() && screens_.top()->controller == welcome_)
+            welcome_->viewWillAppear();
+    });
+    *controller = screen.controller;
+    screens_.push(screen);
+}
+
+void RootController::bannerTapped() {
+    if (!banners_.empty())
+        services_.notifications.respondToBanner(banners_.front().number,
+                                                QLatin1String(notification_action::open));
+}
+
+void RootController::bannerGone() {
+    if (banners_.empty())
+        return;
+    banners_.pop_front();
+    if (!banners_.empty())
+        emit bannerShown(banners_.front().title, banners_.front().body);
+}
+
+} // namespace kavor

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace kavor {
+
+class AppSingleton;
+class Clock;
+class ResourceUpdateRun;
+class ServiceOperations;
+class SessionStore;
+class UserDefaults;
+
+// The dashboard's run: fetches the catalogue, puts it into the session and on the disk, then updates pictures
+// and fonts. "UpdatingResourcesDidEnd" is posted at the end of a run that got its catalogue.
+class CatalogueUpdate : public QObject {
+    Q_OBJECT
+public:
+    struct Services {
+        AppSingleton& session;
+        ServiceOperations& network;
+        ResourceUpdateRun& resources;
+        SessionStore& sessions;
+        UserDefaults& defaults;
+        Clock& clock;
+    };
+    static constexpr char updatingText[] = "Actualizando información";
+
+    // The services outlive this object.
+    explicit CatalogueUpdate(const Services& services, QObject* parent = nullptr);
+
+    // Requests the catalogue. The earlier one stays in memory and on disk until a new one has come whole.
+    void start();
+
+    // How long ago the catalogue was fetched on this device, in seconds; nothing when that is not known.
+    [[nodiscard]] std::optional<qint64> secondsSinceFetch() const;
+
+signals:
+    // Position of the indicator, from 0 to 1, and the text beside it; an empty text leaves the earlier one.
+    void progressChanged(double progress, const QString& message);
+    // The answer has come and decoded; it takes the place of the earlier catalogue after this signal.
+    void catalogueArrived();
+    void failed(const QStringList& messages);
+
+private:
+    Services services_;
+};
+
+} // namespace kavor

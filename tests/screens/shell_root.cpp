@@ -1,0 +1,114 @@
+#include "ShellFixture.h"
+#include "device/LocalNotifications.h"
+#include "shell/screens/ComingSoonViewController.h"
+#include "shell/screens/RootController.h"
+
+#include <QAbstractItemModelTester>
+
+namespace kavor {
+
+namespace {
+
+// The screens on top of each other, without a window.
+class Roots : public ShellTest {
+protected:
+    Roots() {
+        session.loginResult = rights();
+        session.applicationInformation = catalogueWith();
+    }
+
+    // "LoginView WelcomeView": the stack from its foot.
+    [[nodiscard]] QString stack() {
+        QStringList names;
+        for (int row = 0; row < root.screens()->rowCount(); ++row)
+            names << root.screens()->index(row, 0).data(ScreenStack::ViewRole).toUrl().fileName().chopped(4);
+        return names.join(u' ');
+    }
+
+    DesktopNotifications banners;
+    std::function<void()> leaveSection;
+    RootController root{
+        {application, alerts, banners, loginServices(), welcomeServices(),
+         [this](const QString& transition, const std::function<void()>& close) {
+             auto* controller = new ComingSoonViewController(transition, {});
+             QObject::connect(controller, &ComingSoonViewController::closed, controller, close);
+             leaveSection = [controller] { controller->close(); };
+             return Screen{QUrl(QStringLiteral("x:/") + transition + QStringLiteral(".qml")), controller};
+         }}};
+    QAbstractItemModelTester tester{root.screens(), QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+} // namespace
+
+TEST_F(Roots, TheWayFromTheLoginToASectionAndBack) {
+    application.didFinishLaunching();
+    EXPECT_EQ(stack(), u"LoginView");
+    root.login()->setEmail(QStringLiteral("ana"));
+    root.login()->setPassword(QStringLiteral("secret"));
+    root.login()->rememberPasswordSwitchValueChangedAction(true);
+    root.login()->loginAction();
+    network.requests.login.succeed(rights());
+    EXPECT_EQ(stack(), u"LoginView WelcomeView");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(network.requests.appInformation.waiting(), 1)
+        << "the dashboard downloads the catalogue at once";
+
+    root.welcome()->openSection(1);
+    EXPECT_EQ(stack(), u"LoginView WelcomeView showBrochureSegue");
+    EXPECT_TRUE(session.actualSection);
+    leaveSection();
+    EXPECT_EQ(stack(), u"LoginView WelcomeView");
+    EXPECT_FALSE(session.actualSection) << "the dashboard appeared again";
+
+    root.welcome()->logout();
+    alerts.answerButton(1);
+    EXPECT_EQ(stack(), u"LoginView");
+    EXPECT_EQ(network.token, u"");
+    EXPECT_FALSE(session.userEmail);
+    EXPECT_EQ(root.login()->email(), u"ana") << "pre-filled";
+    EXPECT_EQ(root.login()->password(), u"");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(root.welcome());
+}
+
+TEST_F(Roots, TheAutomaticLoginRefreshesTheDashboardItShows) {
+    remember();
+    application.didFinishLaunching();
+    EXPECT_EQ(stack(), u"LaunchView");
+    network.requests.login.succeed(rights());
+    EXPECT_EQ(stack(), u"WelcomeView");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(network.requests.userInformation.waiting(), 1);
+    EXPECT_TRUE(root.welcome()->isProgressVeilShown());
+}
+
+TEST_F(Roots, TheOrdersOfANotificationLeadBackToWhereASessionBelongs) {
+    application.resetRoot(Root::AllOrders);
+    EXPECT_EQ(stack(), RootController::allOrdersTransition);
+    leaveSection();
+    EXPECT_EQ(stack(), u"WelcomeView");
+    session.loginResult.reset();
+    application.resetRoot(Root::AllOrders);
+    leaveSection();
+    EXPECT_EQ(stack(), u"LoginView");
+}
+
+TEST_F(Roots, BannersShowOneAfterTheOtherAndATapAnswersItsOwn) {
+    QStringList shown;
+    QList<QVariantMap> tapped;
+    QObject::connect(&root, &RootController::bannerShown, &root,
+                     [&](const QString& title) { shown << title; });
+    QObject::connect(&banners, &LocalNotifications::tapped, &root,
+                     [&](const QString&, const QVariantMap& info) { tapped << info; });
+    for (const int number : {1, 2})
+        emit banners.bannerWanted(number, QString::number(number), {});
+    EXPECT_EQ(shown, QStringList("1"));
+    root.bannerGone();
+    EXPECT_EQ(shown, QStringList({"1", "2"}));
+    root.bannerGone();
+    root.bannerGone(); // one too many is no fault
+    root.bannerTapped();
+    EXPECT_TRUE(tapped.isEmpty());
+}
+
+} // namespace kavor
