@@ -9,6 +9,7 @@ foreach(folder ${SCREEN_FOLDERS})
 endforeach()
 if(SCREENS AND SCREEN_VIEWS AND TARGET kavor_ui)
   qt_add_library(kavor_screens STATIC ${SCREENS})
+  set_target_properties(kavor_screens PROPERTIES AUTOMOC ON QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
   foreach(view ${SCREEN_VIEWS})
     get_filename_component(name ${view} NAME)
     set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
@@ -20,6 +21,7 @@ if(SCREENS AND SCREEN_VIEWS AND TARGET kavor_ui)
     RESOURCE_PREFIX /qt/qml
     OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/Kavor/Screens
     IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
+    IMPORTS QtQuick Kavor.Ui
     QML_FILES ${SCREEN_VIEWS})
   foreach(folder ${SCREEN_FOLDERS})
     # The generated type registration includes headers by their bare names.

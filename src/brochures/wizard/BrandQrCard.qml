@@ -1,0 +1,116 @@
+import QtQuick
+import Kavor.Ui
+import Kavor.Screens
+
+// The QR material of a digital menu.
+Card {
+    id: card
+
+    required property BrandQrForm form
+
+    signal zoomed()
+
+    SectionTitle { width: parent.width; icon: "qr"; text: "Material con QR" }
+
+    PickerRow {
+        objectName: "brandQrTypePicker"
+        width: parent.width
+        label: "Soporte"
+        model: card.form.brandQrTypes
+        currentIndex: card.form.brandQrTypePicker
+        onActivated: (index) => card.form.chooseType(index)
+    }
+    PickerRow {
+        objectName: "brandQrQuantityTablePicker"
+        width: parent.width
+        visible: !card.form.wooden
+        label: "Nº vinilos mesa"
+        model: card.form.tableQuantities
+        currentIndex: card.form.brandQrQuantityTablePicker
+        onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Table, index)
+    }
+    PickerRow {
+        objectName: "brandQrQuantityDoorPicker"
+        width: parent.width
+        visible: !card.form.wooden
+        label: "Nº vinilos puerta"
+        model: card.form.doorQuantities
+        currentIndex: card.form.brandQrQuantityDoorPicker
+        onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Door, index)
+    }
+    PickerRow {
+        objectName: "brandQrQuantityTacoPicker"
+        width: parent.width
+        visible: card.form.wooden
+        label: "Nº tacos de madera"
+        model: card.form.tacoQuantities
+        currentIndex: card.form.brandQrQuantityTacoPicker
+        onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Taco, index)
+    }
+    HelpText {
+        width: parent.width
+        visible: card.form.brands.length === 0
+        text: "Selecciona en Productos una marca que tenga material con QR."
+    }
+    Carousel {
+        id: carousel
+
+        objectName: card.form.wooden ? "brandQrTacoCarousel" : "brandQrCarousel"
+        width: parent.width
+        height: visible ? 220 : 0
+        visible: card.form.brands.length > 0
+        itemWidth: 180
+        text: "Marca del material con QR"
+        model: card.form.brands
+        onSelected: (index) => card.form.brandQrCarouselDidChange(index)
+        onTapped: card.zoomed()
+        onModelChanged: currentIndex = card.form.currentBrand
+        Component.onCompleted: currentIndex = card.form.currentBrand
+
+        delegate: Item {
+            id: entry
+
+            required property var modelData
+            readonly property bool current: ListView.isCurrentItem
+
+            width: carousel.itemWidth
+            height: ListView.view ? ListView.view.height : 180
+
+            ResourceImage {
+                anchors.fill: parent
+                anchors.margins: 4
+                anchors.bottomMargin: 28
+                source: entry.modelData.source
+                text: entry.modelData.text
+                mat: Theme.paper
+                placeholderIcon: "qr"
+                fillMode: Image.PreserveAspectFit
+
+                Rectangle {
+                    anchors.fill: parent
+                    anchors.margins: -2
+                    radius: Theme.radius + 2
+                    color: "transparent"
+                    border.width: entry.current ? 3 : 1
+                    border.color: entry.current ? Theme.amber : Theme.hairline
+                }
+            }
+            HelpText {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: entry.modelData.text
+                elide: Text.ElideRight
+                maximumLineCount: 1
+            }
+        }
+    }
+    AppButton {
+        objectName: "zoomStyleQrButton"
+        visible: carousel.visible
+        text: "Ampliar"
+        icon: "zoom"
+        kind: "secondary"
+        onClicked: card.zoomed()
+    }
+}

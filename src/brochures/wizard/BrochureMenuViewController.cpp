@@ -1,0 +1,308 @@
+#include "brochures/wizard/BrochureMenuViewController.h"
+
+#include "base/StopProcess.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/TemporalBrochure.h"
+#include "brochures/wizard/BrochureConfigurationViewController.h"
+#include "brochures/wizard/BrochureSendViewController.h"
+#include "brochures/wizard/BrochureStyleSelectorViewController.h"
+#include "brochures/wizard/StepSupport.h"
+#include "brochures/wizard/WizardAlerts.h"
+#include "brochures/wizard/WizardStepFactory.h"
+#include "network/ServiceOperations.h"
+#include "shell/AppSingleton.h"
+
+#include <QVariantMap>
+
+#include <array>
+
+namespace kavor {
+
+namespace {
+
+using Parameters = Brochures::Type::Parameters;
+using Menu = BrochureMenuViewController;
+
+struct Entry {
+    Menu::MenuButton button;
+    const char* text;
+    const char* icon;
+    int step;
+    bool Parameters::*shownWhen; // null: always
+};
+
+// In the order of the work, which is also the order on the screen.
+constexpr std::array entries{
+    Entry{Menu::Configuration, "Configuración", "store", wizard_step::configuration, nullptr},
+    Entry{Menu::Style, "Estilo", "palette", wizard_step::style, nullptr},
+    Entry{Menu::DigitalStyle, "Estilo digital", "globe", wizard_step::style,
+          &Parameters::allowSelectDigitalBrochure},
+    Entry{Menu::Products, "Productos", "products", wizard_step::products, nullptr},
+    Entry{Menu::Drinks, "Bebidas", "drinks", wizard_step::drinks, &Parameters::showOtherDrink},
+    Entry{Menu::Prices, "Precios", "price", wizard_step::prices, nullptr},
+    Entry{Menu::OrderSheet, "Comandero", "ordersheet", wizard_step::orderSheet, &Parameters::allowOrderSheet},
+    Entry{Menu::Promotions, "Promociones", "promotions", wizard_step::promotions, &Parameters::withPromotion},
+    Entry{Menu::Pennant, "Banderines", "pennant", wizard_step::pennant, &Parameters::withPennants},
+    Entry{Menu::PennantBrand, "Banderín de marca", "pennantbrand", wizard_step::pennantBrand,
+          &Parameters::withPennantBrand},
+    Entry{Menu::Send, "Enviar", "send", wizard_step::send, nullptr},
+    Entry{Menu::Reset, "Borrar todo", "eraser", -1, nullptr},
+};
+
+const Entry* entryOf(int button) {
+    for (const Entry& entry : entries) {
+        if (entry.button == button)
+            return &entry;
+    }
+    return nullptr;
+}
+
+// Whether the user has entered anything worth a word when it is brought back.
+bool holdsWork(const BrochureIntermediateData& draft) {
+    const auto& customer = draft.customerInformation;
+    return !draft.selectedBrands.empty() || !draft.selectedBeverages.empty() ||
+           draft.selectedLanguageIdentifiers || draft.selectedStyleIdentifier ||
+           draft.selectedStyleDigitalIdentifier ||
+           (customer && (!customer->name.empty() || customer->tevo || customer->email || customer->contact));
+}
+
+QString styleCaption(BrochureType type) {
+    switch (type) {
+    case BrochureType::chalkboard:
+        return QStringLiteral("Pizarra");
+    case BrochureType::video:
+        return QStringLiteral("Video");
+    case BrochureType::mantel:
+        return QStringLiteral("Mantel");
+    case BrochureType::digital:
+        return QStringLiteral("Online");
+    default:
+        return QStringLiteral("Papel");
+    }
+}
+
+} // namespace
+
+BrochureMenuViewController::BrochureMenuViewController(const WizardServices& services, QObject* parent)
+    : QObject(parent)
+    , services_(services)
+    , visibleButtons_(entries.size(), true) {
+    viewDidLoad();
+    viewDidAppear();
+}
+
+BrochureMenuViewController::~BrochureMenuViewController() {
+    // The application ends or goes back to its start with the wizard open; a session without a section keeps
+    // nothing.
+    if (AppSingleton::shared().brochureType())
+        viewWillDisappear();
+}
+
+void BrochureMenuViewController::viewDidLoad() {
+    if (TemporalBrochure::shared().restoreDraft() && holdsWork(*BrochureIntermediateData::temporalBrochure()))
+        recoveredMessage_ = QStringLiteral("Se ha recuperado la carta en curso");
+    applyParameters();
+    showStep(wizard_step::configuration);
+}
+
+void BrochureMenuViewController::viewDidAppear() {
+    appeared_ = true;
+    auto& center = NotificationCenter::shared();
+    observers_.push_back(
+        center.observe(notification::visibilityVeilView, [this](const NotificationInfo& info) {
+            const auto show = info.find("show");
+            const bool* visible = show == info.end() ? nullptr : std::get_if<bool>(&show->second);
+            setVeilVisible(visible && *visible);
+        }));
+    observers_.push_back(
+        center.observe(notification::preferredBrandsBannerClosed,
+                       [this](const NotificationInfo&) { alreadyDismissedPreferredBrandsBanner_ = true; }));
+    actualOrder_ = BrochureIntermediateData::temporalBrochure();
+}
+
+void BrochureMenuViewController::applyParameters() {
+    const auto type = AppSingleton::shared().brochureType();
+    if (!type)
+        return;
+    const Catalogue& catalogue = AppSingleton::shared().catalogue();
+    if (!sectionBrochureType(catalogue))
+        stopProcess("the kind of brochure of the section is not in the catalogue");
+    const Parameters& parameters = *sectionParameters(catalogue);
+    for (const Entry& entry : entries)
+        visibleButtons_[std::size_t(entry.button)] = !entry.shownWhen || parameters.*entry.shownWhen;
+    styleDefaultLabel_ = styleCaption(*type);
+    BrochureIntermediateData::temporalBrochure()->brochureTypeParameters = parameters;
+}
+
+void BrochureMenuViewController::showStep(int wizardStep) {
+    WizardStepViewController* step = makeWizardStep(wizardStep, services_, this);
+    leaveActiveStep();
+    WizardStepViewController* former = activeViewController_;
+    activeViewController_ = step;
+    connectStep(step);
+    step->viewDidLoad();
+    step->viewWillAppear();
+    emit activeStepChanged();
+    if (former) {
+        former->disconnect(this);
+        former->deleteLater(); // after its view, which went in the line above
+    }
+    if (qobject_cast<BrochureStyleSelectorViewController*>(step) && !alreadyDismissedPreferredBrandsBanner_)
+        NotificationCenter::shared().post(notification::showPreferredBrandsBanner);
+}
+
+void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
+    connect(step, &WizardStepViewController::previewRequested, this,
+            &BrochureMenuViewController::showPreview);
+    connect(step, &WizardStepViewController::stepRequested, this, [this](int wizardStep) {
+        for (const Entry& entry : entries) {
+            if (entry.step == wizardStep && visibleButtons_[std::size_t(entry.button)])
+                return buttonPushedAction(entry.button);
+        }
+    });
+    if (auto* configuration = qobject_cast<BrochureConfigurationViewController*>(step))
+        connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this, [this] {
+            buttonPushedAction(Send);
+            if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
+                send->previewAction();
+        });
+}
+
+void BrochureMenuViewController::leaveActiveStep() {
+    if (AppSingleton::shared().resettingBrochure) {
+        AppSingleton::shared().resettingBrochure = false;
+        return;
+    }
+    saveActiveStep();
+}
+
+void BrochureMenuViewController::saveActiveStep() {
+    auto* autoSave = dynamic_cast<SerializeAutoSave*>(activeViewController_);
+    if (!autoSave)
+        return;
+    autoSave->serializeAutoSave();
+    TemporalBrochure::shared().write(*BrochureIntermediateData::temporalBrochure());
+}
+
+void BrochureMenuViewController::viewWillDisappear() {
+    if (!appeared_)
+        return;
+    appeared_ = false;
+    observers_.clear();
+    saveActiveStep(); // also while a reset is under way
+    // What was sent isn't resumed: the next opening starts anew.
+    const auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_);
+    if (send && send->isOrderSent())
+        BrochureIntermediateData::replaceTemporalBrochure();
+}
+
+void BrochureMenuViewController::buttonPushedAction(int index) {
+    if (index == selected_ || !entryOf(index))
+        return;
+    if (index == Reset) // the entry takes the selection back at once
+        return askForReset();
+    select(index);
+    enterButton(index);
+}
+
+void BrochureMenuViewController::enterButton(int index) {
+    if (index == DigitalStyle || index == Style)
+        AppSingleton::shared().isSectionDigital = index == DigitalStyle;
+    showStep(entryOf(index)->step);
+}
+
+void BrochureMenuViewController::select(int index) {
+    if (selected_ == index)
+        return;
+    selected_ = index;
+    emit menuButtonsChanged();
+}
+
+void BrochureMenuViewController::askForReset() {
+    services_.alerts.present(
+        dialogue(QStringLiteral("Atención"),
+                 QStringLiteral("¿Desea borrar todos los datos introducidos en la carta actual?"),
+                 {{QStringLiteral("No"), AlertButton::Role::Cancel},
+                  {QStringLiteral("Sí"), AlertButton::Role::Destructive}}),
+        this, [this](const AlertAnswer& answer) {
+            if (answer.button == 1)
+                reset();
+        });
+}
+
+void BrochureMenuViewController::reset() {
+    AppSingleton& session = AppSingleton::shared();
+    alreadyDismissedPreferredBrandsBanner_ = false;
+    actualOrder_ = BrochureIntermediateData::replaceTemporalBrochure();
+    if (const auto* parameters = sectionParameters(session.catalogue()))
+        actualOrder_->brochureTypeParameters = *parameters;
+    TemporalBrochure::shared().removeAll();
+    session.resettingBrochure = true;
+    constexpr Int ownBrands = 4; // the property of the brands that the user added by hand
+    session.catalogueToChange().removeProductsOfProperty(ownBrands);
+    showStep(wizard_step::configuration);
+    select(Configuration);
+}
+
+void BrochureMenuViewController::closeSceneAction() {
+    viewWillDisappear();
+    emit closed();
+}
+
+void BrochureMenuViewController::showPreview(const QUrl& document) {
+    closePreview();
+    preview_ = new WebPreviewViewController(document, QStringLiteral("Vista previa"), services_.downloader,
+                                            services_.clock, this);
+    connect(preview_, &WebPreviewViewController::dismissed, this, &BrochureMenuViewController::closePreview);
+    emit previewChanged();
+}
+
+void BrochureMenuViewController::closePreview() {
+    if (!preview_)
+        return;
+    preview_->deleteLater();
+    preview_ = nullptr;
+    emit previewChanged();
+}
+
+void BrochureMenuViewController::setVeilVisible(bool visible) {
+    if (veilVisible_ == visible)
+        return;
+    veilVisible_ = visible;
+    emit veilVisibleChanged();
+}
+
+QString BrochureMenuViewController::title() const {
+    const auto type = AppSingleton::shared().brochureType();
+    return type ? QString::fromUtf8(label(*type).data(), qsizetype(label(*type).size())) : QString();
+}
+
+QString BrochureMenuViewController::subtitle() const {
+    const auto& customer = BrochureIntermediateData::temporalBrochure()->customerInformation;
+    return customer ? fromUtf8(customer->name) : QString();
+}
+
+bool BrochureMenuViewController::isOffline() const {
+    return !services_.network.isReachable();
+}
+
+bool BrochureMenuViewController::isButtonVisible(int index) const {
+    return index >= 0 && index < int(visibleButtons_.size()) && visibleButtons_[std::size_t(index)];
+}
+
+QVariantList BrochureMenuViewController::menuButtons() const {
+    QVariantList buttons;
+    for (const Entry& entry : entries) {
+        QString caption = QString::fromUtf8(entry.text);
+        if (entry.button == Style && !styleDefaultLabel_.isEmpty())
+            caption += QLatin1Char(' ') + styleDefaultLabel_.toLower();
+        buttons.append(QVariantMap{{QStringLiteral("id"), int(entry.button)},
+                                   {QStringLiteral("text"), caption},
+                                   {QStringLiteral("icon"), QString::fromLatin1(entry.icon)},
+                                   {QStringLiteral("selected"), entry.button == selected_},
+                                   {QStringLiteral("visible"), isButtonVisible(entry.button)}});
+    }
+    return buttons;
+}
+
+} // namespace kavor

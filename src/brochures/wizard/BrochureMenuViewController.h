@@ -1,0 +1,119 @@
+#pragma once
+
+#include "base/NotificationCenter.h"
+#include "brochures/wizard/WebPreviewViewController.h"
+#include "brochures/wizard/WizardStep.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QVariantList>
+
+#include <memory>
+#include <vector>
+
+namespace kavor {
+
+class BrochureIntermediateData;
+
+// The frame of the brochure wizard: a menu and one step at a time, all working on the one shared draft.
+// Opened with the section of the session set to a kind of brochure.
+class BrochureMenuViewController : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the screen that opens the wizard")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    // The bar's name, empty while it has none.
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY activeStepChanged)
+    // The caption of the style entry; empty outside a brochure section.
+    Q_PROPERTY(QString styleDefaultLabel READ styleDefaultLabel CONSTANT)
+    // The entries as StepMenu takes them, in the order of the work; the id is the place in the menu's table.
+    Q_PROPERTY(QVariantList menuButtons READ menuButtons NOTIFY menuButtonsChanged)
+    Q_PROPERTY(kavor::WizardStepViewController* activeViewController READ activeViewController NOTIFY
+                   activeStepChanged)
+    Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
+    Q_PROPERTY(bool offline READ isOffline NOTIFY activeStepChanged)
+    // The document on show over the wizard, null when there is none.
+    Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
+    // "Se ha recuperado la carta en curso" when the wizard opened with an unfinished menu, otherwise empty.
+    Q_PROPERTY(QString recoveredMessage READ recoveredMessage CONSTANT)
+
+public:
+    // The places in the menu that other code names.
+    enum MenuButton {
+        Reset = 0,
+        Configuration,
+        Products,
+        Prices,
+        DigitalStyle,
+        Style,
+        Drinks,
+        OrderSheet,
+        Send,
+        Promotions,
+        Pennant,
+        PennantBrand
+    };
+
+    // Opens the wizard on its first step. The services outlive it.
+    explicit BrochureMenuViewController(const WizardServices& services, QObject* parent = nullptr);
+    ~BrochureMenuViewController() override;
+
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] QString styleDefaultLabel() const { return styleDefaultLabel_; }
+    [[nodiscard]] QVariantList menuButtons() const;
+    [[nodiscard]] bool isButtonVisible(int index) const;
+    [[nodiscard]] int selectedButton() const { return selected_; }
+    [[nodiscard]] WizardStepViewController* activeViewController() const { return activeViewController_; }
+    [[nodiscard]] bool isVeilVisible() const { return veilVisible_; }
+    [[nodiscard]] bool isOffline() const;
+    [[nodiscard]] WebPreviewViewController* preview() const { return preview_; }
+    [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }
+
+    // A tap on the entry of this place; the entry on show and places past the last do nothing.
+    Q_INVOKABLE void buttonPushedAction(int index);
+    // Closes the wizard at once.
+    Q_INVOKABLE void closeSceneAction();
+    // Shows a document over the wizard.
+    void showPreview(const QUrl& document);
+    // Saves the step on show and the temporary copy, as when the wizard goes off the screen.
+    void viewWillDisappear();
+
+signals:
+    void closed();
+    void menuButtonsChanged();
+    void activeStepChanged();
+    void veilVisibleChanged();
+    void previewChanged();
+
+private:
+    void viewDidLoad();
+    void viewDidAppear();
+    void applyParameters();
+    void showStep(int wizardStep);
+    void leaveActiveStep();
+    void saveActiveStep();
+    void enterButton(int index);
+    void select(int index);
+    void askForReset();
+    void reset();
+    void setVeilVisible(bool visible);
+    void closePreview();
+    void connectStep(WizardStepViewController* step);
+
+    WizardServices services_;
+    QString styleDefaultLabel_;
+    QString recoveredMessage_;
+    std::vector<bool> visibleButtons_;
+    int selected_ = Configuration;
+    WizardStepViewController* activeViewController_ = nullptr;
+    WebPreviewViewController* preview_ = nullptr;
+    std::shared_ptr<BrochureIntermediateData> actualOrder_;
+    std::vector<NotificationCenter::Subscription> observers_;
+    bool alreadyDismissedPreferredBrandsBanner_ = false;
+    bool veilVisible_ = false;
+    bool appeared_ = false;
+};
+
+} // namespace kavor

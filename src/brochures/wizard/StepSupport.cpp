@@ -1,0 +1,53 @@
+#include "brochures/wizard/StepSupport.h"
+
+#include "base/BackgroundFileWriter.h"
+#include "base/StopProcess.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/TemporalBrochure.h"
+#include "catalogue/Catalogue.h"
+#include "shell/AppSingleton.h"
+#include "shell/StateFile.h"
+
+#include <QThreadPool>
+
+namespace kavor {
+
+QUrl stepView(const QString& fileName) { return {QStringLiteral("qrc:/qt/qml/Kavor/Screens/") + fileName}; }
+
+const Brochures::Type* sectionBrochureType(const Catalogue& catalogue) {
+    const auto kind = AppSingleton::shared().brochureType();
+    if (!kind)
+        return nullptr;
+    const Brochures::Type* type = catalogue.brochureType(*kind);
+    if (!type)
+        stopProcess("brochure type " + std::to_string(static_cast<Int>(*kind)));
+    return type;
+}
+
+const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue) {
+    const Brochures::Type* type = sectionBrochureType(catalogue);
+    if (!type)
+        return nullptr;
+    if (!type->parameters)
+        stopProcess("parameters of brochure type " + type->name);
+    return &*type->parameters;
+}
+
+void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
+    if (draft == BrochureIntermediateData::temporalBrochure() && AppSingleton::shared().brochureType())
+        TemporalBrochure::shared().write(*draft);
+}
+
+void storeCatalogueInBackground() {
+    const AppSingleton& session = AppSingleton::shared();
+    if (session.documentsFolder().empty())
+        return;
+    QThreadPool::globalInstance()->start(
+        [catalogue = session.applicationInformation,
+         path = session.documentsFolder() / std::string(state_file::applicationInformation)] {
+            if (auto encoded = json::encode(catalogue->information()))
+                BackgroundFileWriter::shared().write(path, std::move(*encoded));
+        });
+}
+
+} // namespace kavor

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "catalogue/Brochures.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+#include <string>
+
+// What the steps that choose style, brands and prices share.
+namespace kavor {
+
+class BrochureIntermediateData;
+class Catalogue;
+
+// The address of a view of the screens' module by its file name.
+QUrl stepView(const QString& fileName);
+
+// The kind of brochure of the section entered; nullptr outside a brochure section.
+const Brochures::Type* sectionBrochureType(const Catalogue& catalogue);
+// Its switches and limits; nullptr outside a brochure section. The process stops for a kind without any.
+const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue);
+
+// Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no longer
+// the shared one, and outside a brochure section.
+void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
+
+// Stores the session's catalogue after a brand was added by hand, in the background, so that the brand outlives the
+// process even when that ends without warning.
+void storeCatalogueInBackground();
+
+inline QString fromUtf8(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+} // namespace kavor

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "orders/services/OrderSync.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+
+namespace kavor {
+
+class AlertPresenter;
+class Clock;
+class ImageCache;
+class LocationService;
+class OrderDiskManager;
+class PhotoPicker;
+class PlainDownloader;
+class ReverseLocationManager;
+class ServiceOperations;
+class UrlOpener;
+
+// What the steps of the wizard work with. Everything outlives the wizard.
+struct WizardServices {
+    ServiceOperations& network;
+    OrderDiskManager& orders;
+    OrderSync& sync;
+    AlertPresenter& alerts;
+    UrlOpener& urls;
+    Clock& clock;
+    PlainDownloader& downloader;
+    PhotoPicker& photos;
+    ReverseLocationManager* location = nullptr; // none on a device without location
+};
+
+// A step that can write its screen state into the draft.
+class SerializeAutoSave {
+public:
+    virtual ~SerializeAutoSave() = default;
+    virtual void serializeAutoSave() = 0;
+};
+
+// One step of the wizard. A step is made anew each time it is shown; its view binds to it as "controller".
+class WizardStepViewController : public QObject {
+    Q_OBJECT
+    QML_ANONYMOUS
+    // The QML view of the step.
+    Q_PROPERTY(QUrl view READ view CONSTANT)
+public:
+    using QObject::QObject;
+    [[nodiscard]] virtual QUrl view() const = 0;
+    // Called once after the step was made, and each time it comes on show.
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear() {}
+
+signals:
+    // Asks the frame to show another step by its number (for example from a message that says what is missing).
+    void stepRequested(int wizardStep);
+    // Asks the frame to show a document (PDF) over the wizard.
+    void previewRequested(const QUrl& document);
+};
+
+} // namespace kavor

@@ -1,0 +1,48 @@
+#include "brochures/wizard/WizardStepFactory.h"
+
+#include "base/StopProcess.h"
+#include "brochures/wizard/BrochureConfigurationViewController.h"
+#include "brochures/wizard/BrochurePriceSetterViewController.h"
+#include "brochures/wizard/BrochureProductListViewController.h"
+#include "brochures/wizard/BrochureSendViewController.h"
+#include "brochures/wizard/BrochureStyleSelectorViewController.h"
+#include "brochures/wizard/ComingSoonStep.h"
+
+namespace kavor {
+
+namespace {
+
+WizardStepViewController* comingSoon(const char* title, const char* icon, QObject* parent) {
+    return new ComingSoonStep(QString::fromUtf8(title), QString::fromLatin1(icon), parent);
+}
+
+} // namespace
+
+WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& services, QObject* parent) {
+    switch (wizardStep) {
+    case wizard_step::configuration:
+        return new BrochureConfigurationViewController(services, parent);
+    case wizard_step::style:
+        return new BrochureStyleSelectorViewController(services, parent);
+    case wizard_step::products:
+        return new BrochureProductListViewController(services, parent);
+    case wizard_step::drinks:
+        return comingSoon("La lista de bebidas", "drinks", parent);
+    case wizard_step::prices:
+        return new BrochurePriceSetterViewController(services, parent);
+    case wizard_step::orderSheet:
+        return comingSoon("El comandero", "ordersheet", parent);
+    case wizard_step::send:
+        return new BrochureSendViewController(services, parent);
+    case wizard_step::promotions:
+        return comingSoon("La selección de promociones", "promotions", parent);
+    case wizard_step::pennant:
+        return comingSoon("La selección de banderines", "pennant", parent);
+    case wizard_step::pennantBrand:
+        return comingSoon("El banderín de marca", "pennantbrand", parent);
+    default:
+        stopProcess("no step of the wizard has this number");
+    }
+}
+
+} // namespace kavor

@@ -1,0 +1,343 @@
+#include "brochures/wizard/BrochureSendSummary.h"
+#include "brochures/wizard/BrochureSendViewController.h"
+#include "brochures/wizard/WebPreviewViewController.h"
+#include "support/ScriptedServer.h"
+#include "wizard_a_fixture.h"
+
+namespace kavor {
+namespace {
+
+using Directory = OrderDiskManager::DirectoryName;
+using Order = SaveBrochuresOrder;
+
+class SendTest : public WizardTest {
+protected:
+    std::unique_ptr<BrochureSendViewController> step;
+    QUrl previewed;
+    bool veil = false;
+    NotificationCenter::Subscription observer = NotificationCenter::shared().observe(
+        notification::visibilityVeilView,
+        [this](const NotificationInfo& info) { veil = std::get<bool>(info.at("show")); });
+
+    BrochureSendViewController& open() {
+        draft().brochureTypeParameters = parametersOf(*session.brochureType()); // the frame's work
+        step = std::make_unique<BrochureSendViewController>(services, nullptr);
+        QObject::connect(step.get(), &WizardStepViewController::previewRequested,
+                         [this](const QUrl& url) { previewed = url; });
+        step->viewDidLoad();
+        step->viewWillAppear();
+        return *step;
+    }
+    void saveAs(const QString& name) {
+        step->saveOrderAction();
+        EXPECT_TRUE(press("Guardar", name));
+    }
+    bool alertComes() {
+        return waitFor([this] { return alerts.isVisible() && !veil; });
+    }
+    [[nodiscard]] BrochureSendSummary summary() const {
+        return BrochureSendSummary::of(draft(), session.catalogue());
+    }
+};
+
+TEST_F(SendTest, AnEmptyDraftIsAllWarnings) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowOrderSheet = true;
+        type.parameters->withPennantBrand = true;
+    });
+    draft().includeDigitalBrochure = draft().printDigitalBrochure = false;
+    EXPECT_EQ(summary(),
+              (BrochureSendSummary{
+                  "",
+                  "Nombre del local no especificado\nComandero: no seleccionado\n"
+                  "Banderín de marca: no seleccionado\n",
+                  "",
+                  "Nombre del cliente sin especificar\nEmail del cliente sin especificar\n"
+                  "Teléfono de contacto del cliente sin especificar\nIdioma principal sin especificar\n"
+                  "Nº de cartas sin especificar\n"}));
+    draft().includePaperBrochure = false;
+    draft().printDigitalBrochure = true; // counts for nothing without any brochure
+    EXPECT_TRUE(summary().orderDataInfoRightWarning.ends_with("\nNº de unidades sin especificar\n"));
+    EXPECT_EQ(summary().orderDataInfoRight, "");
+}
+
+TEST_F(SendTest, AFullDraftIsSummedUpLineByLine) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowOrderSheet = type.parameters->withPennantBrand = type.parameters->withPennants =
+            true;
+        type.parameters->printSecondPrice = true;
+        type.parameters->freeTextNumberOfFields = 2;
+    });
+    completeDraft();
+    auto& customer = *draft().customerInformation;
+    customer.localPhone = "910";
+    customer.url = "olmo.example";
+    customer.instagram = "@olmo";
+    customer.freeText1 = "uno";
+    customer.freeText2 = "";
+    customer.freeText3 = "beyond the kind's fields";
+    draft().setLanguages(1, 2);
+    draft().setOrderSheet(8);
+    draft().setPennantBrand(9);
+    draft().setSecondPrice(PriceType::terrace);
+    draft().selectedNumberOfBrochures = {12345, std::nullopt};
+    draft().includeDigitalBrochure = draft().printDigitalBrochure = true;
+    draft().selectedQuantityQr = 20;
+    EXPECT_EQ(summary(),
+              (BrochureSendSummary{"910\nolmo.example\n@olmo\nuno\nComandero: Comanda (CM-1)\n"
+                                   "Banderín de marca: Brava \n",
+                                   "",
+                                   "Ana\nolmo@bar.example\n600\nCastellano\nCatalán\nNº de cartas: 12.345\n"
+                                   "Nº vinilos mesa: 20\nNº vinilos puerta: 0\nPedido con banderines",
+                                   "Nº de cartas de Terraza sin especificar\n"}));
+    draft().selectedNumberOfBrochures->secondary = 7;
+    draft().brandQrTypeSelected = 1;
+    EXPECT_NE(summary().orderDataInfoRight.find("Nº de cartas de Terraza: 7\nNº tacos de madera: 0\n"),
+              std::string::npos);
+}
+
+TEST_F(SendTest, ButtonsFollowTheKind) {
+    struct Case {
+        BrochureType type;
+        bool withPrinter;
+        const char* title;
+        bool kavor;
+        bool myself;
+        const char* help;
+    };
+    for (const Case& each :
+         {Case{BrochureType::video, false, "Realizar pedido", false, false, "la imprime usted"},
+          Case{BrochureType::encarte, false, "Realizar pedido sin impresión", true, false,
+               "la imprime usted"},
+          Case{BrochureType::beer, true, "Realizar pedido con impresión", true, true, "la imprimimos"}}) {
+        enter(each.type, [&](Brochures::Type& type) { type.parameters->withPrinter = each.withPrinter; });
+        open();
+        EXPECT_EQ(step->makeOrderButtonTitle().toStdString(), each.title);
+        EXPECT_EQ(step->isPrintedKavorButtonVisible(), each.kavor);
+        EXPECT_EQ(step->isPrintedMyselfVisible(), each.myself);
+        step->printedKavorAction();
+        EXPECT_EQ(alert(), std::string("Información | ") + each.help);
+        press("Aceptar");
+    }
+}
+
+TEST_F(SendTest, AnIncompleteOrderIsNeitherPrintedNorPreviewedButMayBeKept) {
+    open();
+    for (auto action :
+         {&BrochureSendViewController::sendOrderAction, &BrochureSendViewController::previewAction}) {
+        (step.get()->*action)();
+        EXPECT_TRUE(alert().starts_with("Pedido incompleto | Faltan por seleccionar los idiomas\n"));
+        EXPECT_FALSE(step->missing().isEmpty());
+        press("Aceptar");
+    }
+    saveAs("a medias");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::saveCloud);
+    EXPECT_TRUE(orders.exists<Order>("a medias", Directory::draft));
+}
+
+TEST_F(SendTest, HighPricesAreAskedAboutAndOnlyCorregirStops) {
+    completeDraft();
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 7.5);
+    open().sendOrderAction();
+    EXPECT_EQ(alert(), "¿Los precios son correctos? | Brava / Caña / Barra : 7.5€");
+    press("Corregir");
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+    step->previewAction();
+    press("Continuar");
+    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::sendPreview);
+}
+
+TEST_F(SendTest, EachAnswerEndsAsItsRequestSays) {
+    struct Case {
+        std::function<void()> action;
+        std::function<void(SaveBrochuresOrderResponse&)> answer; // none: the request fails
+        const char* alert;
+        bool sent;
+    };
+    const auto print = [&] { step->sendOrderAction(); };
+    const auto preview = [&] { step->previewAction(); };
+    const Case cases[] = {
+        {print, [](auto& answer) { answer.message = "hecho"; },
+         "Error | No hay url para ver el pedido realizado. Contacte con soporte.", false},
+        {print, {}, "El pedido no se puede realizar | motivo", false},
+        {preview, [](auto&) {}, "Error | No hay url que previsualizar. Contacte con soporte.", false},
+        {preview, {}, "El pedido no se puede previsualizar | motivo", false},
+        {print,
+         [](auto& answer) {
+             answer.urlOrder = Url{"http://server.example/order/1"};
+             answer.message = "hecho";
+         },
+         "Éxito | hecho", true},
+    };
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->withPrinter = true; });
+    completeDraft();
+    TemporalBrochure::shared().write(draft());
+    open();
+    for (const Case& each : cases) {
+        each.action();
+        ASSERT_TRUE(veil);
+        SaveBrochuresOrderResponse response;
+        if (each.answer) {
+            each.answer(response);
+            ASSERT_TRUE(network.requests.saveOrder.succeed(response));
+        } else {
+            ASSERT_TRUE(network.requests.saveOrder.fail(failureWith({"motivo"})));
+        }
+        EXPECT_FALSE(veil);
+        EXPECT_EQ(alert(), each.alert);
+        press("Aceptar");
+        EXPECT_EQ(step->isOrderSent(), each.sent);
+        EXPECT_EQ(temporaryCopy().has_value(), !each.sent);
+    }
+    EXPECT_EQ(step->makeOrderButtonTitle(), "Ver pedido");
+    EXPECT_FALSE(step->isPrintedKavorButtonVisible());
+    EXPECT_FALSE(step->isPrintedMyselfVisible());
+    step->sendOrderAction(); // shows the order and sends nothing
+    EXPECT_EQ(urls.opened, QStringList{"http://server.example/order/1"});
+    EXPECT_EQ(network.requests.saveOrder.calls.size(), std::size(cases));
+}
+
+TEST_F(SendTest, APreviewShowsTheDocumentOfTheAnswer) {
+    completeDraft();
+    open().previewAction();
+    SaveBrochuresOrderResponse answer;
+    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_EQ(previewed, QUrl("http://server.example/pdf/a.pdf"));
+    EXPECT_FALSE(alerts.isVisible());
+}
+
+TEST_F(SendTest, WhoPrintsStandsInTheOrder) {
+    completeDraft();
+    open();
+    step->sendOrderMyselfAction();
+    step->sendOrderAction();
+    EXPECT_TRUE(std::get<0>(network.requests.saveOrder.calls.at(0)).printedMyself);
+    EXPECT_FALSE(std::get<0>(network.requests.saveOrder.calls.at(1)).printedMyself);
+}
+
+TEST_F(SendTest, OfflineOrdersQueueUnderTheFirstFreeName) {
+    completeDraft();
+    network.reachable = false;
+    open();
+    for (const char* name : {"Sin enviar", "Sin enviar(1)", "Sin enviar(2)"}) {
+        step->sendOrderAction();
+        ASSERT_TRUE(alertComes());
+        EXPECT_EQ(alert(),
+                  std::string("Sin conexión a internet. | Su pedido ha sido guardado en borradores con el "
+                              "nombre \"") +
+                      name + "\".");
+        press("Aceptar");
+        const auto order = orders.retrieve<Order>(OrderDiskManager::fileName(name), Directory::outbox);
+        ASSERT_TRUE(order);
+        EXPECT_EQ(order->save, OrderRequestType::sendToPrint);
+    }
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+    step->previewAction();
+    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
+}
+
+TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
+    completeDraft();
+    network.reachable = false;
+    open();
+    std::filesystem::remove_all(folder / "orders");
+    step->sendOrderAction();
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(), "Sin conexión a internet. | Su pedido no se ha podido guardar");
+    press("Aceptar");
+    network.reachable = true;
+    saveAs("../fuera");
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(), "Error al guardar pedido. | Su pedido no se ha podido guardar");
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+}
+
+TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {
+    completeDraft();
+    open();
+    saveAs("");
+    EXPECT_FALSE(draft().fileName);
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    SaveBrochuresOrderResponse answer;
+    answer.orderId = 41;
+    answer.customerId = 42;
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_EQ(alert(), "Pedido guardado | El pedido se encuentra guardado en local y sincronizado");
+    press("Aceptar");
+    EXPECT_TRUE(waitFor([&] {
+        const auto stored = orders.retrieve<Order>("mi carta.zvo", Directory::draft);
+        return stored && stored->orderIdentifier == 41 && stored->menu.customer.id == 42;
+    }));
+    EXPECT_EQ(draft().orderIdentifier, 41);
+}
+
+TEST_F(SendTest, AnExistingNameIsOverwrittenOnlyWhenTheUserSaysSo) {
+    completeDraft();
+    Order other;
+    other.filename = "other";
+    ASSERT_TRUE(orders.create(other, Directory::draft, "mi carta"));
+    open();
+    const auto stored = [&] { return orders.retrieve<Order>("mi carta.zvo", Directory::draft)->filename; };
+    saveAs("mi carta");
+    EXPECT_EQ(alert(), "Atención | Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?");
+    press("No");
+    EXPECT_EQ(stored(), "other");
+    EXPECT_FALSE(draft().fileName);
+    saveAs("mi carta");
+    press("Sí");
+    EXPECT_TRUE(waitFor([&] { return stored() == "mi carta"; }));
+}
+
+TEST_F(SendTest, WhatCannotBeSynchronisedIsPlannedForLater) {
+    completeDraft();
+    open();
+    network.reachable = false;
+    saveAs("sin red");
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(),
+              "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha podido "
+              "sincronizar.");
+    EXPECT_EQ(sync.planned, 1);
+    press("Aceptar");
+    network.reachable = true;
+    saveAs("con fallo");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.fail(failureWith({"motivo"})); }));
+    EXPECT_EQ(alert(), "El pedido no se puede sincronizar | motivo");
+    EXPECT_EQ(sync.planned, 2);
+}
+
+TEST_F(SendTest, TheCommentForSupportGoesToTheDraftWhenItsFieldIsLeft) {
+    open().finishSupportComment("con cuidado");
+    EXPECT_EQ(draft().supportComment, "con cuidado");
+}
+
+TEST_F(SendTest, ADocumentOnTheDeviceIsShownFromThere) {
+    put(folder / "caches" / "PDFCache" / "a.pdf", "%PDF");
+    const WebPreviewViewController preview(QUrl("http://127.0.0.1:9/pdf/a.pdf"), "", downloader, clock,
+                                           nullptr);
+    EXPECT_TRUE(preview.source().isLocalFile());
+    EXPECT_FALSE(preview.isLoading());
+}
+
+TEST_F(SendTest, ADocumentThatDoesNotComeInTimeFailsForGoodUntilItIsAskedForAgain) {
+    ScriptedServer server;
+    server.answer("/a.pdf", ScriptedAnswer::bytes("%PDF", "application/pdf"));
+    server.hold();
+    WebPreviewViewController preview(server.url("/a.pdf"), "", downloader, clock, nullptr);
+    EXPECT_TRUE(preview.isLoading());
+    ASSERT_TRUE(waitFor([&] { return server.waiting() > 0; }));
+    clock.advance(std::chrono::seconds(WebPreviewViewController::timeOutSeconds));
+    EXPECT_TRUE(preview.hasFailed());
+    server.release();
+    ASSERT_TRUE(waitFor([&] { return !downloader.isFetching(server.url("/a.pdf")); }));
+    EXPECT_TRUE(preview.hasFailed());
+    preview.load();
+    ASSERT_TRUE(waitFor([&] { return !preview.isLoading(); }));
+    EXPECT_TRUE(preview.source().isLocalFile() || preview.bytes() == "%PDF");
+}
+
+} // namespace
+} // namespace kavor
