@@ -1,0 +1,20 @@
+#pragma once
+
+#include "CommandContext.h"
+
+namespace CLI {
+class App;
+}
+
+namespace kavor::ctl {
+
+// Each group of commands adds itself to the program; a command's work runs when it is parsed.
+void addCatalogueCommands(CLI::App& program, CommandContext& context);
+void addOrderCommands(CLI::App& program, CommandContext& context);
+void addOrderListCommands(CLI::App& program, CommandContext& context);
+void addSessionCommands(CLI::App& program, CommandContext& context);
+
+// Runs the program; answers its exit status.
+int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
+
+} // namespace kavor::ctl

@@ -1,0 +1,88 @@
+#include "Commands.h"
+#include "OrderInputs.h"
+
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/RetrievedOrder.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+namespace kavor::ctl {
+
+namespace {
+
+using Inputs = std::shared_ptr<OrderInputs>;
+
+// The messages one per line; they are what the exit status tells of.
+void printMessages(CommandContext& context, const std::vector<std::string>& messages) {
+    for (const std::string& message : messages)
+        context.out << message << '\n';
+    context.status = messages.empty() ? fine : orderHasMessages;
+}
+
+CLI::App* addCommand(CLI::App& group, const Inputs& inputs, const std::string& name, const std::string& help) {
+    CLI::App* command = group.add_subcommand(name, help);
+    command->add_option("FILE", inputs->order, "an order document")->required();
+    return command;
+}
+
+void needCatalogue(CLI::App* command, const Inputs& inputs) {
+    command->add_option("--catalogue", inputs->catalogue, "a catalogue document")->required();
+}
+
+void needLogin(CLI::App* command, const Inputs& inputs) {
+    command->add_option("--login", inputs->login, "a login answer")->required();
+}
+
+void offerSave(CLI::App* command, const Inputs& inputs) {
+    command->add_option("--save", inputs->save, "what the server is to do with the order")
+        ->required()
+        ->check(CLI::IsMember({"print", "preview", "cloud"}));
+}
+
+} // namespace
+
+void addOrderCommands(CLI::App& program, CommandContext& context) {
+    CLI::App& group = *program.add_subcommand("order", "one brochure order")->require_subcommand(1);
+    const auto inputs = std::make_shared<OrderInputs>();
+
+    addCommand(group, inputs, "decode", "the order as the reader took it, written again")
+        ->callback([&context, inputs] { context.out << prettyText(readRecord<SaveBrochuresOrder>(inputs->order)); });
+
+    CLI::App* check = addCommand(group, inputs, "check", "what keeps the order from being sent, one a line");
+    needCatalogue(check, inputs);
+    needLogin(check, inputs);
+    check->callback([&context, inputs] { printMessages(context, openDraft(*inputs)->validationErrors()); });
+
+    CLI::App* warnings = addCommand(group, inputs, "warnings", "prices that look too high, one a line");
+    needCatalogue(warnings, inputs);
+    needLogin(warnings, inputs);
+    warnings->callback([&context, inputs] { printMessages(context, openDraft(*inputs)->priceWarnings()); });
+
+    CLI::App* rebuild = addCommand(group, inputs, "rebuild", "fills a draft and prints its order without validation");
+    needCatalogue(rebuild, inputs);
+    needLogin(rebuild, inputs);
+    offerSave(rebuild, inputs);
+    rebuild->callback([&context, inputs] {
+        context.out << prettyText(openDraft(*inputs)->makeOrder(requestType(inputs->save), false));
+    });
+
+    CLI::App* convert = addCommand(group, inputs, "from-answer", "the order document of the server's answer for one order");
+    convert->add_option("--row", inputs->row, "the id of the order's row in the order list")->required();
+    needCatalogue(convert, inputs);
+    convert->callback([&context, inputs] {
+        openSession(*inputs);
+        context.out << prettyText(
+            orderOf(inputs->row, readRecord<RetrieveBrochureOrderListResponse>(inputs->order)));
+    });
+
+    CLI::App* show = addCommand(group, inputs, "show", "a summary to read");
+    needCatalogue(show, inputs);
+    show->callback([&context, inputs] {
+        openSession(*inputs);
+        context.out << summaryOf(readRecord<SaveBrochuresOrder>(inputs->order));
+    });
+}
+
+} // namespace kavor::ctl
