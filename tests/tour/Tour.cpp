@@ -1,0 +1,407 @@
+#include "tour/Tour.h"
+
+#include "base/AppFormatter.h"
+#include "base/json/Json.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "device/AlertPresenter.h"
+#include "kavor/KavorApplication.h"
+#include "orders/OrderDiskManager.h"
+#include "shell/AppSingleton.h"
+#include "shell/screens/RootController.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPdfDocument>
+#include <QPdfSelection>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace kavor {
+
+namespace {
+
+constexpr int beerMenu = 1; // its ApplicationType
+const QSize tablet(1024, 768);
+const QSize otherSizes[] = {QSize(768, 1024), QSize(390, 844)};
+
+// Places in the wizard's menu.
+constexpr int configurationEntry = 1;
+constexpr int productsEntry = 2;
+constexpr int pricesEntry = 3;
+constexpr int digitalStyleEntry = 4;
+constexpr int styleEntry = 5;
+constexpr int sendEntry = 8;
+
+void must(bool good, const QString& what) {
+    if (!good)
+        throw TouchFailure(what.toStdString());
+}
+
+void writeFile(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    must(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), QStringLiteral("write ") + path);
+}
+
+// A text as a reader takes it: blanks of any kind and number count as one.
+QString plainText(QString text) {
+    return text.replace(QRegularExpression(QStringLiteral("[\\s\\x{a0}\\x{202f}]+")), QStringLiteral(" "));
+}
+
+const BrochureIntermediateData& draft() { return *BrochureIntermediateData::temporalBrochure(); }
+
+} // namespace
+
+Tour::Tour(Options options)
+    : options_(std::move(options)) {}
+
+Tour::~Tour() = default;
+
+std::string Tour::draftDocument() {
+    return json::encodePretty(draft().makeOrder(OrderRequestType::saveCloud, false)).value_or("");
+}
+
+int Tour::run() {
+    struct Step {
+        const char* name;
+        void (Tour::*action)();
+    };
+    const Step steps[] = {{"inicio", &Tour::start},
+                          {"clave", &Tour::startWithWrongPassword},
+                          {"entrada", &Tour::logIn},
+                          {"panel", &Tour::showDashboard},
+                          {"carta", &Tour::openBeerMenu},
+                          {"configuracion", &Tour::fillConfiguration},
+                          {"productos", &Tour::chooseProducts},
+                          {"incompleto", &Tour::tryIncomplete},
+                          {"precios", &Tour::setPrices},
+                          {"estilo", &Tour::chooseStyle},
+                          {"previa", &Tour::preview},
+                          {"impresion", &Tour::print},
+                          {"pedido", &Tour::checkOrder},
+                          {"sin-red", &Tour::orderOffline}};
+    for (const Step& step : steps) {
+        try {
+            (this->*step.action)();
+            remember();
+        } catch (const std::exception& failure) {
+            std::fprintf(stderr, "tour: step \"%s\" failed: %s\n", step.name, failure.what());
+            if (application_ && application_->window() != nullptr)
+                application_->window()->grabWindow().save(options_.folder + QStringLiteral("/fallo.png"));
+            return 1;
+        }
+        std::printf("%s: bien\n", step.name);
+        std::fflush(stdout);
+        if (options_.killAfterStep == QLatin1String(step.name)) {
+            QStringList expected;
+            for (std::size_t i = documents_.size() >= 2 ? documents_.size() - 2 : 0; i < documents_.size(); ++i)
+                expected.append(QString::fromStdString(documents_[i]));
+            writeFile(options_.folder + QStringLiteral("/expected.json"), expected.join(QChar(0x1e)).toUtf8());
+            ::kill(::getpid(), SIGKILL);
+        }
+    }
+    return 0;
+}
+
+// Keeps the document of the draft whenever it changed.
+void Tour::remember() {
+    if (!AppSingleton::shared().brochureType())
+        return;
+    std::string document = draftDocument();
+    if (documents_.empty() || documents_.back() != document)
+        documents_.push_back(std::move(document));
+}
+
+void Tour::shot(const QString& name) {
+    remember();
+    if (!options_.pictures)
+        return;
+    const QString number = QStringLiteral("%1").arg(++shots_, 2, 10, QLatin1Char('0'));
+    const QString base = options_.folder + QLatin1Char('/') + number + QLatin1Char('-') + name;
+    touch_->shot(base + QStringLiteral(".png"));
+    for (const QSize& size : otherSizes) {
+        application_->window()->resize(size);
+        touch_->shot(base + QStringLiteral("-%1x%2.png").arg(size.width()).arg(size.height()));
+    }
+    application_->window()->resize(tablet);
+    touch_->settle();
+}
+
+void Tour::dismissAlert(const QString& title, const QString& part, int button) {
+    touch_->waitUntil(QStringLiteral("alert \"%1\" with \"%2\"").arg(title, part), [&] {
+        const AlertPresenter& alerts = application_->alerts();
+        return alerts.isVisible() && alerts.title() == title && alerts.text().contains(part);
+    });
+    touch_->tap(QStringLiteral("alertButton%1").arg(button));
+}
+
+void Tour::openStep(int menuEntry) { touch_->tap(QStringLiteral("menuEntry%1").arg(menuEntry)); }
+
+void Tour::openSection(int applicationType) { touch_->tap(QStringLiteral("welcomeButton%1").arg(applicationType)); }
+
+void Tour::start() {
+    QDir().mkpath(options_.folder);
+    const QString serverFolder = options_.documents + QStringLiteral("-server");
+    QDir().mkpath(serverFolder);
+    server_ = std::make_unique<DemoServerProcess>(serverFolder, QStringList{QStringLiteral("--no-history")});
+
+    KavorOptions client;
+    client.configuration = server_->configurationFile().toStdString();
+    client.documents = options_.documents.toStdString();
+    client.caches = (options_.documents + QStringLiteral("-caches")).toStdString();
+    client.size = tablet;
+    auto configuration = KavorApplication::loadConfiguration(client);
+    must(configuration.has_value(), QString::fromStdString(configuration ? "" : configuration.error()));
+    application_ = std::make_unique<KavorApplication>(client, std::move(*configuration));
+    must(application_->start(), QStringLiteral("the window opens"));
+    touch_ = std::make_unique<TouchDriver>(*application_->window());
+    must(QTest::qWaitForWindowExposed(application_->window()), QStringLiteral("the window shows"));
+    touch_->await(QStringLiteral("emailTextField"));
+    shot(QStringLiteral("inicio"));
+}
+
+void Tour::startWithWrongPassword() {
+    touch_->type(QStringLiteral("emailTextField"), server_->account());
+    touch_->type(QStringLiteral("passwordTextField"), QStringLiteral("no-es-esta"));
+    touch_->tap(QStringLiteral("loginButton"));
+    touch_->waitUntil(QStringLiteral("the alert of a wrong password"), [&] { return application_->alerts().isVisible(); });
+    must(application_->alerts().title() == QStringLiteral("Incidencia"), application_->alerts().title());
+    shot(QStringLiteral("clave-erronea"));
+    touch_->tap(QStringLiteral("alertButton0"));
+}
+
+void Tour::logIn() {
+    touch_->type(QStringLiteral("passwordTextField"), server_->password());
+    touch_->tap(QStringLiteral("rememberPasswordSwitch"));
+    touch_->tap(QStringLiteral("loginButton"));
+    touch_->waitUntil(QStringLiteral("the dashboard"), [&] { return application_->root().welcome() != nullptr; });
+    // The pictures come fast: the window is taken at the moment when a good part of them is there.
+    const WelcomeViewController* welcome = application_->root().welcome();
+    bool underWay = false;
+    const auto watching = QObject::connect(welcome, &WelcomeViewController::progressChanged, application_->window(), [&] {
+        underWay = underWay || (welcome->progressMessage().startsWith(QStringLiteral("Actualizando imágenes")) &&
+                                welcome->progress() > 0.7);
+    });
+    touch_->waitUntil(QStringLiteral("the progress of the pictures"), [&] { return underWay; });
+    QObject::disconnect(watching);
+    if (options_.pictures) {
+        const QString name =
+            options_.folder + QStringLiteral("/%1-catalogo-llega.png").arg(++shots_, 2, 10, QLatin1Char('0'));
+        must(application_->window()->grabWindow().save(name), QStringLiteral("write ") + name);
+    }
+    touch_->awaitGone(QStringLiteral("progressVeilView"));
+}
+
+void Tour::showDashboard() {
+    touch_->await(QStringLiteral("notificationsFrameView"));
+    shot(QStringLiteral("avisos"));
+    touch_->tap(QStringLiteral("dismissNotificationsButton"));
+    touch_->awaitGone(QStringLiteral("notificationsFrameView"));
+    must(touch_->allTexts().contains(QStringLiteral("Catálogo actualizado")), QStringLiteral("the age of the catalogue"));
+    shot(QStringLiteral("panel"));
+}
+
+void Tour::openBeerMenu() {
+    openSection(beerMenu);
+    touch_->await(QStringLiteral("tevoTextField"));
+}
+
+void Tour::fillConfiguration() {
+    touch_->type(QStringLiteral("tevoTextField"), QStringLiteral("B0007"));
+    touch_->tap(QStringLiteral("searchTEVOCode"));
+    touch_->waitUntil(QStringLiteral("the bar of the code"), [] {
+        return draft().customerInformation && !draft().customerInformation->name.empty();
+    });
+    touch_->tap(QStringLiteral("firstLanguagePicker"));
+    touch_->tap(QStringLiteral("firstLanguagePickerOption0"));
+    touch_->waitUntil(QStringLiteral("a language in the draft"), [] { return draft().currentLanguages().has_value(); });
+    shot(QStringLiteral("configuracion"));
+}
+
+void Tour::chooseProducts() {
+    openStep(productsEntry);
+    selectFormats();
+    shot(QStringLiteral("productos"));
+}
+
+// Finds brands by typing their names and takes the first format of each.
+void Tour::selectFormats() {
+    const auto products = AppSingleton::shared().catalogue().productsOfFamily(ApplicationFather::orderBeer);
+    const std::shared_ptr<const Catalogue> catalogue = AppSingleton::shared().applicationInformation;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const Product& brand = *products[i * 3];
+        touch_->type(QStringLiteral("searchBrandTextField"), QString::fromStdString(brand.name));
+        touch_->tap(QStringLiteral("brandFormat%1_%2").arg(brand.id).arg(brand.productList.front().id));
+        touch_->waitUntil(QString::fromStdString(brand.name) + QStringLiteral(" selected"),
+                          [&] { return draft().selectedBrands.contains(brand.id); });
+        remember();
+    }
+    touch_->type(QStringLiteral("searchBrandTextField"), QString());
+}
+
+void Tour::tryIncomplete() {
+    openStep(sendEntry);
+    touch_->tap(QStringLiteral("makeOrderButton"));
+    touch_->waitUntil(QStringLiteral("the messages of an incomplete order"), [&] {
+        return application_->alerts().title() == QStringLiteral("Pedido incompleto");
+    });
+    must(application_->alerts().text().contains(QStringLiteral("No hay ningún estilo seleccionado.")),
+         application_->alerts().text());
+    shot(QStringLiteral("incompleto"));
+    touch_->tap(QStringLiteral("alertButton0"));
+}
+
+void Tour::setPrices() {
+    openStep(pricesEntry);
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
+    const auto rows = draft().selectedProducts();
+    const int columns = draft().currentSecondPrice() ? 2 : 1;
+    // The comma and the point of the keypad are both decimal signs.
+    const std::pair<QString, double> prices[] = {{QStringLiteral("2,75"), 2.75}, {QStringLiteral("3.20"), 3.2}};
+    for (int row = 0; row < 2; ++row) {
+        const Int brand = rows[static_cast<std::size_t>(row)]->id;
+        const Int format = draft().selectedBrands.at(brand).front();
+        touch_->type(QStringLiteral("retailPrimaryPriceTextField%1").arg(100 + row * columns), prices[row].first);
+        touch_->key(Qt::Key_Tab);
+        touch_->waitUntil(QStringLiteral("the price ") + prices[row].first, [&] {
+            return draft().priceOf(PriceType::main, format, brand) == prices[row].second;
+        });
+        remember();
+    }
+    touch_->tap(QStringLiteral("newProductButton1"));
+    shot(QStringLiteral("precios"));
+}
+
+void Tour::chooseStyle() {
+    openStep(styleEntry);
+    touch_->tap(QStringLiteral("styleStripThumbnail1"));
+    touch_->waitUntil(QStringLiteral("a paper style"), [] { return draft().currentStyle() != nullptr; });
+    touch_->settle();
+    if (!draft().currentStyle()->logotypeIdentifiers.empty()) {
+        const QString pickers[] = {QStringLiteral("firstBrandPicker"), QStringLiteral("secondBrandPicker"),
+                                   QStringLiteral("thirdBrandPicker")};
+        for (int i = 0; i < 3; ++i) {
+            touch_->tap(pickers[i]);
+            touch_->tap(pickers[i] + QStringLiteral("Option%1").arg(i));
+        }
+    }
+    touch_->type(QStringLiteral("numberBrochuresTextField"), QStringLiteral("25"));
+    touch_->key(Qt::Key_Tab);
+    touch_->waitUntil(QStringLiteral("25 copies"), [] {
+        return draft().selectedNumberOfBrochures && draft().selectedNumberOfBrochures->main == 25;
+    });
+    if (!touch_->isShown(QStringLiteral("offlineChip")))
+        shot(QStringLiteral("estilo"));
+    openStep(digitalStyleEntry);
+    touch_->tap(QStringLiteral("styleStripThumbnail0"));
+    touch_->waitUntil(QStringLiteral("a digital style"), [] { return draft().currentStyleDigital() != nullptr; });
+    if (!touch_->isShown(QStringLiteral("offlineChip")))
+        shot(QStringLiteral("estilo-online"));
+}
+
+void Tour::preview() {
+    openStep(sendEntry);
+    shot(QStringLiteral("enviar"));
+    touch_->tap(QStringLiteral("previewAction"));
+    touch_->await(QStringLiteral("webPreview"));
+    touch_->waitUntil(QStringLiteral("the pages of the document"),
+                      [&] { return touch_->allTexts().contains(QStringLiteral("1 / 3")); });
+    shot(QStringLiteral("vista-previa"));
+    touch_->tap(QStringLiteral("dismissPreview"));
+    touch_->awaitGone(QStringLiteral("webPreview"));
+}
+
+void Tour::print() {
+    touch_->tap(QStringLiteral("makeOrderButton"));
+    touch_->waitUntil(QStringLiteral("the word of success"),
+                      [&] { return application_->alerts().title() == QStringLiteral("Éxito"); });
+    shot(QStringLiteral("pedido-realizado"));
+    touch_->tap(QStringLiteral("alertButton0"));
+    touch_->waitUntil(QStringLiteral("the button that shows the order"),
+                      [&] { return touch_->allTexts().contains(QStringLiteral("Ver pedido")); });
+}
+
+// The body that the server got is the draft, and its PDF says the same.
+void Tour::checkOrder() {
+    const QJsonArray orders = QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array();
+    must(orders.size() == 1, QStringLiteral("one order at the server, not %1").arg(orders.size()));
+    const QJsonObject order = orders.first().toObject();
+    const QByteArray body = QJsonDocument(order[QStringLiteral("body")].toObject()).toJson();
+    writeFile(options_.folder + QStringLiteral("/pedido.json"), body);
+    const auto received = json::decode<SaveBrochuresOrder>(body.toStdString());
+    must(received.has_value(), QString::fromStdString(received ? "" : received.error().text()));
+    must(*received == draft().makeOrder(OrderRequestType::sendToPrint, true), QStringLiteral("the order equals the draft"));
+
+    QByteArray pdf = server_->get(order[QStringLiteral("url_pdf")].toString());
+    writeFile(options_.folder + QStringLiteral("/carta.pdf"), pdf);
+    QBuffer buffer(&pdf);
+    QPdfDocument document;
+    buffer.open(QIODevice::ReadOnly);
+    document.load(&buffer);
+    QString text;
+    for (int page = 0; page < document.pageCount(); ++page)
+        text += document.getAllText(page).text() + QLatin1Char('\n');
+    text = plainText(text);
+    const auto says = [&](const QString& part) {
+        must(text.contains(plainText(part)), QStringLiteral("the PDF says \"%1\"; it says:\n%2").arg(part, text));
+    };
+    says(QString::fromStdString(received->menu.customer.name));
+    const Catalogue& catalogue = AppSingleton::shared().catalogue();
+    for (const auto& brand : received->menu.beerBrands) {
+        says(QString::fromStdString(catalogue.product(*brand.brand)->name));
+        for (const auto& beer : brand.beers) {
+            says(QString::fromStdString(catalogue.format(*brand.brand, *beer.id)->icon));
+            for (const auto& price : beer.prices)
+                says(QString::fromStdString(AppFormatter::shared().currencyFormatter(price.price)));
+        }
+    }
+}
+
+// The same without a network: the order waits in the outbox.
+void Tour::orderOffline() {
+    application_->setOffline(true);
+    touch_->tap(QStringLiteral("menuEntry0"));
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("¿Desea borrar todos los datos"), 1);
+    touch_->await(QStringLiteral("offlineChip"));
+    for (const auto& [field, text] : {std::pair("establishmentNameTextField", "Bar La Cantera Nueva"),
+                                      std::pair("contactNameTextField", "Nuria Peña"),
+                                      std::pair("contactEmailTextField", "nuria@cantera.example"),
+                                      std::pair("contactTelephoneTextField", "600111222")})
+        touch_->type(QLatin1String(field), QString::fromUtf8(text));
+    touch_->tap(QStringLiteral("firstLanguagePicker"));
+    touch_->tap(QStringLiteral("firstLanguagePickerOption0"));
+    openStep(productsEntry);
+    selectFormats();
+    openStep(pricesEntry);
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
+    chooseStyle();
+    openStep(sendEntry);
+    touch_->tap(QStringLiteral("makeOrderButton"));
+    touch_->waitUntil(QStringLiteral("the word that the order waits"), [&] {
+        return application_->alerts().title() == QStringLiteral("Sin conexión a internet.") &&
+               application_->alerts().text().contains(QStringLiteral("\"Sin enviar\""));
+    });
+    shot(QStringLiteral("sin-conexion"));
+    touch_->tap(QStringLiteral("alertButton0"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->waitUntil(QStringLiteral("the number of unsent orders"),
+                      [&] { return touch_->isShown(QStringLiteral("unsentOrders")); });
+    shot(QStringLiteral("panel-sin-conexion"));
+    const auto waiting = OrderDiskManager::shared().retrieve<SaveBrochuresOrder>(
+        "Sin enviar.zvo", OrderDiskManager::DirectoryName::outbox);
+    must(waiting && waiting->menu.customer.name == "Bar La Cantera Nueva", QStringLiteral("the order in the outbox"));
+    must(QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array().size() == 1,
+         QStringLiteral("nothing reached the server"));
+}
+
+} // namespace kavor

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "support/TouchDriver.h"
+#include "tour/DemoServerProcess.h"
+
+#include <QString>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kavor {
+
+class KavorApplication;
+
+// The main job on the real client, with touches and key strokes, against the demonstration server: from a wrong
+// password to a printed menu, and the same once more without a network. Every step checks what the window shows and
+// throws a TouchFailure when it is something else.
+class Tour {
+public:
+    struct Options {
+        QString folder;        // for the pictures, the order and the PDF
+        QString documents;     // of the client
+        QString killAfterStep; // the process kills itself after this step; empty for none
+        bool pictures = true;
+    };
+
+    explicit Tour(Options options);
+    ~Tour();
+
+    // Runs all steps; answers 0, or 1 after a step failed (told on stderr).
+    int run();
+
+    // The draft as the client would write it, for comparisons.
+    [[nodiscard]] static std::string draftDocument();
+
+private:
+    void start();
+    void startWithWrongPassword();
+    void logIn();
+    void showDashboard();
+    void openBeerMenu();
+    void fillConfiguration();
+    void chooseProducts();
+    void tryIncomplete();
+    void setPrices();
+    void chooseStyle();
+    void preview();
+    void print();
+    void checkOrder();
+    void orderOffline();
+
+    void openSection(int applicationType);
+    void openStep(int menuEntry);
+    void selectFormats();
+    // Waits for an alert and answers it with one of its buttons.
+    void dismissAlert(const QString& title, const QString& part, int button = 0);
+    // A picture at each of the three sizes, numbered.
+    void shot(const QString& name);
+    void remember();
+
+    Options options_;
+    std::unique_ptr<DemoServerProcess> server_;
+    std::unique_ptr<KavorApplication> application_;
+    std::unique_ptr<TouchDriver> touch_;
+    std::vector<std::string> documents_; // the draft after each action
+    int shots_ = 0;
+};
+
+} // namespace kavor

@@ -1,0 +1,47 @@
+#include "kavor/KavorApplication.h"
+#include "tour/KilledDraft.h"
+#include "tour/Tour.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+// kavor-tour DIR                       the main job by itself; pictures, the order and the PDF go to DIR
+//   --documents DIR                    the client's documents folder (default: a temporary one)
+//   --kill-after STEP                  the process kills itself after a step
+//   --check-killed                     a new start after that: is the draft still there?
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("KAVOR_NO_ANIMATION", "1");
+    qputenv("KAVOR_KEYCHAIN", "file");
+    kavor::KavorApplication::prepareProcess();
+    QGuiApplication application(argc, argv);
+
+    QCommandLineParser parser;
+    parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("where pictures, order and PDF go"));
+    parser.addOptions({{"documents", {}, "DIR"}, {"kill-after", {}, "STEP"}, {"check-killed", {}}, {"no-pictures", {}}});
+    parser.addHelpOption();
+    parser.process(application);
+    if (parser.positionalArguments().size() != 1) {
+        std::fputs("kavor-tour DIR\n", stderr);
+        return 64;
+    }
+    const QTemporaryDir temporary;
+    kavor::Tour::Options options;
+    options.folder = parser.positionalArguments().constFirst();
+    options.documents =
+        parser.isSet("documents") ? parser.value("documents") : temporary.filePath(QStringLiteral("documents"));
+    if (parser.isSet("check-killed"))
+        return kavor::checkKilledDraft(options.folder, options.documents);
+    options.killAfterStep = parser.value("kill-after");
+    options.pictures = !parser.isSet("no-pictures");
+    const int status = kavor::Tour(options).run();
+    if (status == 0)
+        std::printf("Las imágenes, el pedido y el PDF están en %s\n", qPrintable(options.folder));
+    return status;
+}
