@@ -43,6 +43,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QStyleHints>
 
 #include <utility>
 
@@ -77,20 +78,14 @@ AppSingleton& openSession(const KavorOptions& options) {
     return session;
 }
 
-// Reading goes on while everything else is made.
-std::unique_ptr<SessionStore> beginReading(AppSingleton& session) {
-    auto sessions = std::make_unique<SessionStore>(session);
-    sessions->preload();
-    return sessions;
-}
-
 } // namespace
 
 // All collaborators, each after those that it uses.
 struct KavorApplication::Parts {
-    Parts(const KavorOptions& options, NetworkConfiguration configuration)
+    Parts(const KavorOptions& options, NetworkConfiguration configuration,
+          std::unique_ptr<SessionStore> reading)
         : session(openSession(options))
-        , sessions(beginReading(session))
+        , sessions(reading ? std::move(reading) : beginReading(options))
         , defaults(options.documents / "UserDefaults")
         , keychain(makeKeychain(options.documents))
         , auth(*keychain, defaults, configuration.urls.baseURLPro)
@@ -170,9 +165,19 @@ KavorApplication::loadConfiguration(const KavorOptions& options) {
     return NetworkConfiguration::decode(embedded.readAll().toStdString(), "NetworkConfiguration.plist");
 }
 
-KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfiguration configuration)
+std::unique_ptr<SessionStore> KavorApplication::beginReading(const KavorOptions& options) {
+    AppSingleton::shared().setFolders(options.documents, options.caches);
+    auto sessions = std::make_unique<SessionStore>(AppSingleton::shared());
+    sessions->preload();
+    return sessions;
+}
+
+KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfiguration configuration,
+                                   std::unique_ptr<SessionStore> sessions)
     : options_(options)
-    , parts_(std::make_unique<Parts>(options, std::move(configuration))) {
+    , parts_(std::make_unique<Parts>(options, std::move(configuration), std::move(sessions))) {
+    // Two quick taps are two taps: a touch screen would swallow the second one as a double click.
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
     if (options.offline)
         setOffline(true);
     // What the wizard wrote last stands on disk before the session is stored.

@@ -15,6 +15,7 @@ class AlertPresenter;
 class AppDelegate;
 class RootController;
 class ServiceOperations;
+class SessionStore;
 
 // The client, put together: session, device, network, services, screens and the window. One at a time, after
 // the application object. Session and drafts stay what they are for the process.
@@ -26,8 +27,13 @@ public:
     // The configuration that the options name, or the embedded one; the error names file and key.
     static tl::expected<NetworkConfiguration, std::string> loadConfiguration(const KavorOptions& options);
 
-    // Makes the folders, mode 0700, and begins to read the session's files.
-    KavorApplication(const KavorOptions& options, NetworkConfiguration configuration);
+    // Begins to read the session's files, which takes its time, while everything else is made; may be called
+    // before there is an application object.
+    static std::unique_ptr<SessionStore> beginReading(const KavorOptions& options);
+
+    // Makes the folders, mode 0700. Without sessions it begins to read them itself.
+    KavorApplication(const KavorOptions& options, NetworkConfiguration configuration,
+                     std::unique_ptr<SessionStore> sessions = nullptr);
     ~KavorApplication() override;
 
     // Shows the window and launches. False when the window's QML does not load.

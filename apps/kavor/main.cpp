@@ -1,16 +1,37 @@
 #include "base/AtomicFile.h"
 #include "kavor/KavorApplication.h"
 #include "kavor/SingleInstance.h"
+#include "shell/services/SessionStore.h"
 
 #include <QGuiApplication>
 
 #include <sys/stat.h>
 
 #include <cstdio>
+#include <filesystem>
+#include <memory>
+
+namespace {
+
+std::unique_ptr<kavor::SessionStore> beginReadingEarly(int argc, char* argv[]) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const auto options = kavor::KavorOptions::read(arguments);
+    std::error_code error;
+    if (!options || !std::filesystem::is_directory(options->documents, error))
+        return nullptr;
+    return kavor::KavorApplication::beginReading(*options);
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
     ::umask(S_IRWXG | S_IRWXO); // what the client writes is its user's alone
     kavor::KavorApplication::prepareProcess();
+    // A large catalogue is read while the application object and the window are made. The application object
+    // takes arguments of its own out of the list, so only its reading of the command line counts.
+    auto sessions = beginReadingEarly(argc, argv);
     QGuiApplication application(argc, argv);
     const auto options = kavor::KavorOptions::read(QCoreApplication::arguments().mid(1));
     if (!options) {
@@ -36,7 +57,7 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "Kavor ya está abierto con la carpeta %s.\n", options->documents.c_str());
         return 0;
     }
-    kavor::KavorApplication kavor(*options, std::move(*configuration));
+    kavor::KavorApplication kavor(*options, std::move(*configuration), std::move(sessions));
     QObject::connect(&instance, &kavor::SingleInstance::startedAgain, &kavor,
                      &kavor::KavorApplication::startedAgain);
     return kavor.start() ? QGuiApplication::exec() : 1;

@@ -14,8 +14,8 @@ DemoServerProcess::DemoServerProcess(const QString& folder, const QStringList& m
     : configuration_(folder + QStringLiteral("/NetworkConfiguration.plist")) {
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/kavor-demo-server"),
-                   QStringList{QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--data"), folder,
-                               QStringLiteral("--quiet"), QStringLiteral("--stop-with-parent"),
+                   QStringList{QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--data"),
+                               folder, QStringLiteral("--quiet"), QStringLiteral("--stop-with-parent"),
                                QStringLiteral("--write-configuration"), configuration_} +
                        moreArguments);
     const QString first = nextLine();

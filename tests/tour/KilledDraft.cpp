@@ -42,7 +42,8 @@ int checkKilledDraft(const QString& folder, const QString& documents) {
     const QString found = QString::fromStdString(Tour::draftDocument());
     if (expected.contains(found))
         return 0;
-    std::fprintf(stderr, "the draft came back as\n%s\ninstead of\n%s\n", qPrintable(found), qPrintable(expected.last()));
+    std::fprintf(stderr, "the draft came back as\n%s\ninstead of\n%s\n", qPrintable(found),
+                 qPrintable(expected.last()));
     return 1;
 }
 

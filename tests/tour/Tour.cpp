@@ -50,7 +50,8 @@ void must(bool good, const QString& what) {
 
 void writeFile(const QString& path, const QByteArray& content) {
     QFile file(path);
-    must(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), QStringLiteral("write ") + path);
+    must(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(),
+         QStringLiteral("write ") + path);
 }
 
 // A text as a reader takes it: blanks of any kind and number count as one.
@@ -58,7 +59,9 @@ QString plainText(QString text) {
     return text.replace(QRegularExpression(QStringLiteral("[\\s\\x{a0}\\x{202f}]+")), QStringLiteral(" "));
 }
 
-const BrochureIntermediateData& draft() { return *BrochureIntermediateData::temporalBrochure(); }
+const BrochureIntermediateData& draft() {
+    return *BrochureIntermediateData::temporalBrochure();
+}
 
 } // namespace
 
@@ -76,21 +79,26 @@ int Tour::run() {
         const char* name;
         void (Tour::*action)();
     };
-    const Step steps[] = {{"inicio", &Tour::start},
-                          {"clave", &Tour::startWithWrongPassword},
-                          {"entrada", &Tour::logIn},
-                          {"panel", &Tour::showDashboard},
-                          {"carta", &Tour::openBeerMenu},
-                          {"configuracion", &Tour::fillConfiguration},
-                          {"productos", &Tour::chooseProducts},
-                          {"incompleto", &Tour::tryIncomplete},
-                          {"precios", &Tour::setPrices},
-                          {"estilo", &Tour::chooseStyle},
-                          {"previa", &Tour::preview},
-                          {"impresion", &Tour::print},
-                          {"pedido", &Tour::checkOrder},
-                          {"sin-red", &Tour::orderOffline}};
-    for (const Step& step : steps) {
+    const std::vector<Step> everyKind = {{"inicio", &Tour::start},
+                                         {"clave", &Tour::startWithWrongPassword},
+                                         {"entrada", &Tour::logIn},
+                                         {"panel", &Tour::showDashboard},
+                                         {"cartas", &Tour::orderEveryKind}};
+    const std::vector<Step> mainJob = {{"inicio", &Tour::start},
+                                       {"clave", &Tour::startWithWrongPassword},
+                                       {"entrada", &Tour::logIn},
+                                       {"panel", &Tour::showDashboard},
+                                       {"carta", &Tour::openBeerMenu},
+                                       {"configuracion", &Tour::fillConfiguration},
+                                       {"productos", &Tour::chooseProducts},
+                                       {"incompleto", &Tour::tryIncomplete},
+                                       {"precios", &Tour::setPrices},
+                                       {"estilo", &Tour::chooseStyle},
+                                       {"previa", &Tour::preview},
+                                       {"impresion", &Tour::print},
+                                       {"pedido", &Tour::checkOrder},
+                                       {"sin-red", &Tour::orderOffline}};
+    for (const Step& step : options_.everyKind ? everyKind : mainJob) {
         try {
             (this->*step.action)();
             remember();
@@ -104,9 +112,11 @@ int Tour::run() {
         std::fflush(stdout);
         if (options_.killAfterStep == QLatin1String(step.name)) {
             QStringList expected;
-            for (std::size_t i = documents_.size() >= 2 ? documents_.size() - 2 : 0; i < documents_.size(); ++i)
+            for (std::size_t i = documents_.size() >= 2 ? documents_.size() - 2 : 0; i < documents_.size();
+                 ++i)
                 expected.append(QString::fromStdString(documents_[i]));
-            writeFile(options_.folder + QStringLiteral("/expected.json"), expected.join(QChar(0x1e)).toUtf8());
+            writeFile(options_.folder + QStringLiteral("/expected.json"),
+                      expected.join(QChar(0x1e)).toUtf8());
             ::kill(::getpid(), SIGKILL);
         }
     }
@@ -145,9 +155,13 @@ void Tour::dismissAlert(const QString& title, const QString& part, int button) {
     touch_->tap(QStringLiteral("alertButton%1").arg(button));
 }
 
-void Tour::openStep(int menuEntry) { touch_->tap(QStringLiteral("menuEntry%1").arg(menuEntry)); }
+void Tour::openStep(int menuEntry) {
+    touch_->tap(QStringLiteral("menuEntry%1").arg(menuEntry));
+}
 
-void Tour::openSection(int applicationType) { touch_->tap(QStringLiteral("welcomeButton%1").arg(applicationType)); }
+void Tour::openSection(int applicationType) {
+    touch_->tap(QStringLiteral("welcomeButton%1").arg(applicationType));
+}
 
 void Tour::start() {
     QDir().mkpath(options_.folder);
@@ -174,7 +188,8 @@ void Tour::startWithWrongPassword() {
     touch_->type(QStringLiteral("emailTextField"), server_->account());
     touch_->type(QStringLiteral("passwordTextField"), QStringLiteral("no-es-esta"));
     touch_->tap(QStringLiteral("loginButton"));
-    touch_->waitUntil(QStringLiteral("the alert of a wrong password"), [&] { return application_->alerts().isVisible(); });
+    touch_->waitUntil(QStringLiteral("the alert of a wrong password"),
+                      [&] { return application_->alerts().isVisible(); });
     must(application_->alerts().title() == QStringLiteral("Incidencia"), application_->alerts().title());
     shot(QStringLiteral("clave-erronea"));
     touch_->tap(QStringLiteral("alertButton0"));
@@ -184,14 +199,17 @@ void Tour::logIn() {
     touch_->type(QStringLiteral("passwordTextField"), server_->password());
     touch_->tap(QStringLiteral("rememberPasswordSwitch"));
     touch_->tap(QStringLiteral("loginButton"));
-    touch_->waitUntil(QStringLiteral("the dashboard"), [&] { return application_->root().welcome() != nullptr; });
+    touch_->waitUntil(QStringLiteral("the dashboard"),
+                      [&] { return application_->root().welcome() != nullptr; });
     // The pictures come fast: the window is taken at the moment when a good part of them is there.
     const WelcomeViewController* welcome = application_->root().welcome();
     bool underWay = false;
-    const auto watching = QObject::connect(welcome, &WelcomeViewController::progressChanged, application_->window(), [&] {
-        underWay = underWay || (welcome->progressMessage().startsWith(QStringLiteral("Actualizando imágenes")) &&
-                                welcome->progress() > 0.7);
-    });
+    const auto watching =
+        QObject::connect(welcome, &WelcomeViewController::progressChanged, application_->window(), [&] {
+            underWay =
+                underWay || (welcome->progressMessage().startsWith(QStringLiteral("Actualizando imágenes")) &&
+                             welcome->progress() > 0.7);
+        });
     touch_->waitUntil(QStringLiteral("the progress of the pictures"), [&] { return underWay; });
     QObject::disconnect(watching);
     if (options_.pictures) {
@@ -207,7 +225,8 @@ void Tour::showDashboard() {
     shot(QStringLiteral("avisos"));
     touch_->tap(QStringLiteral("dismissNotificationsButton"));
     touch_->awaitGone(QStringLiteral("notificationsFrameView"));
-    must(touch_->allTexts().contains(QStringLiteral("Catálogo actualizado")), QStringLiteral("the age of the catalogue"));
+    must(touch_->allTexts().contains(QStringLiteral("Catálogo actualizado")),
+         QStringLiteral("the age of the catalogue"));
     shot(QStringLiteral("panel"));
 }
 
@@ -222,24 +241,24 @@ void Tour::fillConfiguration() {
     touch_->waitUntil(QStringLiteral("the bar of the code"), [] {
         return draft().customerInformation && !draft().customerInformation->name.empty();
     });
-    touch_->tap(QStringLiteral("firstLanguagePicker"));
-    touch_->tap(QStringLiteral("firstLanguagePickerOption0"));
-    touch_->waitUntil(QStringLiteral("a language in the draft"), [] { return draft().currentLanguages().has_value(); });
+    chooseFirst(QStringLiteral("firstLanguagePicker"));
+    touch_->waitUntil(QStringLiteral("a language in the draft"),
+                      [] { return draft().currentLanguages().has_value(); });
     shot(QStringLiteral("configuracion"));
 }
 
 void Tour::chooseProducts() {
     openStep(productsEntry);
-    selectFormats();
+    selectBrands(ApplicationFather::orderBeer, 4, 3);
     shot(QStringLiteral("productos"));
 }
 
 // Finds brands by typing their names and takes the first format of each.
-void Tour::selectFormats() {
-    const auto products = AppSingleton::shared().catalogue().productsOfFamily(ApplicationFather::orderBeer);
+void Tour::selectBrands(ApplicationFather family, std::size_t number, std::size_t step) {
     const std::shared_ptr<const Catalogue> catalogue = AppSingleton::shared().applicationInformation;
-    for (std::size_t i = 0; i < 4; ++i) {
-        const Product& brand = *products[i * 3];
+    const auto products = catalogue->productsOfFamily(family);
+    for (std::size_t i = 0; i < number; ++i) {
+        const Product& brand = *products[i * step];
         touch_->type(QStringLiteral("searchBrandTextField"), QString::fromStdString(brand.name));
         touch_->tap(QStringLiteral("brandFormat%1_%2").arg(brand.id).arg(brand.productList.front().id));
         touch_->waitUntil(QString::fromStdString(brand.name) + QStringLiteral(" selected"),
@@ -249,12 +268,16 @@ void Tour::selectFormats() {
     touch_->type(QStringLiteral("searchBrandTextField"), QString());
 }
 
+void Tour::chooseFirst(const QString& picker, int option) {
+    touch_->tap(picker);
+    touch_->tap(picker + QStringLiteral("Option%1").arg(option));
+}
+
 void Tour::tryIncomplete() {
     openStep(sendEntry);
     touch_->tap(QStringLiteral("makeOrderButton"));
-    touch_->waitUntil(QStringLiteral("the messages of an incomplete order"), [&] {
-        return application_->alerts().title() == QStringLiteral("Pedido incompleto");
-    });
+    touch_->waitUntil(QStringLiteral("the messages of an incomplete order"),
+                      [&] { return application_->alerts().title() == QStringLiteral("Pedido incompleto"); });
     must(application_->alerts().text().contains(QStringLiteral("No hay ningún estilo seleccionado.")),
          application_->alerts().text());
     shot(QStringLiteral("incompleto"));
@@ -267,11 +290,13 @@ void Tour::setPrices() {
     const auto rows = draft().selectedProducts();
     const int columns = draft().currentSecondPrice() ? 2 : 1;
     // The comma and the point of the keypad are both decimal signs.
-    const std::pair<QString, double> prices[] = {{QStringLiteral("2,75"), 2.75}, {QStringLiteral("3.20"), 3.2}};
+    const std::pair<QString, double> prices[] = {{QStringLiteral("2,75"), 2.75},
+                                                 {QStringLiteral("3.20"), 3.2}};
     for (int row = 0; row < 2; ++row) {
         const Int brand = rows[static_cast<std::size_t>(row)]->id;
         const Int format = draft().selectedBrands.at(brand).front();
-        touch_->type(QStringLiteral("retailPrimaryPriceTextField%1").arg(100 + row * columns), prices[row].first);
+        touch_->type(QStringLiteral("retailPrimaryPriceTextField%1").arg(100 + row * columns),
+                     prices[row].first);
         touch_->key(Qt::Key_Tab);
         touch_->waitUntil(QStringLiteral("the price ") + prices[row].first, [&] {
             return draft().priceOf(PriceType::main, format, brand) == prices[row].second;
@@ -282,6 +307,25 @@ void Tour::setPrices() {
     shot(QStringLiteral("precios"));
 }
 
+// As many copies as the kind asks for at least, from a picker or typed.
+void Tour::chooseQuantity() {
+    const auto& parameters = *draft().brochureTypeParameters;
+    if (!parameters.checkUnitsNumber)
+        return;
+    if (!parameters.rangeOrderQuantity.empty()) {
+        chooseFirst(QStringLiteral("selectorQuantity1Picker"));
+    } else {
+        touch_->type(
+            QStringLiteral("numberBrochuresTextField"),
+            QString::number(std::min(parameters.maximumOrderQuantity, parameters.minimumOrderQuantity + 15)));
+        touch_->key(Qt::Key_Tab);
+    }
+    touch_->waitUntil(QStringLiteral("the number of copies"), [&] {
+        return draft().selectedNumberOfBrochures &&
+               draft().selectedNumberOfBrochures->main >= parameters.minimumOrderQuantity;
+    });
+}
+
 void Tour::chooseStyle() {
     openStep(styleEntry);
     touch_->tap(QStringLiteral("styleStripThumbnail1"));
@@ -290,21 +334,18 @@ void Tour::chooseStyle() {
     if (!draft().currentStyle()->logotypeIdentifiers.empty()) {
         const QString pickers[] = {QStringLiteral("firstBrandPicker"), QStringLiteral("secondBrandPicker"),
                                    QStringLiteral("thirdBrandPicker")};
-        for (int i = 0; i < 3; ++i) {
-            touch_->tap(pickers[i]);
-            touch_->tap(pickers[i] + QStringLiteral("Option%1").arg(i));
-        }
+        for (int i = 0; i < 3; ++i)
+            chooseFirst(pickers[i], i);
     }
-    touch_->type(QStringLiteral("numberBrochuresTextField"), QStringLiteral("25"));
-    touch_->key(Qt::Key_Tab);
-    touch_->waitUntil(QStringLiteral("25 copies"), [] {
-        return draft().selectedNumberOfBrochures && draft().selectedNumberOfBrochures->main == 25;
-    });
+    chooseQuantity();
     if (!touch_->isShown(QStringLiteral("offlineChip")))
         shot(QStringLiteral("estilo"));
+    if (!touch_->isShown(QStringLiteral("menuEntry%1").arg(digitalStyleEntry)))
+        return;
     openStep(digitalStyleEntry);
     touch_->tap(QStringLiteral("styleStripThumbnail0"));
-    touch_->waitUntil(QStringLiteral("a digital style"), [] { return draft().currentStyleDigital() != nullptr; });
+    touch_->waitUntil(QStringLiteral("a digital style"),
+                      [] { return draft().currentStyleDigital() != nullptr; });
     if (!touch_->isShown(QStringLiteral("offlineChip")))
         shot(QStringLiteral("estilo-online"));
 }
@@ -340,7 +381,8 @@ void Tour::checkOrder() {
     writeFile(options_.folder + QStringLiteral("/pedido.json"), body);
     const auto received = json::decode<SaveBrochuresOrder>(body.toStdString());
     must(received.has_value(), QString::fromStdString(received ? "" : received.error().text()));
-    must(*received == draft().makeOrder(OrderRequestType::sendToPrint, true), QStringLiteral("the order equals the draft"));
+    must(*received == draft().makeOrder(OrderRequestType::sendToPrint, true),
+         QStringLiteral("the order equals the draft"));
 
     QByteArray pdf = server_->get(order[QStringLiteral("url_pdf")].toString());
     writeFile(options_.folder + QStringLiteral("/carta.pdf"), pdf);
@@ -353,7 +395,8 @@ void Tour::checkOrder() {
         text += document.getAllText(page).text() + QLatin1Char('\n');
     text = plainText(text);
     const auto says = [&](const QString& part) {
-        must(text.contains(plainText(part)), QStringLiteral("the PDF says \"%1\"; it says:\n%2").arg(part, text));
+        must(text.contains(plainText(part)),
+             QStringLiteral("the PDF says \"%1\"; it says:\n%2").arg(part, text));
     };
     says(QString::fromStdString(received->menu.customer.name));
     const Catalogue& catalogue = AppSingleton::shared().catalogue();
@@ -378,10 +421,9 @@ void Tour::orderOffline() {
                                       std::pair("contactEmailTextField", "nuria@cantera.example"),
                                       std::pair("contactTelephoneTextField", "600111222")})
         touch_->type(QLatin1String(field), QString::fromUtf8(text));
-    touch_->tap(QStringLiteral("firstLanguagePicker"));
-    touch_->tap(QStringLiteral("firstLanguagePickerOption0"));
+    chooseFirst(QStringLiteral("firstLanguagePicker"));
     openStep(productsEntry);
-    selectFormats();
+    selectBrands(ApplicationFather::orderBeer, 4, 3);
     openStep(pricesEntry);
     dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
     chooseStyle();
@@ -399,9 +441,67 @@ void Tour::orderOffline() {
     shot(QStringLiteral("panel-sin-conexion"));
     const auto waiting = OrderDiskManager::shared().retrieve<SaveBrochuresOrder>(
         "Sin enviar.zvo", OrderDiskManager::DirectoryName::outbox);
-    must(waiting && waiting->menu.customer.name == "Bar La Cantera Nueva", QStringLiteral("the order in the outbox"));
+    must(waiting && waiting->menu.customer.name == "Bar La Cantera Nueva",
+         QStringLiteral("the order in the outbox"));
     must(QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array().size() == 1,
          QStringLiteral("nothing reached the server"));
+}
+
+void Tour::orderEveryKind() {
+    options_.pictures = false;
+    for (const ApplicationType type :
+         {ApplicationType::orderFlyer, ApplicationType::orderDrink, ApplicationType::orderFood,
+          ApplicationType::orderChalkboard, ApplicationType::orderMantel, ApplicationType::orderVideo,
+          ApplicationType::encarte, ApplicationType::orderWineA4, ApplicationType::orderWineOrder,
+          ApplicationType::orderBeer}) {
+        orderKind(static_cast<int>(type));
+        std::printf("  %s: bien\n", std::string(label(type)).c_str());
+    }
+    const QJsonArray orders = QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array();
+    must(orders.size() == 10, QStringLiteral("ten orders at the server, not %1").arg(orders.size()));
+}
+
+void Tour::chooseBlackboard() {
+    const Brochures& brochures = AppSingleton::shared().catalogue().brochures();
+    touch_->tap(QStringLiteral("orientationElement%1").arg(brochures.blackboardFormats.front().id));
+    chooseFirst(QStringLiteral("blackboardTypePicker"));
+    touch_->waitUntil(QStringLiteral("a chalkboard"), [] {
+        return draft().currentBlackboardFormat() != nullptr && draft().currentBlackboardType() != nullptr;
+    });
+}
+
+// One order of a kind, with what the kind asks for at least.
+void Tour::orderKind(int applicationType) {
+    openSection(applicationType);
+    touch_->tap(QStringLiteral("menuEntry0"));
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("¿Desea borrar todos los datos"), 1);
+    touch_->type(QStringLiteral("tevoTextField"), QStringLiteral("B0011"));
+    touch_->tap(QStringLiteral("searchTEVOCode"));
+    touch_->waitUntil(QStringLiteral("the bar of the code"), [] {
+        return draft().customerInformation && !draft().customerInformation->name.empty();
+    });
+    chooseFirst(QStringLiteral("firstLanguagePicker"));
+    const BrochureType kind = *AppSingleton::shared().brochureType();
+    const Brochures::Type* type = AppSingleton::shared().catalogue().brochureType(kind);
+    auto brands = static_cast<std::size_t>(draft().minimumBrands(1));
+    if (kind == BrochureType::chalkboard) {
+        chooseBlackboard();
+        brands =
+            static_cast<std::size_t>(draft().currentBlackboardFormat()->numberOfSelectableBrands.front());
+    }
+    openStep(productsEntry);
+    selectBrands(type->applicationFather, std::max<std::size_t>(brands, 1), 1);
+    openStep(pricesEntry);
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
+    chooseStyle();
+    openStep(sendEntry);
+    touch_->tap(QStringLiteral("makeOrderButton"));
+    touch_->waitUntil(QStringLiteral("an alert"), [&] { return application_->alerts().isVisible(); });
+    if (application_->alerts().title() == QStringLiteral("¿Los precios son correctos?"))
+        touch_->tap(QStringLiteral("alertButton1"));
+    dismissAlert(QStringLiteral("Éxito"), QString());
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
 }
 
 } // namespace kavor

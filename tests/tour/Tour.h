@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/Enumerations.h"
 #include "support/TouchDriver.h"
 #include "tour/DemoServerProcess.h"
 
@@ -13,9 +14,9 @@ namespace kavor {
 
 class KavorApplication;
 
-// The main job on the real client, with touches and key strokes, against the demonstration server: from a wrong
-// password to a printed menu, and the same once more without a network. Every step checks what the window shows and
-// throws a TouchFailure when it is something else.
+// The main job on the real client, with touches and key strokes, against the demonstration server: from a
+// wrong password to a printed menu, and the same once more without a network. Every step checks what the
+// window shows and throws a TouchFailure when it is something else.
 class Tour {
 public:
     struct Options {
@@ -23,6 +24,7 @@ public:
         QString documents;     // of the client
         QString killAfterStep; // the process kills itself after this step; empty for none
         bool pictures = true;
+        bool everyKind = false; // orders one brochure of every kind instead of the main job
     };
 
     explicit Tour(Options options);
@@ -44,15 +46,20 @@ private:
     void chooseProducts();
     void tryIncomplete();
     void setPrices();
+    void chooseQuantity();
     void chooseStyle();
     void preview();
     void print();
     void checkOrder();
     void orderOffline();
+    void orderEveryKind();
 
+    void orderKind(int applicationType);
+    void chooseBlackboard();
+    void chooseFirst(const QString& picker, int option = 0);
+    void selectBrands(ApplicationFather family, std::size_t number, std::size_t step);
     void openSection(int applicationType);
     void openStep(int menuEntry);
-    void selectFormats();
     // Waits for an alert and answers it with one of its buttons.
     void dismissAlert(const QString& title, const QString& part, int button = 0);
     // A picture at each of the three sizes, numbered.

@@ -11,6 +11,7 @@
 // kavor-tour DIR                       the main job by itself; pictures, the order and the PDF go to DIR
 //   --documents DIR                    the client's documents folder (default: a temporary one)
 //   --kill-after STEP                  the process kills itself after a step
+//   --every-kind                       an order of every kind of brochure instead
 //   --check-killed                     a new start after that: is the draft still there?
 int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
@@ -24,7 +25,11 @@ int main(int argc, char* argv[]) {
 
     QCommandLineParser parser;
     parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("where pictures, order and PDF go"));
-    parser.addOptions({{"documents", {}, "DIR"}, {"kill-after", {}, "STEP"}, {"check-killed", {}}, {"no-pictures", {}}});
+    parser.addOptions({{"documents", {}, "DIR"},
+                       {"kill-after", {}, "STEP"},
+                       {"check-killed", {}},
+                       {"no-pictures", {}},
+                       {"every-kind", {}}});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1) {
@@ -34,11 +39,12 @@ int main(int argc, char* argv[]) {
     const QTemporaryDir temporary;
     kavor::Tour::Options options;
     options.folder = parser.positionalArguments().constFirst();
-    options.documents =
-        parser.isSet("documents") ? parser.value("documents") : temporary.filePath(QStringLiteral("documents"));
+    options.documents = parser.isSet("documents") ? parser.value("documents")
+                                                  : temporary.filePath(QStringLiteral("documents"));
     if (parser.isSet("check-killed"))
         return kavor::checkKilledDraft(options.folder, options.documents);
     options.killAfterStep = parser.value("kill-after");
+    options.everyKind = parser.isSet("every-kind");
     options.pictures = !parser.isSet("no-pictures");
     const int status = kavor::Tour(options).run();
     if (status == 0)

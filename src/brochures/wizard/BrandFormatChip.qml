@@ -8,6 +8,7 @@ Tappable {
     property string text: ""
     property string image: ""
     property bool selected: false
+    property bool narrow: false // two fit beside each other on a phone
 
     accessibleName: text
     Accessible.role: Accessible.CheckBox
@@ -15,8 +16,8 @@ Tappable {
     Accessible.checked: selected
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.touch
-    leftPadding: Theme.spaceS
-    rightPadding: Theme.spaceM
+    leftPadding: narrow ? Theme.spaceXS : Theme.spaceS
+    rightPadding: narrow ? Theme.spaceS : Theme.spaceM
 
     background: Rectangle {
         radius: Theme.radius
@@ -36,10 +37,10 @@ Tappable {
             id: row
 
             anchors.verticalCenter: parent.verticalCenter
-            spacing: Theme.spaceS
+            spacing: chip.narrow ? Theme.spaceXS : Theme.spaceS
 
             ResourceImage {
-                width: 32
+                width: chip.narrow ? 28 : 32
                 height: 32
                 radius: 8
                 visible: chip.image !== ""

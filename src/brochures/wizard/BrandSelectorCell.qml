@@ -141,6 +141,7 @@ Item {
                     objectName: "brandFormat" + cell.brandId + "_" + modelData.formatId
                     text: modelData.text
                     image: modelData.image
+                    narrow: !cell.beside && cell.width < 480
                     selected: cell.selectedFormats.indexOf(modelData.formatId) >= 0
                     width: Math.min(implicitWidth, chips.width)
                     onClicked: cell.formatTapped(cell.index, modelData.formatId)

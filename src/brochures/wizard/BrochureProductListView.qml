@@ -11,6 +11,13 @@ FocusScope {
 
     objectName: "brochureProductList"
 
+    Connections {
+        target: view.controller.brandFilter
+        function onChanged(): void {
+            list.positionViewAtBeginning();
+        }
+    }
+
     Column {
         id: top
 

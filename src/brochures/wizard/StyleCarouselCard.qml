@@ -95,6 +95,7 @@ Column {
                 source: item.styleImage
                 text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
                 placeholderIcon: "style"
+                mat: Theme.surface
                 fillMode: Image.PreserveAspectFit
 
                 Behavior on anchors.margins { NumberAnimation { duration: Theme.fast } }

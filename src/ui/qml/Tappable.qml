@@ -63,7 +63,6 @@ T.Control {
         // Takes the focus from a field first, so that what was typed is handed over before the tap acts.
         onPressed: control.forceActiveFocus(Qt.MouseFocusReason)
         onClicked: control.trigger()
-        onDoubleClicked: control.trigger() // the second of two quick taps, which a touch screen reports like this
         onPressAndHold: control.longPressed()
     }
 }
