@@ -85,7 +85,7 @@ struct KavorApplication::Parts {
     Parts(const KavorOptions& options, NetworkConfiguration configuration,
           std::unique_ptr<SessionStore> reading)
         : session(openSession(options))
-        , sessions(reading ? std::move(reading) : beginReading(options))
+        , sessions(std::move(reading))
         , defaults(options.documents / "UserDefaults")
         , keychain(makeKeychain(options.documents))
         , auth(*keychain, defaults, configuration.urls.baseURLPro)
@@ -191,6 +191,9 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
         parts_->lifecycle.reportWindowClosed();
     });
 }
+
+KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfiguration configuration)
+    : KavorApplication(options, std::move(configuration), beginReading(options)) {}
 
 KavorApplication::~KavorApplication() = default;
 

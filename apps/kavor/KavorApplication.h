@@ -31,9 +31,10 @@ public:
     // before there is an application object.
     static std::unique_ptr<SessionStore> beginReading(const KavorOptions& options);
 
-    // Makes the folders, mode 0700. Without sessions it begins to read them itself.
+    // Makes the folders, mode 0700. The first form takes over what beginReading gave.
     KavorApplication(const KavorOptions& options, NetworkConfiguration configuration,
-                     std::unique_ptr<SessionStore> sessions = nullptr);
+                     std::unique_ptr<SessionStore> sessions);
+    KavorApplication(const KavorOptions& options, NetworkConfiguration configuration);
     ~KavorApplication() override;
 
     // Shows the window and launches. False when the window's QML does not load.

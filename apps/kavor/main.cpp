@@ -57,6 +57,8 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "Kavor ya está abierto con la carpeta %s.\n", options->documents.c_str());
         return 0;
     }
+    if (!sessions)
+        sessions = kavor::KavorApplication::beginReading(*options);
     kavor::KavorApplication kavor(*options, std::move(*configuration), std::move(sessions));
     QObject::connect(&instance, &kavor::SingleInstance::startedAgain, &kavor,
                      &kavor::KavorApplication::startedAgain);

@@ -17,6 +17,11 @@ namespace kavor::demo {
 namespace {
 
 int boundPort(httplib::Server& http, int wanted) {
+    // Without the library's own choice, which lets two servers share a port.
+    http.set_socket_options([](int socket) {
+        const int yes = 1;
+        setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+    });
     const int port = wanted == 0                              ? http.bind_to_any_port("127.0.0.1")
                      : http.bind_to_port("127.0.0.1", wanted) ? wanted
                                                               : -1;

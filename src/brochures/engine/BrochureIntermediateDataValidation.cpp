@@ -312,7 +312,8 @@ std::vector<std::string> BrochureIntermediateData::validationErrors() const {
 
 std::vector<std::string> BrochureIntermediateData::priceWarnings() const {
     Messages lines;
-    for (const auto& [brand, formats] : filteredSelection().brandPrices) {
+    // The shared draft is the one that is asked about.
+    for (const auto& [brand, formats] : temporalBrochure()->filteredSelection().brandPrices) {
         const auto* product = catalogue().product(brand);
         if (!product)
             return {unknownBrand};
