@@ -1,9 +1,7 @@
 #include "Commands.h"
-
 #include "catalogue/ApplicationInformation.h"
 
 #include <CLI/CLI.hpp>
-
 #include <memory>
 #include <utility>
 #include <vector>
@@ -48,8 +46,10 @@ void countBrochures(Counts& counts, const Brochures& brochures) {
     counts.emplace_back("cartas.precios", brochures.prices.size());
     counts.emplace_back("cartas.languages", brochures.languages.size());
     counts.emplace_back("cartas.bebidas", brochures.drinks.size());
-    counts.emplace_back("cartas.bebidas.products",
-                        sum(brochures.drinks, [](const auto& drink) -> const auto& { return drink.products; }));
+    counts.emplace_back(
+        "cartas.bebidas.products",
+        sum(
+            brochures.drinks, [](const auto& drink) -> const auto& { return drink.products; }));
     counts.emplace_back("cartas.logos", brochures.logos.size());
     counts.emplace_back("cartas.brandqrs", brochures.brandQrs.size());
     countPosters(counts, "cartas.carteleria", brochures.promotions);
@@ -69,8 +69,10 @@ Counts countsOf(const ApplicationInformation& catalogue) {
     counts.emplace_back("maridaje", catalogue.pairings.size());
     counts.emplace_back("suggestion_mailbox_categories", catalogue.suggestionCategories.size());
     counts.emplace_back("productos", catalogue.products.size());
-    counts.emplace_back("productos.productlist",
-                        sum(catalogue.products, [](const auto& brand) -> const auto& { return brand.productList; }));
+    counts.emplace_back(
+        "productos.productlist",
+        sum(
+            catalogue.products, [](const auto& brand) -> const auto& { return brand.productList; }));
     counts.emplace_back("attribute_types", catalogue.attributesTypes.size());
     counts.emplace_back("images", catalogue.images.size());
     counts.emplace_back("manuales", catalogue.manuals.size());
@@ -83,8 +85,10 @@ Counts countsOf(const ApplicationInformation& catalogue) {
     if (catalogue.activations) {
         const auto& definitions = catalogue.activations->definitionsList;
         counts.emplace_back("activaciones.definiciones", definitions.size());
-        counts.emplace_back("activaciones.definiciones.activaciones",
-                            sum(definitions, [](const auto& brand) -> const auto& { return brand.activationsList; }));
+        counts.emplace_back(
+            "activaciones.definiciones.activaciones",
+            sum(
+                definitions, [](const auto& brand) -> const auto& { return brand.activationsList; }));
     }
     if (catalogue.textile)
         countTextile(counts, *catalogue.textile);
@@ -100,7 +104,8 @@ void check(CommandContext& context, const std::string& file) {
     }
     context.out << "{\n";
     for (std::size_t i = 0; i < counts.size(); ++i)
-        context.out << "  \"" << counts[i].first << "\": " << counts[i].second << (i + 1 < counts.size() ? ",\n" : "\n");
+        context.out << "  \"" << counts[i].first << "\": " << counts[i].second
+                    << (i + 1 < counts.size() ? ",\n" : "\n");
     context.out << "}\n";
 }
 

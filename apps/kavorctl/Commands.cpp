@@ -10,7 +10,8 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     program.require_subcommand(1);
     program.fallthrough();
     program.add_option("--documents", context.documents, "the documents folder (default: the client's)");
-    program.add_option("--configuration", context.configuration, "the property list with the server's addresses");
+    program.add_option("--configuration", context.configuration,
+                       "the property list with the server's addresses");
     program.add_flag("--json", context.json, "lists as JSON");
     addCatalogueCommands(program, context);
     addOrderCommands(program, context);

@@ -75,9 +75,10 @@ void OnlineSession::requireLogin() {
 }
 
 void OnlineSession::logIn(const QString& account, const QString& password) {
-    const auto answer = await<LoginResult>(QStringLiteral("Incidencia"), [&](const Completion<LoginResult>& done) {
-        network.login({account, password, std::nullopt}, done);
-    });
+    const auto answer =
+        await<LoginResult>(QStringLiteral("Incidencia"), [&](const Completion<LoginResult>& done) {
+            network.login({account, password, std::nullopt}, done);
+        });
     if (!answer.token)
         throw CommandFailure(requestFailed, "Incidencia: the answer brings no token");
     network.setAccessToken(QString::fromStdString(*answer.token));

@@ -33,8 +33,8 @@ public:
     [[nodiscard]] std::optional<QFont> font(const QString&, int) const override { return std::nullopt; }
 };
 
-// The client's session and its way to the server without a window: the same documents folder, credential and engine.
-// Needs a QCoreApplication.
+// The client's session and its way to the server without a window: the same documents folder, credential and
+// engine. Needs a QCoreApplication.
 class OnlineSession {
 public:
     // Opens the documents folder; a CommandFailure when the property list or the folder can't be had.

@@ -1,11 +1,9 @@
 #include "Commands.h"
 #include "OrderInputs.h"
-
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/RetrievedOrder.h"
 
 #include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace kavor::ctl {
@@ -21,7 +19,8 @@ void printMessages(CommandContext& context, const std::vector<std::string>& mess
     context.status = messages.empty() ? fine : orderHasMessages;
 }
 
-CLI::App* addCommand(CLI::App& group, const Inputs& inputs, const std::string& name, const std::string& help) {
+CLI::App* addCommand(CLI::App& group, const Inputs& inputs, const std::string& name,
+                     const std::string& help) {
     CLI::App* command = group.add_subcommand(name, help);
     command->add_option("FILE", inputs->order, "an order document")->required();
     return command;
@@ -48,7 +47,8 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
     const auto inputs = std::make_shared<OrderInputs>();
 
     addCommand(group, inputs, "decode", "the order as the reader took it, written again")
-        ->callback([&context, inputs] { context.out << prettyText(readRecord<SaveBrochuresOrder>(inputs->order)); });
+        ->callback(
+            [&context, inputs] { context.out << prettyText(readRecord<SaveBrochuresOrder>(inputs->order)); });
 
     CLI::App* check = addCommand(group, inputs, "check", "what keeps the order from being sent, one a line");
     needCatalogue(check, inputs);
@@ -60,7 +60,8 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
     needLogin(warnings, inputs);
     warnings->callback([&context, inputs] { printMessages(context, openDraft(*inputs)->priceWarnings()); });
 
-    CLI::App* rebuild = addCommand(group, inputs, "rebuild", "fills a draft and prints its order without validation");
+    CLI::App* rebuild =
+        addCommand(group, inputs, "rebuild", "fills a draft and prints its order without validation");
     needCatalogue(rebuild, inputs);
     needLogin(rebuild, inputs);
     offerSave(rebuild, inputs);
@@ -68,7 +69,8 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
         context.out << prettyText(openDraft(*inputs)->makeOrder(requestType(inputs->save), false));
     });
 
-    CLI::App* convert = addCommand(group, inputs, "from-answer", "the order document of the server's answer for one order");
+    CLI::App* convert =
+        addCommand(group, inputs, "from-answer", "the order document of the server's answer for one order");
     convert->add_option("--row", inputs->row, "the id of the order's row in the order list")->required();
     needCatalogue(convert, inputs);
     convert->callback([&context, inputs] {

@@ -30,8 +30,8 @@ OrderRequestType requestType(const std::string& save);
 // Fills a new shared draft from the order file, in the brochure section of its "order_type".
 std::shared_ptr<BrochureIntermediateData> openDraft(const OrderInputs& inputs);
 
-// A summary for a reader, in Spanish: bar, languages, copies, style, brands with formats and prices. Needs the session's
-// catalogue.
+// A summary for a reader, in Spanish: bar, languages, copies, style, brands with formats and prices. Needs
+// the session's catalogue.
 std::string summaryOf(const SaveBrochuresOrder& order);
 
 } // namespace kavor::ctl

@@ -21,9 +21,9 @@ namespace kavor::json {
 template <>
 struct Table<ctl::RowRecord> {
     using R = ctl::RowRecord;
-    static constexpr auto fields = std::tuple{required("filename", &R::filename), required("syncState", &R::syncState),
-                                              required("section", &R::section), required("date", &R::date),
-                                              optional("serverId", &R::serverId)};
+    static constexpr auto fields = std::tuple{
+        required("filename", &R::filename), required("syncState", &R::syncState),
+        required("section", &R::section), required("date", &R::date), optional("serverId", &R::serverId)};
 };
 
 } // namespace kavor::json
@@ -51,15 +51,16 @@ std::string stateName(OrderSyncState state) {
 void printRows(CommandContext& context, const DraftOrderRows& rows) {
     std::vector<RowRecord> records;
     for (const DraftOrderRow& row : rows.draftsOrderList())
-        records.push_back({row.filename, stateName(row.syncState), row.sectionIdentifier.text(), row.date.text(),
-                           row.serverId()});
+        records.push_back({row.filename, stateName(row.syncState), row.sectionIdentifier.text(),
+                           row.date.text(), row.serverId()});
     if (context.json) {
         context.out << prettyText(records);
         return;
     }
     for (std::size_t i = 0; i < records.size(); ++i) {
         context.out << records[i].date << "  " << label(rows.draftsOrderList()[i].syncState) << "  "
-                    << records[i].section << "  " << (records[i].filename.empty() ? "(Sin nombre)" : records[i].filename);
+                    << records[i].section << "  "
+                    << (records[i].filename.empty() ? "(Sin nombre)" : records[i].filename);
         if (records[i].serverId)
             context.out << "  #" << *records[i].serverId;
         context.out << '\n';

@@ -8,7 +8,8 @@ class DraftOrderRows;
 
 namespace kavor::ctl {
 
-// Prints the drafts, newest first: as a JSON list, or a line each with the state's Spanish text, then the orders sent.
+// Prints the drafts, newest first: as a JSON list, or a line each with the state's Spanish text, then the
+// orders sent.
 void printRows(CommandContext& context, const DraftOrderRows& rows);
 
 } // namespace kavor::ctl

@@ -1,5 +1,4 @@
 #include "OrderInputs.h"
-
 #include "base/AppFormatter.h"
 #include "shell/AppSingleton.h"
 

@@ -2,7 +2,6 @@
 #include "OnlineSession.h"
 #include "OrderInputs.h"
 #include "OrderRowOutput.h"
-
 #include "base/NotificationCenter.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "device/BackgroundTasks.h"
@@ -11,10 +10,9 @@
 #include "orders/services/OrderSyncManager.h"
 #include "shell/AppSingleton.h"
 
-#include <CLI/CLI.hpp>
-
 #include <unistd.h>
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 namespace kavor::ctl {
@@ -102,8 +100,10 @@ void fetchCatalogue(const CommandContext& context, const std::string& account) {
     loop.exec();
     online.sessions.flush();
     if (failure)
-        throw CommandFailure(1, "Error de conexión con el servidor.: " + failure->join(QLatin1Char('\n')).toStdString());
-    context.out << "Catálogo actualizado: " << online.session.catalogue().information().products.size() << " marcas\n";
+        throw CommandFailure(1, "Error de conexión con el servidor.: " +
+                                    failure->join(QLatin1Char('\n')).toStdString());
+    context.out << "Catálogo actualizado: " << online.session.catalogue().information().products.size()
+                << " marcas\n";
 }
 
 void sendOrder(const CommandContext& context, const OrderInputs& inputs) {
@@ -111,11 +111,13 @@ void sendOrder(const CommandContext& context, const OrderInputs& inputs) {
     order.save = requestType(inputs.save);
     OnlineSession online(context);
     online.requireLogin();
-    const QString title = order.save == OrderRequestType::sendToPrint    ? QStringLiteral("El pedido no se puede realizar")
-                          : order.save == OrderRequestType::sendPreview ? QStringLiteral("El pedido no se puede previsualizar")
-                                                                         : QStringLiteral("El pedido no se puede sincronizar");
+    const QString title =
+        order.save == OrderRequestType::sendToPrint   ? QStringLiteral("El pedido no se puede realizar")
+        : order.save == OrderRequestType::sendPreview ? QStringLiteral("El pedido no se puede previsualizar")
+                                                      : QStringLiteral("El pedido no se puede sincronizar");
     const auto answer = online.await<SaveBrochuresOrderResponse>(
-        title, [&](const Completion<SaveBrochuresOrderResponse>& done) { online.network.saveOrder(order, done); });
+        title,
+        [&](const Completion<SaveBrochuresOrderResponse>& done) { online.network.saveOrder(order, done); });
     context.out << prettyText(answer);
 }
 
@@ -128,9 +130,10 @@ void listOrders(CommandContext& context) {
     } else {
         online.requireLogin();
         const OrderListFilter filter{{}, {}, {}, 0, 0, 0, true};
-        rows.applyAnswer(online.await<OrderList>(QStringLiteral("Incidencia"), [&](const Completion<OrderList>& done) {
-            online.network.retrieveBrochureOrderList(filter, done);
-        }));
+        rows.applyAnswer(
+            online.await<OrderList>(QStringLiteral("Incidencia"), [&](const Completion<OrderList>& done) {
+                online.network.retrieveBrochureOrderList(filter, done);
+            }));
         rows.sortSentOrders();
     }
     printRows(context, rows);
@@ -141,8 +144,8 @@ void synchronise(const CommandContext& context) {
     online.requireLogin();
     PrintedNotifications notifications(context.out);
     NoBackgroundTasks tasks;
-    OrderSyncManager manager({online.network, online.orders, notifications, NotificationCenter::shared(), tasks,
-                              online.clock, [] {}, [] {}, [] {}});
+    OrderSyncManager manager({online.network, online.orders, notifications, NotificationCenter::shared(),
+                              tasks, online.clock, [] {}, [] {}, [] {}});
     QEventLoop loop;
     // A notification follows its answer by a second.
     QObject::connect(&manager, &OrderSyncManager::runAnswered, &loop, [&] {
@@ -159,20 +162,23 @@ void synchronise(const CommandContext& context) {
 
 void addSessionCommands(CLI::App& program, CommandContext& context) {
     const auto account = std::make_shared<std::string>();
-    CLI::App* login = program.add_subcommand("login", "logs in; the password comes from the terminal or standard input");
+    CLI::App* login =
+        program.add_subcommand("login", "logs in; the password comes from the terminal or standard input");
     login->add_option("ACCOUNT", *account, "the login name")->required();
     login->callback([&context, account] { logIn(context, *account); });
     program.add_subcommand("logout", "forgets the credential")->callback([&context] { logOut(context); });
     program.add_subcommand("sync", "one background run: up to two drafts that never reached the server")
         ->callback([&context] { synchronise(context); });
 
-    CLI::App* fetch = program.get_subcommand("catalogue")
-                          ->add_subcommand("fetch", "fetches and stores the catalogue, its pictures and fonts");
+    CLI::App* fetch =
+        program.get_subcommand("catalogue")
+            ->add_subcommand("fetch", "fetches and stores the catalogue, its pictures and fonts");
     fetch->add_option("--account", *account, "log in first with this name");
     fetch->callback([&context, account] { fetchCatalogue(context, *account); });
 
     const auto inputs = std::make_shared<OrderInputs>();
-    CLI::App* send = program.get_subcommand("order")->add_subcommand("send", "sends an order; prints the server's answer");
+    CLI::App* send =
+        program.get_subcommand("order")->add_subcommand("send", "sends an order; prints the server's answer");
     send->add_option("FILE", inputs->order, "an order document")->required();
     send->add_option("--save", inputs->save, "what the server is to do with the order")
         ->required()

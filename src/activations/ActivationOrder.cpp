@@ -7,11 +7,14 @@ namespace kavor::json {
 template <>
 struct Table<ActivationOrder::CustomerActivation> {
     using R = ActivationOrder::CustomerActivation;
-    static constexpr auto fields = std::tuple{
-        required("name", &R::name),           optional("cod_tevo", &R::cobrixCode),
-        optional("email", &R::email),         optional("telephone", &R::telephone),
-        optional("contact", &R::contact),     required("full_address", &R::fullAddress),
-        optional("placePostalCode", &R::postalCode), optional("placeLocality", &R::city)};
+    static constexpr auto fields = std::tuple{required("name", &R::name),
+                                              optional("cod_tevo", &R::cobrixCode),
+                                              optional("email", &R::email),
+                                              optional("telephone", &R::telephone),
+                                              optional("contact", &R::contact),
+                                              required("full_address", &R::fullAddress),
+                                              optional("placePostalCode", &R::postalCode),
+                                              optional("placeLocality", &R::city)};
 };
 
 template <>
@@ -52,15 +55,16 @@ struct Table<ActivationOrder> {
 template <>
 struct Table<SaveBrochuresOrderActivationResponse> {
     using R = SaveBrochuresOrderActivationResponse;
-    static constexpr auto fields = std::tuple{optional("url", &R::urlOrder), optional("order_id", &R::orderId),
-                                              optional("quota", &R::quota), optional("number_made", &R::numberMade)};
+    static constexpr auto fields =
+        std::tuple{optional("url", &R::urlOrder), optional("order_id", &R::orderId),
+                   optional("quota", &R::quota), optional("number_made", &R::numberMade)};
 };
 
 template <>
 struct Table<ActivationsUserQuota::ActivationUserQuota> {
     using R = ActivationsUserQuota::ActivationUserQuota;
-    static constexpr auto fields =
-        std::tuple{required("id", &R::id), required("quota", &R::quota), required("number_made", &R::numberMade)};
+    static constexpr auto fields = std::tuple{required("id", &R::id), required("quota", &R::quota),
+                                              required("number_made", &R::numberMade)};
 };
 
 template <>

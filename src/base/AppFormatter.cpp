@@ -92,7 +92,8 @@ std::string AppFormatter::currencyFormatter(double value) const {
 }
 
 std::string AppFormatter::negativeFormatter(double value) const {
-    static const auto formatter = NumberFormatter::withLocale(spanish()).precision(Precision::fixedFraction(2));
+    static const auto formatter =
+        NumberFormatter::withLocale(spanish()).precision(Precision::fixedFraction(2));
     return formatted(formatter, value);
 }
 
@@ -100,15 +101,18 @@ std::string AppFormatter::machineNumberFormatter(double value) const {
     char buffer[400];
     const double size = std::fabs(value);
     const bool plain = size == 0 || (size >= 1e-5 && size < 1e16);
-    const auto end = plain ? std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr
-                           : std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+    const auto end = plain
+                         ? std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr
+                         : std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
     std::string result(buffer, end);
     if (result.find_first_not_of("-0123456789") == std::string::npos)
         result += ".0";
     return result;
 }
 
-std::string AppFormatter::genericDateFormatter(const LocalDateTime& date) const { return date.text(); }
+std::string AppFormatter::genericDateFormatter(const LocalDateTime& date) const {
+    return date.text();
+}
 
 std::optional<double> AppFormatter::parseNumber(std::string_view text) const {
     text = trimmed(text);

@@ -29,8 +29,8 @@ public:
     // "dd-MM-yyyy HH:mm:ss".
     [[nodiscard]] std::string genericDateFormatter(const LocalDateTime& date) const;
 
-    // Reads what a user typed as a number; the comma and the point are both decimal signs. With both in one text
-    // the last of them is the decimal sign and the others group. Nothing for any other text.
+    // Reads what a user typed as a number; the comma and the point are both decimal signs. With both in one
+    // text the last of them is the decimal sign and the others group. Nothing for any other text.
     [[nodiscard]] std::optional<double> parseNumber(std::string_view text) const;
     // The same for a text that may end in the currency sign.
     [[nodiscard]] std::optional<double> parseCurrency(std::string_view text) const;

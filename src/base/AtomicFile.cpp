@@ -16,7 +16,9 @@ namespace {
 
 constexpr std::string_view temporaryPrefix = ".tmp-";
 
-Failure failure(const std::filesystem::path& path, int error) { return {path, std::strerror(error)}; }
+Failure failure(const std::filesystem::path& path, int error) {
+    return {path, std::strerror(error)};
+}
 
 // A file descriptor that closes itself.
 class Descriptor {
@@ -88,7 +90,9 @@ tl::expected<std::filesystem::path, Failure> writeTemporary(const std::filesyste
 
 } // namespace
 
-std::string Failure::text() const { return path.string() + ": " + reason; }
+std::string Failure::text() const {
+    return path.string() + ": " + reason;
+}
 
 Done write(const std::filesystem::path& path, std::string_view content) {
     const auto temporary = writeTemporary(path, content);

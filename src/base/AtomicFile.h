@@ -1,14 +1,13 @@
 #pragma once
 
-#include <tl/expected.hpp>
-
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tl/expected.hpp>
 
-// Whole files that are replaced in one step, so that a process or a device that dies leaves the old or the new
-// content and never a torn file. Files have the mode 0600, folders 0700.
+// Whole files that are replaced in one step, so that a process or a device that dies leaves the old or the
+// new content and never a torn file. Files have the mode 0600, folders 0700.
 namespace kavor::atomic_file {
 
 // Why a file operation failed; text() names the file and the reason.
@@ -41,8 +40,8 @@ Done makeFolder(const std::filesystem::path& folder);
 // Removes the temporaries that writers which are no longer alive left in the folder.
 void sweepTemporaries(const std::filesystem::path& folder);
 
-// The path of a direct child of the folder, or nothing when the name is empty, "." or "..", holds a separator or a
-// null, begins like a temporary, or is too long for a file name.
+// The path of a direct child of the folder, or nothing when the name is empty, "." or "..", holds a separator
+// or a null, begins like a temporary, or is too long for a file name.
 std::optional<std::filesystem::path> child(const std::filesystem::path& folder, std::string_view name);
 
 } // namespace kavor::atomic_file

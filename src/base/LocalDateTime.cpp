@@ -6,7 +6,9 @@ namespace kavor {
 
 namespace {
 
-bool isLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool isLeapYear(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
 
 int daysOfMonth(int year, int month) {
     constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -30,7 +32,8 @@ std::optional<LocalDateTime> LocalDateTime::parse(std::string_view text) {
             value = value * 10 + (text[i] - '0');
         return value;
     };
-    const LocalDateTime result{number(6, 4), number(3, 2), number(0, 2), number(11, 2), number(14, 2), number(17, 2)};
+    const LocalDateTime result{number(6, 4),  number(3, 2),  number(0, 2),
+                               number(11, 2), number(14, 2), number(17, 2)};
     const bool real = result.year >= 1 && result.month >= 1 && result.month <= 12 && result.day >= 1 &&
                       result.day <= daysOfMonth(result.year, result.month) && result.hour < 24 &&
                       result.minute < 60 && result.second < 60;
@@ -43,7 +46,9 @@ LocalDateTime LocalDateTime::fromTime(std::time_t time) {
     return {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec};
 }
 
-LocalDateTime LocalDateTime::now() { return fromTime(std::time(nullptr)); }
+LocalDateTime LocalDateTime::now() {
+    return fromTime(std::time(nullptr));
+}
 
 std::time_t LocalDateTime::toTime() const {
     std::tm parts{};
@@ -59,13 +64,15 @@ std::time_t LocalDateTime::toTime() const {
 
 std::string LocalDateTime::text() const {
     char buffer[80];
-    std::snprintf(buffer, sizeof buffer, "%02d-%02d-%04d %02d:%02d:%02d", day, month, year, hour, minute, second);
+    std::snprintf(buffer, sizeof buffer, "%02d-%02d-%04d %02d:%02d:%02d", day, month, year, hour, minute,
+                  second);
     return buffer;
 }
 
 std::string LocalDateTime::fileNameText() const {
     char buffer[80];
-    std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d-%02d-%02d-%02d", year, month, day, hour, minute, second);
+    std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d-%02d-%02d-%02d", year, month, day, hour, minute,
+                  second);
     return buffer;
 }
 

@@ -21,7 +21,8 @@ struct LocalDateTime {
 
     auto operator<=>(const LocalDateTime&) const = default;
 
-    // Reads "dd-MM-yyyy HH:mm:ss": two digits each, four for the year, a day that the calendar has, nothing else.
+    // Reads "dd-MM-yyyy HH:mm:ss": two digits each, four for the year, a day that the calendar has, nothing
+    // else.
     static std::optional<LocalDateTime> parse(std::string_view text);
     static LocalDateTime fromTime(std::time_t time);
     static LocalDateTime now();

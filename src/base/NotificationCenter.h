@@ -14,7 +14,8 @@ namespace kavor {
 
 // What a process-local notification carries.
 using NotificationInfo =
-    std::map<std::string, std::variant<bool, std::int64_t, std::string, std::pair<std::int64_t, std::int64_t>>>;
+    std::map<std::string,
+             std::variant<bool, std::int64_t, std::string, std::pair<std::int64_t, std::int64_t>>>;
 
 // The names that tie screens together.
 namespace notification {

@@ -9,8 +9,8 @@
 
 namespace kavor {
 
-// The catalogue document: the whole vocabulary of the system as the server gives it. Records refer to each other by
-// id; a dangling id is no error of the document.
+// The catalogue document: the whole vocabulary of the system as the server gives it. Records refer to each
+// other by id; a dangling id is no error of the document.
 struct ApplicationInformation {
     // A type of free attributes.
     struct AttributeType {

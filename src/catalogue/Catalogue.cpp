@@ -106,27 +106,52 @@ const Product::ProductFormat* Catalogue::format(Int brand, Int format) const {
 
 std::span<const Product* const> Catalogue::productsOfFamily(ApplicationFather family) const {
     const auto found = families_.find(static_cast<Int>(family));
-    return found == families_.end() ? std::span<const Product* const>() : std::span<const Product* const>(found->second);
+    return found == families_.end() ? std::span<const Product* const>()
+                                    : std::span<const Product* const>(found->second);
 }
 
 const Brochures::Type* Catalogue::brochureType(BrochureType type) const {
     return find(types_, static_cast<Int>(type));
 }
-const Brochures::Style* Catalogue::style(Int id) const { return find(styles_, id); }
-const Brochures::Logo* Catalogue::logo(Int id) const { return find(logos_, id); }
-const Brochures::Language* Catalogue::language(Int id) const { return find(languages_, id); }
-const Brochures::OrderSheet* Catalogue::orderSheet(Int id) const { return find(orderSheets_, id); }
-const Brochures::PennantBrand* Catalogue::pennantBrand(Int id) const { return find(pennantBrands_, id); }
-const Brochures::BrandQr* Catalogue::brandQr(Int id) const { return find(brandQrs_, id); }
-const Brochures::BlackBoardFormat* Catalogue::blackboardFormat(Int id) const { return find(blackboardFormats_, id); }
-const Brochures::BlackBoardType* Catalogue::blackboardType(Int id) const { return find(blackboardTypes_, id); }
-const Brochures::MenuFormatVisualize* Catalogue::menuFormatVisualize(Int id) const { return find(menuFormats_, id); }
+const Brochures::Style* Catalogue::style(Int id) const {
+    return find(styles_, id);
+}
+const Brochures::Logo* Catalogue::logo(Int id) const {
+    return find(logos_, id);
+}
+const Brochures::Language* Catalogue::language(Int id) const {
+    return find(languages_, id);
+}
+const Brochures::OrderSheet* Catalogue::orderSheet(Int id) const {
+    return find(orderSheets_, id);
+}
+const Brochures::PennantBrand* Catalogue::pennantBrand(Int id) const {
+    return find(pennantBrands_, id);
+}
+const Brochures::BrandQr* Catalogue::brandQr(Int id) const {
+    return find(brandQrs_, id);
+}
+const Brochures::BlackBoardFormat* Catalogue::blackboardFormat(Int id) const {
+    return find(blackboardFormats_, id);
+}
+const Brochures::BlackBoardType* Catalogue::blackboardType(Int id) const {
+    return find(blackboardTypes_, id);
+}
+const Brochures::MenuFormatVisualize* Catalogue::menuFormatVisualize(Int id) const {
+    return find(menuFormats_, id);
+}
 const Brochures::MenuWineFormatVisualize* Catalogue::menuWineFormatVisualize(Int id) const {
     return find(menuWineFormats_, id);
 }
-const Brochures::Price* Catalogue::price(PriceType type) const { return find(prices_, static_cast<Int>(type)); }
-const Brochures::Drink* Catalogue::drink(Int id) const { return find(drinks_, id); }
-const Textile::Item* Catalogue::textileItem(Int id) const { return find(textileItems_, id); }
+const Brochures::Price* Catalogue::price(PriceType type) const {
+    return find(prices_, static_cast<Int>(type));
+}
+const Brochures::Drink* Catalogue::drink(Int id) const {
+    return find(drinks_, id);
+}
+const Textile::Item* Catalogue::textileItem(Int id) const {
+    return find(textileItems_, id);
+}
 
 void Catalogue::addProduct(Product product) {
     information_.products.push_back(std::move(product));

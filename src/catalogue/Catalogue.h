@@ -9,8 +9,9 @@
 
 namespace kavor {
 
-// The catalogue with an index of every list that is looked up by id. An id that occurs twice means its first record.
-// Look-ups are constant time; pointers live as long as the catalogue and until the next change of its products.
+// The catalogue with an index of every list that is looked up by id. An id that occurs twice means its first
+// record. Look-ups are constant time; pointers live as long as the catalogue and until the next change of its
+// products.
 class Catalogue {
 public:
     explicit Catalogue(ApplicationInformation information);

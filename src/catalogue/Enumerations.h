@@ -6,8 +6,8 @@
 #include <optional>
 #include <string_view>
 
-// The integer enumerations that documents share. The values are the numbers on the wire; a number outside a table
-// does not decode.
+// The integer enumerations that documents share. The values are the numbers on the wire; a number outside a
+// table does not decode.
 namespace kavor {
 
 // The kind of an order in the order list and in order files ("application_type_id").

@@ -25,8 +25,12 @@ SectionIdentifier sectionOf(const SaveTextileOrder& order) {
     return SectionIdentifier::textile(order.orderInformation.applicationType);
 }
 
-void keep(DraftOrderRow& row, SaveBrochuresOrder order) { row.brochureOrder = std::move(order); }
-void keep(DraftOrderRow& row, SaveTextileOrder order) { row.textileOrder = std::move(order); }
+void keep(DraftOrderRow& row, SaveBrochuresOrder order) {
+    row.brochureOrder = std::move(order);
+}
+void keep(DraftOrderRow& row, SaveTextileOrder order) {
+    row.textileOrder = std::move(order);
+}
 
 template <class Order>
 void appendFiles(std::vector<DraftOrderRow>& rows, const OrderDiskManager& orders, DirectoryName directory) {
@@ -93,7 +97,8 @@ void DraftOrderRows::applyAnswer(const OrderList& answer) {
     forgetFormerAnswer();
     const auto isSent = [](const auto& order) { return order.stateId != OrderState::cloud; };
     if (answer.orders)
-        std::copy_if(answer.orders->begin(), answer.orders->end(), std::back_inserter(sentBrochureOrders_), isSent);
+        std::copy_if(answer.orders->begin(), answer.orders->end(), std::back_inserter(sentBrochureOrders_),
+                     isSent);
     if (answer.textileOrders)
         std::copy_if(answer.textileOrders->begin(), answer.textileOrders->end(),
                      std::back_inserter(sentTextileOrders_), isSent);
@@ -106,7 +111,8 @@ void DraftOrderRows::applyAnswer(const OrderList& answer) {
 
 // A search asks again without new local rows: what the last answer brought must not show twice.
 void DraftOrderRows::forgetFormerAnswer() {
-    std::erase_if(draftsOrderList_, [](const DraftOrderRow& row) { return row.syncState == OrderSyncState::cloud; });
+    std::erase_if(draftsOrderList_,
+                  [](const DraftOrderRow& row) { return row.syncState == OrderSyncState::cloud; });
     for (DraftOrderRow& row : draftsOrderList_) {
         row.brochureServerOrder.reset();
         row.textileServerOrder.reset();
@@ -136,7 +142,8 @@ void DraftOrderRows::mergeLocalRows(const OrderList& answer) {
     for (DraftOrderRow& row : draftsOrderList_) {
         if (row.syncState != OrderSyncState::savedLocally)
             continue;
-        const auto id = row.brochureOrder ? row.brochureOrder->orderIdentifier : row.textileOrder->orderIdentifier;
+        const auto id =
+            row.brochureOrder ? row.brochureOrder->orderIdentifier : row.textileOrder->orderIdentifier;
         if (!id)
             continue;
         if (row.brochureOrder) {
@@ -182,6 +189,8 @@ void DraftOrderRows::sortSentOrders() {
     sortNewestFirst(sentTextileOrders_);
 }
 
-void DraftOrderRows::sortRows() { sortNewestFirst(draftsOrderList_); }
+void DraftOrderRows::sortRows() {
+    sortNewestFirst(draftsOrderList_);
+}
 
 } // namespace kavor

@@ -26,15 +26,17 @@ struct DraftOrderRow {
     [[nodiscard]] std::optional<Int> serverId() const;
 };
 
-// The lists behind the order screen: drafts of the device merged with the server's cloud orders, and the orders sent.
+// The lists behind the order screen: drafts of the device merged with the server's cloud orders, and the
+// orders sent.
 class DraftOrderRows {
 public:
-    // Makes the rows from the files of the draft and outbox folders, brochures before textile orders, newest first.
-    // A listed file that can't be read stops the process.
+    // Makes the rows from the files of the draft and outbox folders, brochures before textile orders, newest
+    // first. A listed file that can't be read stops the process.
     void rebuildLocalRows(const OrderDiskManager& orders);
 
-    // Takes in the server's answer: orders sent go to the sent lists, cloud orders become rows; a local row and the
-    // server's order of the same id become one "synced" row. A cloud order without a file name stops the process.
+    // Takes in the server's answer: orders sent go to the sent lists, cloud orders become rows; a local row
+    // and the server's order of the same id become one "synced" row. A cloud order without a file name stops
+    // the process.
     void applyAnswer(const OrderList& answer);
 
     // Empties the sent lists.
@@ -43,9 +45,13 @@ public:
     void sortSentOrders();
 
     [[nodiscard]] const std::vector<DraftOrderRow>& draftsOrderList() const { return draftsOrderList_; }
-    [[nodiscard]] const std::vector<OrderList::Order>& sentBrochureOrders() const { return sentBrochureOrders_; }
+    [[nodiscard]] const std::vector<OrderList::Order>& sentBrochureOrders() const {
+        return sentBrochureOrders_;
+    }
     // Kept, and shown nowhere: a textile order that was sent has no row.
-    [[nodiscard]] const std::vector<OrderList::OrderTextile>& sentTextileOrders() const { return sentTextileOrders_; }
+    [[nodiscard]] const std::vector<OrderList::OrderTextile>& sentTextileOrders() const {
+        return sentTextileOrders_;
+    }
     [[nodiscard]] const OrderList::Summary& summary() const { return summary_; }
 
 private:

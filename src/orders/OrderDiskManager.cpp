@@ -16,7 +16,8 @@ namespace kavor {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> recordNames{"SellingSheetOrder", "SaveBrochuresOrder", "SaveTextileOrder"};
+constexpr std::array<std::string_view, 3> recordNames{"SellingSheetOrder", "SaveBrochuresOrder",
+                                                      "SaveTextileOrder"};
 
 std::string_view directoryText(OrderDiskManager::DirectoryName directory) {
     return directory == OrderDiskManager::DirectoryName::draft ? "draft_orders" : "outbox_orders";
@@ -27,7 +28,8 @@ void logWriteFailure(const std::filesystem::path& path, std::string_view reason)
 }
 
 // The path of an order file, or nothing (logged) for a name that does not name a direct child of the folder.
-std::optional<std::filesystem::path> orderPath(const std::filesystem::path& folder, std::string_view fileName) {
+std::optional<std::filesystem::path> orderPath(const std::filesystem::path& folder,
+                                               std::string_view fileName) {
     auto path = atomic_file::child(folder, fileName);
     if (!path)
         logWriteFailure(folder / std::string(fileName), "the name is no file name");

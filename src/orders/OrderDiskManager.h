@@ -15,9 +15,9 @@
 namespace kavor {
 
 // Orders that aren't finished or can't be sent yet, as files in a fixed tree below the documents folder:
-// orders/draft_orders|outbox_orders/<record name>/<plain name>.zvo. A file's name is the order's identity on the
-// device. "Plain name" means without the extension, "file name" with it; the asymmetry of the operations is meant.
-// Exists for SaveBrochuresOrder, SaveTextileOrder and SellingSheetOrder.
+// orders/draft_orders|outbox_orders/<record name>/<plain name>.zvo. A file's name is the order's identity on
+// the device. "Plain name" means without the extension, "file name" with it; the asymmetry of the operations
+// is meant. Exists for SaveBrochuresOrder, SaveTextileOrder and SellingSheetOrder.
 class OrderDiskManager {
 public:
     enum class DirectoryName { draft, outbox };
@@ -39,17 +39,19 @@ public:
 
     template <class Order>
     [[nodiscard]] bool exists(std::string_view plainName, DirectoryName directory) const;
-    // False, and nothing written, when the file exists, or when the order can't be encoded or written (logged).
+    // False, and nothing written, when the file exists, or when the order can't be encoded or written
+    // (logged).
     template <class Order>
     bool create(const Order& order, DirectoryName directory, std::string_view plainName) const;
     // False, and nothing written, when the file doesn't exist; else like create.
     template <class Order>
     bool update(const Order& order, std::string_view fileName, DirectoryName directory) const;
-    // Nothing when the file is missing, unreadable or undecodable (logged). An undecodable textile or selling sheet
-    // file that is well-formed JSON stops the process: only the application writes them.
+    // Nothing when the file is missing, unreadable or undecodable (logged). An undecodable textile or selling
+    // sheet file that is well-formed JSON stops the process: only the application writes them.
     template <class Order>
     [[nodiscard]] std::optional<Order> retrieve(std::string_view fileName, DirectoryName directory) const;
-    // The files with the extension, in the order of the file system; the process stops when the folder can't be read.
+    // The files with the extension, in the order of the file system; the process stops when the folder can't
+    // be read.
     template <class Order>
     [[nodiscard]] std::vector<Listing> list(DirectoryName directory) const;
     // Removes a file; a failure is logged. Answers whether the file is gone.

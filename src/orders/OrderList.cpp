@@ -7,8 +7,9 @@ namespace kavor::json {
 template <>
 struct Table<OrderList::Summary> {
     using R = OrderList::Summary;
-    static constexpr auto fields = std::tuple{optional("total", &R::total), optional("sin_confirmar", &R::noConfirm),
-                                              optional("sin_completar", &R::noComplete)};
+    static constexpr auto fields =
+        std::tuple{optional("total", &R::total), optional("sin_confirmar", &R::noConfirm),
+                   optional("sin_completar", &R::noComplete)};
 };
 
 template <>
@@ -54,8 +55,9 @@ struct Table<OrderList::OrderTextile> {
 template <>
 struct Table<OrderList> {
     using R = OrderList;
-    static constexpr auto fields = std::tuple{required("resumen", &R::summary), optional("pedidos", &R::orders),
-                                              optional("pedidos_textil", &R::textileOrders)};
+    static constexpr auto fields =
+        std::tuple{required("resumen", &R::summary), optional("pedidos", &R::orders),
+                   optional("pedidos_textil", &R::textileOrders)};
 };
 
 } // namespace kavor::json

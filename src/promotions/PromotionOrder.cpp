@@ -13,7 +13,8 @@ struct Table<PromotionOrder::Email> {
 template <>
 struct Table<PromotionOrder::Support> {
     using R = PromotionOrder::Support;
-    static constexpr auto fields = std::tuple{required("id", &R::id), required("language_id", &R::languageId)};
+    static constexpr auto fields =
+        std::tuple{required("id", &R::id), required("language_id", &R::languageId)};
 };
 
 template <>

@@ -7,11 +7,14 @@ namespace kavor::json {
 template <>
 struct Table<SellingSheetOrder::Item> {
     using R = SellingSheetOrder::Item;
-    static constexpr auto fields =
-        std::tuple{required("id", &R::identifier),         optional("code_promotion", &R::promotionCode),
-                   required("position", &R::position),     required("product1_id", &R::productIdentifier1),
-                   required("product1_box", &R::productBox1), optional("product2_id", &R::productIdentifier2),
-                   optional("product2_box", &R::productBox2), required("price", &R::price)};
+    static constexpr auto fields = std::tuple{required("id", &R::identifier),
+                                              optional("code_promotion", &R::promotionCode),
+                                              required("position", &R::position),
+                                              required("product1_id", &R::productIdentifier1),
+                                              required("product1_box", &R::productBox1),
+                                              optional("product2_id", &R::productIdentifier2),
+                                              optional("product2_box", &R::productBox2),
+                                              required("price", &R::price)};
 };
 
 template <>
@@ -49,8 +52,8 @@ struct Table<SellingSheetOrderListResponse> {
 template <>
 struct Table<GenericOrderResponse> {
     using R = GenericOrderResponse;
-    static constexpr auto fields =
-        std::tuple{optional("errors", &R::errors), optional("url", &R::PDFURL), optional("order_id", &R::orderIdentifier)};
+    static constexpr auto fields = std::tuple{optional("errors", &R::errors), optional("url", &R::PDFURL),
+                                              optional("order_id", &R::orderIdentifier)};
 };
 
 } // namespace kavor::json

@@ -11,7 +11,8 @@
 
 namespace kavor {
 
-// A selling sheet: the draft, the body of "sellingSheetOrderSendURL" and a record of the server's list at once.
+// A selling sheet: the draft, the body of "sellingSheetOrderSendURL" and a record of the server's list at
+// once.
 struct SellingSheetOrder {
     // A module of the sheet.
     struct Item {

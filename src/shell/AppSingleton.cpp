@@ -36,7 +36,8 @@ void AppSingleton::setFolders(std::filesystem::path documents, std::filesystem::
 
 bool AppSingleton::restoreSession() {
     loginResult = state_file::read<LoginResult>(documentsFolder_, state_file::loginResult);
-    if (auto information = state_file::read<ApplicationInformation>(documentsFolder_, state_file::applicationInformation))
+    if (auto information =
+            state_file::read<ApplicationInformation>(documentsFolder_, state_file::applicationInformation))
         applicationInformation = std::make_shared<const Catalogue>(std::move(*information));
     else
         applicationInformation = nullptr;

@@ -17,7 +17,7 @@ public:
     // The shared instance, made on first use and never released.
     static AppSingleton& shared();
 
-    std::string version;     // of the application, sent with every request
+    std::string version; // of the application, sent with every request
     std::string compilation;
     std::optional<LoginResult> loginResult;
     std::optional<std::string> userEmail;
@@ -34,7 +34,8 @@ public:
 
     // The catalogue; the process stops without one.
     [[nodiscard]] const Catalogue& catalogue() const;
-    // The catalogue for a change (brands added by hand). Whoever still holds the former one keeps it unchanged.
+    // The catalogue for a change (brands added by hand). Whoever still holds the former one keeps it
+    // unchanged.
     [[nodiscard]] Catalogue& catalogueToChange();
 
     // The kind of brochure of the section entered, none outside a brochure section.
@@ -45,11 +46,11 @@ public:
     [[nodiscard]] const std::filesystem::path& cachesFolder() const { return cachesFolder_; }
     void setFolders(std::filesystem::path documents, std::filesystem::path caches);
 
-    // Loads the state files "ZQLOGINRESULT" and "ZQAPPLICATIONINFORMATION". The login result is replaced also with
-    // nothing. Answers whether both are present now.
+    // Loads the state files "ZQLOGINRESULT" and "ZQAPPLICATIONINFORMATION". The login result is replaced also
+    // with nothing. Answers whether both are present now.
     bool restoreSession();
-    // Writes both state files; a write that fails is ignored. The process stops when the catalogue or the login
-    // result is absent.
+    // Writes both state files; a write that fails is ignored. The process stops when the catalogue or the
+    // login result is absent.
     void storeSession() const;
 
 private:

@@ -7,8 +7,8 @@ namespace kavor::json {
 template <>
 struct Table<UserNotification> {
     using R = UserNotification;
-    static constexpr auto fields = std::tuple{required("title", &R::title), optional("description", &R::description),
-                                              optional("image", &R::image)};
+    static constexpr auto fields = std::tuple{
+        required("title", &R::title), optional("description", &R::description), optional("image", &R::image)};
 };
 
 template <>
@@ -45,7 +45,8 @@ struct Table<LoginResult> {
 template <>
 struct Table<AuthCredentials> {
     using R = AuthCredentials;
-    static constexpr auto fields = std::tuple{required("password", &R::password), required("token", &R::token)};
+    static constexpr auto fields =
+        std::tuple{required("password", &R::password), required("token", &R::token)};
 };
 
 } // namespace kavor::json

@@ -15,8 +15,8 @@ struct UserNotification {
     std::optional<std::string> image;
 };
 
-// The answer of "loginURL" and "userInformation": the user's rights. An absent flag is neither true nor false; each
-// reader says what it does then.
+// The answer of "loginURL" and "userInformation": the user's rights. An absent flag is neither true nor
+// false; each reader says what it does then.
 struct LoginResult {
     std::string msg;
     std::optional<Int> userIdentifier;

@@ -4,8 +4,12 @@ namespace kavor {
 
 namespace {
 
-std::string text(BrochureType type) { return "Brochure(" + std::string(caseName(type)) + ")"; }
-std::string text(ApplicationType type) { return "Textile(" + std::string(caseName(type)) + ")"; }
+std::string text(BrochureType type) {
+    return "Brochure(" + std::string(caseName(type)) + ")";
+}
+std::string text(ApplicationType type) {
+    return "Textile(" + std::string(caseName(type)) + ")";
+}
 std::string text(PromotionType type) {
     switch (type) {
     case PromotionType::carteleria:
@@ -17,9 +21,15 @@ std::string text(PromotionType type) {
     }
     return "Promotion";
 }
-std::string text(SectionIdentifier::SellingSheet) { return "SellingSheet"; }
-std::string text(SectionIdentifier::Activations) { return "Activations"; }
-std::string text(SectionIdentifier::Rrss) { return "rrss"; }
+std::string text(SectionIdentifier::SellingSheet) {
+    return "SellingSheet";
+}
+std::string text(SectionIdentifier::Activations) {
+    return "Activations";
+}
+std::string text(SectionIdentifier::Rrss) {
+    return "rrss";
+}
 
 } // namespace
 

@@ -17,7 +17,8 @@ inline constexpr std::string_view applicationInformation = "ZQAPPLICATIONINFORMA
 inline constexpr std::string_view netPrices = "netPrices";
 inline constexpr std::string_view temporalBrochure = "temporalBrochure";
 
-// Reads a state file; a file that is missing or doesn't decode reads as absent. The log names the place of a fault.
+// Reads a state file; a file that is missing or doesn't decode reads as absent. The log names the place of a
+// fault.
 template <class T>
 std::optional<T> read(const std::filesystem::path& folder, std::string_view key) {
     const auto path = folder / std::string(key);

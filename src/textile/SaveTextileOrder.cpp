@@ -7,7 +7,8 @@ namespace kavor::json {
 template <>
 struct Table<SaveTextileOrder::Order::OrderLine> {
     using R = SaveTextileOrder::Order::OrderLine;
-    static constexpr auto fields = std::tuple{required("textil_id", &R::textileId), required("quantity", &R::quantity)};
+    static constexpr auto fields =
+        std::tuple{required("textil_id", &R::textileId), required("quantity", &R::quantity)};
 };
 
 template <>
@@ -47,8 +48,9 @@ struct Table<SaveTextileOrder> {
 template <>
 struct Table<SaveTextileOrderResponse> {
     using R = SaveTextileOrderResponse;
-    static constexpr auto fields = std::tuple{optional("url_pdf", &R::urlPDF), optional("url_order", &R::urlOrder),
-                                              optional("order_id", &R::orderId)};
+    static constexpr auto fields =
+        std::tuple{optional("url_pdf", &R::urlPDF), optional("url_order", &R::urlOrder),
+                   optional("order_id", &R::orderId)};
 };
 
 template <>

@@ -155,7 +155,8 @@ TEST(JsonCorners, DepthCostsAnErrorAndNoMemory) {
 }
 
 TEST(JsonCorners, WhatIsPassedOverMustBeJsonToo) {
-    EXPECT_EQ(reading<Corner>(R"({"x":{"id":"no"},"id ":2,"":3,"\u0069d":7,"y":[[{}]],"n\u006Fte":"escaped keys"})"),
+    EXPECT_EQ(reading<Corner>(
+                  R"({"x":{"id":"no"},"id ":2,"":3,"\u0069d":7,"y":[[{}]],"n\u006Fte":"escaped keys"})"),
               R"({"id":7,"note":"escaped keys"})");
     EXPECT_EQ(reading<Corner>(R"({"id":7,"inner":{"b":2}})"), "inner.a: missing");
     for (const char* ignored : {"[1,]", "{\"a\"}", "nul", "\"\\x\"", "1.", "[[]", "18446744073709551616"})

@@ -27,7 +27,8 @@ protected:
     CommandsTest() {
         // The builder names no pictures; a document must.
         std::string document = *json::encode(CatalogueBuilder().information);
-        for (auto at = document.find("\"path\":\"\""); at != std::string::npos; at = document.find("\"path\":\"\""))
+        for (auto at = document.find("\"path\":\"\""); at != std::string::npos;
+             at = document.find("\"path\":\"\""))
             document.insert(at + 8, "p.png");
         put(catalogue, document);
         LoginResult login;
@@ -123,9 +124,9 @@ TEST_F(CommandsTest, NamesTheFileAndThePlaceOfAFault) {
 TEST_F(CommandsTest, ShowsAnOrderToAReader) {
     put(file, *json::encodePretty(fullOrder(BrochureType::menu)));
     const Outcome outcome = kavorctl({"order", "show", file, "--catalogue", catalogue});
-    for (const char* expected : {"Carta de Menú \"Bar Ñandú\"\n", "Local: Bar Ñandú\n", "Idioma: Castellano\n",
-                                 "Nº de cartas (Barra): 20\n", "- Encina\n", "Tercio, 33 cl, Barra 4,25", "destacado",
-                                 "Zumos", "Naranja, Vaso 2,50"})
+    for (const char* expected : {"Carta de Menú \"Bar Ñandú\"\n", "Local: Bar Ñandú\n",
+                                 "Idioma: Castellano\n", "Nº de cartas (Barra): 20\n", "- Encina\n",
+                                 "Tercio, 33 cl, Barra 4,25", "destacado", "Zumos", "Naranja, Vaso 2,50"})
         EXPECT_NE(outcome.out.find(expected), std::string::npos) << expected << "\n" << outcome.out;
 }
 
@@ -148,11 +149,12 @@ TEST_F(CommandsTest, MergesAFolderWithAStoredAnswer) {
          "name_archive_tablet":"Local","token":"t"},
         {"id":9,"fecha":"02-03-2020 10:11:12","can_demand_qr":false,"tipo":"x","tipoId":5,"estado":"x","estadoId":12,
          "name_archive_tablet":"Nube","token":"t"}]})");
-    const Outcome outcome = kavorctl({"orders", "merge", "--local", folder.path(), "--answer", answer, "--catalogue",
-                                      catalogue, "--json"});
+    const Outcome outcome = kavorctl({"orders", "merge", "--local", folder.path(), "--answer", answer,
+                                      "--catalogue", catalogue, "--json"});
     EXPECT_EQ(outcome.status, 0) << outcome.err;
-    EXPECT_NE(outcome.out.find("\"filename\": \"Local\",\n    \"section\": \"Brochure(beer)\",\n    \"serverId\": 8,\n"
-                               "    \"syncState\": \"synced\""),
+    EXPECT_NE(outcome.out.find(
+                  "\"filename\": \"Local\",\n    \"section\": \"Brochure(beer)\",\n    \"serverId\": 8,\n"
+                  "    \"syncState\": \"synced\""),
               std::string::npos)
         << outcome.out;
     EXPECT_NE(outcome.out.find("\"date\": \"02-03-2020 10:11:12\",\n    \"filename\": \"Nube\",\n"

@@ -41,7 +41,8 @@ protected:
                                                    std::chrono::minutes(minutesAgo));
     }
 
-    static OrderList::Order server(Int id, OrderState state, const std::string& name, const std::string& date) {
+    static OrderList::Order server(Int id, OrderState state, const std::string& name,
+                                   const std::string& date) {
         OrderList::Order order;
         order.id = id;
         order.stateId = state;
@@ -71,8 +72,8 @@ TEST_F(DraftOrderRowsTest, ListsTheFilesOfTheDeviceNewestFirst) {
     brochure("Nueva", DirectoryName::outbox, 10);
     textile("Camisetas", 20, std::nullopt);
     rows.rebuildLocalRows(orders);
-    EXPECT_EQ(shown(rows), (Lines{"Nueva Guardado local", "Nueva Pendiente de envío", "Camisetas Guardado local",
-                                  "Vieja Guardado local"}));
+    EXPECT_EQ(shown(rows), (Lines{"Nueva Guardado local", "Nueva Pendiente de envío",
+                                  "Camisetas Guardado local", "Vieja Guardado local"}));
     EXPECT_EQ(rows.draftsOrderList()[2].sectionIdentifier.text(), "Textile(textil)");
 }
 
@@ -87,8 +88,9 @@ TEST_F(DraftOrderRowsTest, OneOrderInBothPlacesShowsOnceAsSynced) {
                      server(42, OrderState::cloud, "solo nube", "01-01-2021 10:00:00"),
                      server(43, OrderState::sent, "enviada", "01-01-2022 10:00:00")};
     rows.applyAnswer(answer);
-    const Lines expected{"Bar Nube Sincronizado 41", "Sin servidor Guardado local", "En salida Pendiente de envío",
-                         "Bar Nube Guardado local", "solo nube En la nube 42"};
+    const Lines expected{"Bar Nube Sincronizado 41", "Sin servidor Guardado local",
+                         "En salida Pendiente de envío", "Bar Nube Guardado local",
+                         "solo nube En la nube 42"};
     EXPECT_EQ(shown(rows), expected);
     EXPECT_EQ(rows.sentBrochureOrders().size(), 1U);
 
@@ -128,7 +130,8 @@ TEST_F(DraftOrderRowsTest, StopsForAFileThatCannotBeReadAndForACloudOrderWithout
     answer.orders = {server(7, OrderState::cloud, "", "01-01-2020 10:00:00")};
     answer.orders->front().filename.reset();
     EXPECT_EXIT(rows.applyAnswer(answer), ::testing::ExitedWithCode(stoppedExitStatus), "cloud order 7");
-    ASSERT_TRUE(atomic_file::write(folder.path() / "orders/draft_orders/SaveBrochuresOrder/rota.zvo", "{\"save\":"));
+    ASSERT_TRUE(
+        atomic_file::write(folder.path() / "orders/draft_orders/SaveBrochuresOrder/rota.zvo", "{\"save\":"));
     EXPECT_EXIT(rows.rebuildLocalRows(orders), ::testing::ExitedWithCode(stoppedExitStatus), "rota.zvo");
 }
 

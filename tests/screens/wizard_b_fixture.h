@@ -36,6 +36,8 @@ protected:
 };
 
 // Several texts as one, to compare in one line.
-inline std::string joined(const QStringList& texts) { return texts.join(QStringLiteral(" | ")).toStdString(); }
+inline std::string joined(const QStringList& texts) {
+    return texts.join(QStringLiteral(" | ")).toStdString();
+}
 
 } // namespace kavor

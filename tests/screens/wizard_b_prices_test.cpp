@@ -46,8 +46,8 @@ protected:
     }
     [[nodiscard]] std::string shown(int role) const { return joined(column(*step->table(), role)); }
     [[nodiscard]] std::string pictures() const {
-        return joined({step->orderByBrandPicture(), step->orderByFormatPicture(), step->orderByPrimaryPicture(),
-                       step->orderBySecondaryPicture()});
+        return joined({step->orderByBrandPicture(), step->orderByFormatPicture(),
+                       step->orderByPrimaryPicture(), step->orderBySecondaryPicture()});
     }
 };
 
@@ -72,8 +72,8 @@ TEST_F(PriceStep, TakesRowAndColumnFromTheTagOfAField) {
         PriceType type;
     };
     const Case cases[] = {
-        {false, 100, 11, 110, PriceType::main},  {false, 101, 11, 111, PriceType::main},
-        {false, 103, 10, 101, PriceType::main},  {true, 100, 11, 110, PriceType::main},
+        {false, 100, 11, 110, PriceType::main},   {false, 101, 11, 111, PriceType::main},
+        {false, 103, 10, 101, PriceType::main},   {true, 100, 11, 110, PriceType::main},
         {true, 101, 11, 110, PriceType::terrace}, {true, 103, 11, 111, PriceType::terrace},
         {true, 106, 10, 101, PriceType::main},
     };
@@ -82,7 +82,8 @@ TEST_F(PriceStep, TakesRowAndColumnFromTheTagOfAField) {
         step->priceFieldDidEndEditing(each.tag, "9,75");
         EXPECT_EQ(draft().priceOf(each.type, each.format, each.brand), 9.75) << each.second << each.tag;
         const int role = each.type == PriceType::main ? Table::PrimaryTextRole : Table::SecondaryTextRole;
-        EXPECT_EQ(step->table()->data(step->table()->index(each.second ? (each.tag - 100) / 2 : each.tag - 100), role),
+        EXPECT_EQ(step->table()->data(
+                      step->table()->index(each.second ? (each.tag - 100) / 2 : each.tag - 100), role),
                   QString("9,75\u00a0€"));
     }
     // Tags outside the table touch nothing.
@@ -98,13 +99,18 @@ TEST_F(PriceStep, ShowsZeroAndKeepsTheOldPriceForWhatIsNoNumber) {
         const char* shown;
         double price;
     };
-    const Case cases[] = {{"3,5", "3,50\u00a0€", 3.5}, {"4.25", "4,25\u00a0€", 4.25}, {"0", "0,00\u00a0€", 0},
-                          {"", "0,00\u00a0€", 3.0},    {"tres", "0,00\u00a0€", 3.0}};
+    const Case cases[] = {{"3,5", "3,50\u00a0€", 3.5},
+                          {"4.25", "4,25\u00a0€", 4.25},
+                          {"0", "0,00\u00a0€", 0},
+                          {"", "0,00\u00a0€", 3.0},
+                          {"tres", "0,00\u00a0€", 3.0}};
     for (const Case& each : cases) {
         openWithAll();
         step->priceFieldDidEndEditing(100, QString::fromUtf8(each.typed));
-        EXPECT_EQ(step->table()->data(step->table()->index(0), Table::PrimaryTextRole).toString().toStdString(),
-                  each.shown) << each.typed;
+        EXPECT_EQ(
+            step->table()->data(step->table()->index(0), Table::PrimaryTextRole).toString().toStdString(),
+            each.shown)
+            << each.typed;
         EXPECT_EQ(draft().priceOf(PriceType::main, 110, 11), each.price) << each.typed;
     }
     EXPECT_EQ(Table::editForm("1.234,50\u00a0€"), "1234,5");
@@ -134,7 +140,8 @@ TEST_F(PriceStep, SortsByItsButtonsAndPaintsTheirPictures) {
          "sort_descendant | sort_both | sort_descendant | sort_both"},
         {&Step::orderByFormatButton, "Roble Caña | Encina Jarra | Encina Tercio | Roble Tercio",
          "sort_both | sort_ascendant | sort_both | sort_both"},
-        {&Step::orderByBrandButton, byPosition, "sort_both | sort_both | sort_both | sort_both"}, // its status stayed
+        {&Step::orderByBrandButton, byPosition,
+         "sort_both | sort_both | sort_both | sort_both"}, // its status stayed
     };
     int number = 0;
     for (const Press& press : presses) {
@@ -169,7 +176,8 @@ TEST_F(PriceStep, ProposesTheDefaultHighlightOnceInTheLifeOfADraft) {
         draft().setFormatSelected(true, format, 11);
     draft().setFormatSelected(true, 100, 10);
     appear();
-    EXPECT_EQ(alert(), "Atención | " + std::string(reminder) + "\nSe ha seleccionado Roble - Tercio por defecto.");
+    EXPECT_EQ(alert(),
+              "Atención | " + std::string(reminder) + "\nSe ha seleccionado Roble - Tercio por defecto.");
     dismissAlert();
     auto& zone = *step->highlight();
     EXPECT_EQ(zone.currentIndex(), 3);
@@ -207,7 +215,9 @@ TEST_F(PriceStep, CountsThePlacesThatAHighlightNeeds) {
         {10, 0, 10, false, ""},
     };
     for (int i = 0; i < 10; ++i)
-        builder.brand(200 + i, "Marca " + std::to_string(i)).format(2000 + i, "Caña", 2.0).format(3000 + i, "Tubo", 2.0);
+        builder.brand(200 + i, "Marca " + std::to_string(i))
+            .format(2000 + i, "Caña", 2.0)
+            .format(3000 + i, "Tubo", 2.0);
     for (const Case& each : cases) {
         builder.parameters(BrochureType::beer).maxBrandSelection = each.maximum;
         builder.parameters(BrochureType::beer).highLightedNumber = each.places;
@@ -223,7 +233,8 @@ TEST_F(PriceStep, CountsThePlacesThatAHighlightNeeds) {
         const auto& zone = *step->highlight();
         const bool room = *each.text == '\0';
         EXPECT_EQ(zone.informationCarouselLabel().toStdString(),
-                  room ? "Seleccione el producto que desee destacar" : each.text) << each.brands;
+                  room ? "Seleccione el producto que desee destacar" : each.text)
+            << each.brands;
         EXPECT_EQ(zone.isCarouselEnabled(), room);
         EXPECT_EQ(zone.isFirstInformationVisible(), !room);
     }
@@ -290,12 +301,15 @@ TEST_F(PriceStep, OffersToLeaveThePricesOutUnlessTheKindRequiresThem) {
     openWithAll(PriceType::terrace);
     EXPECT_TRUE(step->isWithoutPriceVisible());
     EXPECT_EQ(step->withoutPriceLabel(), "Carta de Cervezas sin precios");
-    EXPECT_EQ(step->withoutPriceInfoLabel(), "Marca esta opción para que la Carta de Cervezas no lleve precios");
-    EXPECT_TRUE(step->isPrimaryPriceVisible() && step->isSecondaryPriceVisible() && step->isOrderBySecondaryVisible());
+    EXPECT_EQ(step->withoutPriceInfoLabel(),
+              "Marca esta opción para que la Carta de Cervezas no lleve precios");
+    EXPECT_TRUE(step->isPrimaryPriceVisible() && step->isSecondaryPriceVisible() &&
+                step->isOrderBySecondaryVisible());
     step->withoutPriceSwitchChanged(true);
     EXPECT_TRUE(draft().withoutPriceBeer);
     EXPECT_TRUE(temporaryCopy()->menu.withoutPriceBeer);
-    EXPECT_FALSE(step->isPrimaryPriceVisible() || step->isSecondaryPriceVisible() || step->isOrderBySecondaryVisible());
+    EXPECT_FALSE(step->isPrimaryPriceVisible() || step->isSecondaryPriceVisible() ||
+                 step->isOrderBySecondaryVisible());
     appear();
     dismissAlert();
     EXPECT_TRUE(step->withoutPriceSwitch());

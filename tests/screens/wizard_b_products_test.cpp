@@ -65,7 +65,7 @@ TEST_F(ProductStep, ListsTheFamilyInCatalogueOrderAndAppliesAllFiltersTogether) 
         {true, 0, "ambar", "Ámbar Doble"},
         {true, 2, "ambar", ""},
         {false, 2, "ambar", "Ambarina"},
-        {false, 0, "ámbar-¿", ""},      // what stays of the text is "ambar-"
+        {false, 0, "ámbar-¿", ""},                                   // what stays of the text is "ambar-"
         {false, 0, "¿¡", "Encina | Roble | Ámbar Doble | Ambarina"}, // nothing stays of it
     };
     for (const Case& each : cases) {
@@ -139,7 +139,9 @@ TEST_F(ProductStep, CountsBrandsOfTheFamilyAgainstTheLimits) {
     step->toggleFormat(0, 111);
     EXPECT_EQ(step->currentNumberOfSelections(), 4);
     EXPECT_EQ(step->refusal(), "");
-    EXPECT_EQ(step->brandsList()->data(step->brandsList()->index(0), Model::SelectedFormatsRole).toList().size(), 2);
+    EXPECT_EQ(
+        step->brandsList()->data(step->brandsList()->index(0), Model::SelectedFormatsRole).toList().size(),
+        2);
     const auto stored = temporaryCopy();
     ASSERT_TRUE(stored);
     EXPECT_EQ(stored->menu.beerBrands.size(), 5u);
@@ -181,8 +183,10 @@ TEST_F(ProductStep, ExplainsTheHighlightOnlyWhereTheKindHasOne) {
         {true, 0, 10,
          " En la pantalla Precios Recomendados podrás destacar una de las referencias que selecciones."},
         {true, 2, 10,
-         " En la pantalla Precios Recomendados podrás destacar una de las referencias que selecciones. El destacado "
-         "ocupa 2 marcas, por lo que si quieres añadir un destacado podrás seleccionar como máximo 8 marcas."},
+         " En la pantalla Precios Recomendados podrás destacar una de las referencias que selecciones. El "
+         "destacado "
+         "ocupa 2 marcas, por lo que si quieres añadir un destacado podrás seleccionar como máximo 8 "
+         "marcas."},
     };
     for (const Case& each : cases) {
         auto& parameters = builder.parameters(BrochureType::beer);
@@ -190,7 +194,8 @@ TEST_F(ProductStep, ExplainsTheHighlightOnlyWhereTheKindHasOne) {
         parameters.highLightedNumber = each.places;
         parameters.maxBrandSelection = each.maximum;
         show();
-        const std::string own = "Selecciona las marcas y los formatos que aparecerán en tu Carta de Cervezas.";
+        const std::string own =
+            "Selecciona las marcas y los formatos que aparecerán en tu Carta de Cervezas.";
         EXPECT_EQ(step->informationLabel().toStdString(), own + each.tail);
     }
 }
@@ -227,7 +232,8 @@ TEST_F(NewBrand, WantsItsFourObligatoryFields) {
     EXPECT_EQ(joined(form.brandSegmentList()), "Sin seleccionar | De siempre");
     for (const char* missing : {"name", "typology", "taste", "segment"}) {
         fill("Cierva");
-        form.setProperty(missing, form.property(missing).typeId() == QMetaType::QString ? QVariant("  ") : QVariant(0));
+        form.setProperty(missing, form.property(missing).typeId() == QMetaType::QString ? QVariant("  ")
+                                                                                        : QVariant(0));
         step->createNewBrandBtn();
         EXPECT_EQ(alert(), "Atención | Se han de informar todos los campos obligatorios *") << missing;
         alerts.answerButton(0);

@@ -116,8 +116,17 @@ TEST_F(StyleStep, AsksForTheQuantitiesAsTheKindSays) {
     const Case cases[] = {
         {BrochureType::beer, {}, false, "Nº de cartas*", "", {30, std::nullopt}},
         {BrochureType::beer, {}, true, "Barra PVP recomendado*", "Nº de cartas 2º PVP recomendado*", {30, 7}},
-        {BrochureType::chalkboard, {}, true, "Barra PVP recomendado*", "Nº de pizarras 2º PVP recomendado*", {30, 7}},
-        {BrochureType::mantel, {25, 50, 75}, true, "Barra PVP recomendado*", "Nº de manteles 2º PVP recomendado*",
+        {BrochureType::chalkboard,
+         {},
+         true,
+         "Barra PVP recomendado*",
+         "Nº de pizarras 2º PVP recomendado*",
+         {30, 7}},
+        {BrochureType::mantel,
+         {25, 50, 75},
+         true,
+         "Barra PVP recomendado*",
+         "Nº de manteles 2º PVP recomendado*",
          {50, 75}},
     };
     for (const Case& each : cases) {
@@ -158,7 +167,8 @@ TEST_F(StyleStep, OffersTheQrMaterialOfTheSelectedBrandsInTheDigitalSection) {
     limits.lstMenuQrTacoQuantity = {5, 6};
     auto& qrs = builder.brochures().brandQrs;
     constexpr auto beer = ApplicationFather::orderBeer;
-    qrs = {{1, 1, "Encina", resource("e"), resource("et"), 11, beer}, {2, 2, "Roble", resource("r"), resource("rt"), 10, beer},
+    qrs = {{1, 1, "Encina", resource("e"), resource("et"), 11, beer},
+           {2, 2, "Roble", resource("r"), resource("rt"), 10, beer},
            {3, 3, "Tinto", resource("t"), resource("tt"), 12, ApplicationFather::orderWine}};
     for (const bool withTaco : {false, true}) {
         builder.parameters(BrochureType::beer).withTaco = withTaco;
@@ -168,8 +178,8 @@ TEST_F(StyleStep, OffersTheQrMaterialOfTheSelectedBrandsInTheDigitalSection) {
         draft().setFormatSelected(true, 120, 12);
         appear(true);
         auto& form = *step->brandQr();
-        EXPECT_EQ(joined(form.brandQrTypes()), withTaco ? "Vinilos para mesa y puerta | Tacos de madera"
-                                                       : "Vinilos para mesa y puerta");
+        EXPECT_EQ(joined(form.brandQrTypes()),
+                  withTaco ? "Vinilos para mesa y puerta | Tacos de madera" : "Vinilos para mesa y puerta");
         EXPECT_EQ(form.isWooden(), withTaco);
         EXPECT_EQ(form.brands().size(), 1);
         EXPECT_EQ(draft().selectedBrandQrIdentifier, 2);

@@ -75,8 +75,9 @@ TEST_F(OrderSyncManagerTest, QueuesTheCurrentDraftTellsTheUserAndStoresItsNumber
     clock.advance(std::chrono::seconds(1));
     ASSERT_EQ(notifications.posted.size(), 1U);
     EXPECT_EQ(notifications.posted[0].title, QStringLiteral("Borrador Encolado"));
-    EXPECT_EQ(notifications.posted[0].body,
-              QStringLiteral("Su pedido Bar Nube se sincronizará con la nube cuando tenga conexión a internet."));
+    EXPECT_EQ(
+        notifications.posted[0].body,
+        QStringLiteral("Su pedido Bar Nube se sincronizará con la nube cuando tenga conexión a internet."));
 
     services.requests.saveOrder.succeed(stored(77));
     EXPECT_EQ(storedIdentifier("Bar Nube"), 77);
@@ -88,7 +89,8 @@ TEST_F(OrderSyncManagerTest, QueuesTheCurrentDraftTellsTheUserAndStoresItsNumber
     EXPECT_EQ(notifications.posted[1].category, QLatin1String(OrderSyncManager::notificationCategory));
 
     bool reloaded = false;
-    const auto subscription = center.observe(notification::reloadOrders, [&](const auto&) { reloaded = true; });
+    const auto subscription =
+        center.observe(notification::reloadOrders, [&](const auto&) { reloaded = true; });
     emit notifications.tapped(QStringLiteral("show"), {{QStringLiteral("orderId"), QStringLiteral("77")}});
     EXPECT_EQ(listShown, 0) << "an id that is no integer opens nothing";
     emit notifications.tapped(QStringLiteral("show"), notifications.posted[1].userInfo);
@@ -109,9 +111,11 @@ TEST_F(OrderSyncManagerTest, GoesBackToTheDefaultSessionOnFailureAndOnExpiry) {
 TEST_F(OrderSyncManagerTest, AnOrderWithoutANameStopsTheProcessOnceItIsStored) {
     saveInFront();
     clock.advance(std::chrono::seconds(1));
-    EXPECT_EQ(notifications.posted.at(0).body,
-              QStringLiteral("Su pedido sin nombre se sincronizará con la nube cuando tenga conexión a internet."));
-    EXPECT_EXIT(services.requests.saveOrder.succeed(stored(1)), ::testing::ExitedWithCode(stoppedExitStatus), "file name");
+    EXPECT_EQ(
+        notifications.posted.at(0).body,
+        QStringLiteral("Su pedido sin nombre se sincronizará con la nube cuando tenga conexión a internet."));
+    EXPECT_EXIT(services.requests.saveOrder.succeed(stored(1)), ::testing::ExitedWithCode(stoppedExitStatus),
+                "file name");
 }
 
 TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServer) {
@@ -121,8 +125,10 @@ TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServ
     draft("ya en la nube", 5);
     manager.scheduleBrochureSync();
     std::optional<bool> outcome;
-    auto task = tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
-    EXPECT_TRUE(tasks.pending.contains(QLatin1String(OrderSyncManager::taskIdentifier))) << "the next run is planned";
+    auto task =
+        tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
+    EXPECT_TRUE(tasks.pending.contains(QLatin1String(OrderSyncManager::taskIdentifier)))
+        << "the next run is planned";
     ASSERT_EQ(services.requests.saveOrder.calls.size(), 2U);
     services.requests.saveOrder.succeed(stored(11));
     services.requests.saveOrder.succeed(stored(12));
@@ -139,7 +145,8 @@ TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServ
 
 TEST_F(OrderSyncManagerTest, ARunWithoutDraftsEndsOnlyByExpiryAndABrokenDraftStopsIt) {
     std::optional<bool> outcome;
-    auto task = tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
+    auto task =
+        tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
     EXPECT_TRUE(waitFor([&] { return !outcome; }));
     task->expire();
     EXPECT_EQ(outcome, false);

@@ -16,7 +16,9 @@ namespace kavor {
 
 namespace {
 
-void fail(const QString& text) { throw TouchFailure(text.toStdString()); }
+void fail(const QString& text) {
+    throw TouchFailure(text.toStdString());
+}
 
 // Visits the visible items from the top of the stack down; the visitor answers whether to go on.
 bool visit(QQuickItem* item, const std::function<bool(QQuickItem*)>& visitor) {
@@ -30,9 +32,13 @@ bool visit(QQuickItem* item, const std::function<bool(QQuickItem*)>& visitor) {
     return visitor(item);
 }
 
-QPointF middle(const QQuickItem* item) { return item->mapToScene({item->width() / 2, item->height() / 2}); }
+QPointF middle(const QQuickItem* item) {
+    return item->mapToScene({item->width() / 2, item->height() / 2});
+}
 
-bool isFlickable(const QQuickItem* item) { return item->inherits("QQuickFlickable"); }
+bool isFlickable(const QQuickItem* item) {
+    return item->inherits("QQuickFlickable");
+}
 
 } // namespace
 
@@ -51,7 +57,9 @@ QQuickItem* TouchDriver::find(const QString& name) const {
     return found;
 }
 
-bool TouchDriver::isShown(const QString& name) const { return find(name) != nullptr; }
+bool TouchDriver::isShown(const QString& name) const {
+    return find(name) != nullptr;
+}
 
 void TouchDriver::waitUntil(const QString& what, const std::function<bool()>& condition) {
     QElapsedTimer timer;
@@ -149,13 +157,16 @@ void TouchDriver::keys(const QString& text) {
     QTest::qWait(1);
 }
 
-void TouchDriver::key(int key) { QTest::keyClick(&window_, static_cast<Qt::Key>(key)); }
+void TouchDriver::key(int key) {
+    QTest::keyClick(&window_, static_cast<Qt::Key>(key));
+}
 
 void TouchDriver::type(const QString& name, const QString& text) {
     tap(name);
     waitUntil(QStringLiteral("the keyboard in \"%1\"").arg(name), [&] {
         const QQuickItem* focused = window_.activeFocusItem();
-        return focused != nullptr && focused->inherits("QQuickTextInput") | focused->inherits("QQuickTextEdit");
+        return focused != nullptr &&
+               focused->inherits("QQuickTextInput") | focused->inherits("QQuickTextEdit");
     });
     QTest::keyClick(&window_, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&window_, Qt::Key_Delete);
@@ -169,7 +180,8 @@ QString TouchDriver::text(const QString& name, const char* property) {
 QString TouchDriver::allTexts(QQuickItem* below) const {
     std::vector<std::pair<QPointF, QString>> texts;
     visit(below != nullptr ? below : window_.contentItem(), [&](QQuickItem* item) {
-        if (item->inherits("QQuickText") || item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
+        if (item->inherits("QQuickText") || item->inherits("QQuickTextInput") ||
+            item->inherits("QQuickTextEdit")) {
             const QString text = item->property("text").toString();
             if (!text.isEmpty())
                 texts.emplace_back(item->mapToScene({0, 0}), text);

@@ -20,9 +20,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Drives a real window as a person does: finds items by their names, brings them into view, touches them, types with
-// the keyboard, and waits for what should happen. Whatever does not happen in time throws a TouchFailure that says what
-// was waited for.
+// Drives a real window as a person does: finds items by their names, brings them into view, touches them,
+// types with the keyboard, and waits for what should happen. Whatever does not happen in time throws a
+// TouchFailure that says what was waited for.
 class TouchDriver {
 public:
     explicit TouchDriver(QQuickWindow& window);

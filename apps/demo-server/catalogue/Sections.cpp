@@ -358,7 +358,7 @@ Json textileSection(std::span<const Brand> brands, PictureBook& book) {
     }
     Json colours = Json::array();
     for (const GarmentColour& colour : garmentColours()) {
-        std::array<char, 8> text{};
+        std::array<char, 16> text{};
         std::snprintf(text.data(), text.size(), "#%06X", unsigned(colour.colour));
         colours.push_back(
             {{"id", colour.id}, {"position", colour.id}, {"name", colour.name}, {"color", text.data()}});

@@ -101,7 +101,7 @@ Bar makeBar(int index) {
     const Town& town = towns[size_t(index) % towns.size()];
     Bar bar;
     bar.id = 300 + index + 1;
-    std::array<char, 8> code{};
+    std::array<char, 16> code{};
     std::snprintf(code.data(), code.size(), "B%04d", index + 1);
     bar.code = code.data();
     bar.name = barNames[size_t(index)];

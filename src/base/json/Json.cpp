@@ -1,21 +1,39 @@
 #include "base/AppFormatter.h"
 #include "base/json/Table.h"
 
+#include <unistd.h>
+
 namespace kavor::json {
 
 Parser::Parser()
     : implementation_(std::make_unique<Implementation>()) {}
 Parser::~Parser() = default;
 
+namespace {
+
+// The parser may read this many bytes behind a document without looking at them. Where they lie in the same
+// page of memory they are there, whoever owns them, and the document need not be copied.
+bool isReadableBehind(std::string_view document) {
+    static const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    const auto end = reinterpret_cast<std::uintptr_t>(document.data() + document.size());
+    return !document.empty() && end % page != 0 && end % page + simdjson::SIMDJSON_PADDING <= page;
+}
+
+} // namespace
+
 Decoded<Element> parse(std::string_view document, const Parser& parser) {
     Element root;
-    const auto error = parser.implementation().parser.parse(document.data(), document.size()).get(root);
+    const bool copy = !isReadableBehind(document);
+    const auto error = parser.implementation().parser.parse(document.data(), document.size(), copy).get(root);
     if (error != simdjson::SUCCESS)
-        return tl::unexpected(Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)});
+        return tl::unexpected(
+            Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)});
     return root;
 }
 
-bool isWellFormed(std::string_view document) { return parse(document, Parser()).has_value(); }
+bool isWellFormed(std::string_view document) {
+    return parse(document, Parser()).has_value();
+}
 
 std::string_view typeName(Element element) {
     switch (element.type()) {
@@ -54,44 +72,16 @@ bool Context::within(std::size_t index) {
     return false;
 }
 
-bool readValue(Element element, std::int64_t& out, Context& context) {
-    if (element.type() == simdjson::dom::element_type::INT64) {
-        out = element.get_int64().value_unsafe();
-        return true;
-    }
+bool refuseInteger(Element element, Context& context) {
     if (element.type() == simdjson::dom::element_type::UINT64)
         return context.fail("integer out of range");
     return context.expected("integer", element);
 }
 
-bool readValue(Element element, std::uint64_t& out, Context& context) {
-    if (element.is_uint64()) {
-        out = element.get_uint64().value_unsafe();
-        return true;
-    }
-    if (element.is_int64())
+bool refuseUnsigned(Element element, Context& context) {
+    if (element.type() == simdjson::dom::element_type::INT64)
         return context.fail("expected an integer of 0 or more");
     return context.expected("integer", element);
-}
-
-bool readValue(Element element, double& out, Context& context) {
-    if (element.get(out) == simdjson::SUCCESS)
-        return true;
-    return context.expected("number", element);
-}
-
-bool readValue(Element element, bool& out, Context& context) {
-    if (element.get(out) == simdjson::SUCCESS)
-        return true;
-    return context.expected("boolean", element);
-}
-
-bool readValue(Element element, std::string& out, Context& context) {
-    std::string_view text;
-    if (element.get(text) != simdjson::SUCCESS)
-        return context.expected("string", element);
-    out.assign(text);
-    return true;
 }
 
 bool readValue(Element element, Url& out, Context& context) {
@@ -123,7 +113,9 @@ bool readKey(std::string_view key, std::string& out, Context&) {
     return true;
 }
 
-std::string keyText(std::int64_t key) { return std::to_string(key); }
+std::string keyText(std::int64_t key) {
+    return std::to_string(key);
+}
 
 void Writer::newLine() {
     text_ += '\n';

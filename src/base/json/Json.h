@@ -1,17 +1,17 @@
 #pragma once
 
-#include <tl/expected.hpp>
-
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <tl/expected.hpp>
 
-// JSON documents in and out of records. A record is a plain struct with one table of its members (Table.h); the
-// functions here exist for every record whose subsystem instantiates them next to its table.
+// JSON documents in and out of records. A record is a plain struct with one table of its members (Table.h);
+// the functions here exist for every record whose subsystem instantiates them next to its table.
 namespace kavor::json {
 
-// Why and where a document does not decode, for example "productos[12].maridaje: expected list, found string".
+// Why and where a document does not decode, for example "productos[12].maridaje: expected list, found
+// string".
 struct Error {
     std::string path; // empty for the document itself
     std::string reason;
@@ -36,8 +36,8 @@ private:
     std::unique_ptr<Implementation> implementation_;
 };
 
-// Reads a whole document strictly: a missing required key, a wrong type or a value outside an enumeration's table
-// anywhere fails the document; unknown keys are ignored. The text is UTF-8.
+// Reads a whole document strictly: a missing required key, a wrong type or a value outside an enumeration's
+// table anywhere fails the document; unknown keys are ignored. The text is UTF-8.
 template <class T>
 Decoded<T> decode(std::string_view document, const Parser& parser);
 template <class T>
@@ -48,8 +48,8 @@ Decoded<T> decode(std::string_view document) {
 // Whether a text is a JSON document at all.
 bool isWellFormed(std::string_view document);
 
-// Keys in the order of the record's table, no blanks; the form of the state files. Fails only for a number that
-// JSON cannot say (infinite or not a number).
+// Keys in the order of the record's table, no blanks; the form of the state files. Fails only for a number
+// that JSON cannot say (infinite or not a number).
 template <class T>
 tl::expected<std::string, Error> encode(const T& value);
 

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <concepts>
 #include <cstdint>
+#include <cstring>
 #include <map>
 #include <optional>
 #include <string>
@@ -21,22 +22,25 @@
 #include <utility>
 #include <vector>
 
-// The tables of records and the code that reads and writes documents by them. Included by the sources that declare
-// tables, not by those that use records. A record's table looks like this:
+// The tables of records and the code that reads and writes documents by them. Included by the sources that
+// declare tables, not by those that use records. A record's table looks like this:
 //
 //   template <> struct Table<Pairing> {
 //       static constexpr auto fields = std::tuple{
-//           required("id", &Pairing::id), required("name", &Pairing::name), optional("note", &Pairing::note)};
+//           required("id", &Pairing::id), required("name", &Pairing::name), optional("note",
+//           &Pairing::note)};
 //   };
 //
 // and an enumeration's like this:
 //
-//   template <> struct Cases<PriceType> { static constexpr std::array values{PriceType::main, PriceType::table}; };
+//   template <> struct Cases<PriceType> { static constexpr std::array values{PriceType::main,
+//   PriceType::table}; };
 namespace kavor::json {
 
 using Element = simdjson::dom::element;
 
-// ---- Tables -------------------------------------------------------------------------------------------------
+// ---- Tables
+// -------------------------------------------------------------------------------------------------
 
 enum class Presence {
     Required,
@@ -61,7 +65,8 @@ constexpr Field<Record, Member> required(std::string_view key, Member Record::*m
     return {key, member, Presence::Required};
 }
 template <class Record, class Member>
-constexpr Field<Record, std::optional<Member>> optional(std::string_view key, std::optional<Member> Record::*member) {
+constexpr Field<Record, std::optional<Member>> optional(std::string_view key,
+                                                        std::optional<Member> Record::*member) {
     return {key, member, Presence::Optional};
 }
 template <class Record>
@@ -69,7 +74,8 @@ constexpr Field<Record, bool> orTrue(std::string_view key, bool Record::*member)
     return {key, member, Presence::OrTrue};
 }
 template <class Record, class Member>
-constexpr Field<Record, std::optional<Member>> writeOnly(std::string_view key, std::optional<Member> Record::*member) {
+constexpr Field<Record, std::optional<Member>> writeOnly(std::string_view key,
+                                                         std::optional<Member> Record::*member) {
     return {key, member, Presence::WriteOnly};
 }
 template <class Record, class Member>
@@ -88,7 +94,8 @@ struct Table;
 template <class Enumeration>
 struct Cases;
 
-// ---- Reading ------------------------------------------------------------------------------------------------
+// ---- Reading
+// ------------------------------------------------------------------------------------------------
 
 // Carries the error up from the place where it was met; every level puts its step in front of the path.
 struct Context {
@@ -123,18 +130,38 @@ struct IsOptional<std::optional<T>> : std::true_type {};
 template <class Record>
 bool readRecord(Element element, Record& out, Context& context);
 
-bool readValue(Element element, std::int64_t& out, Context& context);
-bool readValue(Element element, std::uint64_t& out, Context& context);
-bool readValue(Element element, double& out, Context& context);
-bool readValue(Element element, bool& out, Context& context);
-bool readValue(Element element, std::string& out, Context& context);
+// The faults of values; they answer false.
+bool refuseInteger(Element element, Context& context);
+bool refuseUnsigned(Element element, Context& context);
+
+inline bool readValue(Element element, std::int64_t& out, Context& context) {
+    return element.get(out) == simdjson::SUCCESS || refuseInteger(element, context);
+}
+inline bool readValue(Element element, std::uint64_t& out, Context& context) {
+    return element.get(out) == simdjson::SUCCESS || refuseUnsigned(element, context);
+}
+inline bool readValue(Element element, double& out, Context& context) {
+    return element.get(out) == simdjson::SUCCESS || context.expected("number", element);
+}
+inline bool readValue(Element element, bool& out, Context& context) {
+    return element.get(out) == simdjson::SUCCESS || context.expected("boolean", element);
+}
+inline bool readValue(Element element, std::string& out, Context& context) {
+    std::string_view text;
+    if (element.get(text) != simdjson::SUCCESS)
+        return context.expected("string", element);
+    out.assign(text);
+    return true;
+}
 bool readValue(Element element, Url& out, Context& context);
 bool readValue(Element element, LocalDateTime& out, Context& context);
 // The decimal key of a map.
 bool readKey(std::string_view key, std::int64_t& out, Context& context);
 bool readKey(std::string_view key, std::string& out, Context& context);
 std::string keyText(std::int64_t key);
-inline const std::string& keyText(const std::string& key) { return key; }
+inline const std::string& keyText(const std::string& key) {
+    return key;
+}
 
 template <class T>
 bool readElement(Element element, T& out, Context& context);
@@ -206,8 +233,36 @@ bool readElement(Element element, T& out, Context& context) {
         return readValue(element, out, context);
 }
 
-// The keys of a record with the ways to find them: by what followed the last key in earlier records of the kind, or
-// else by a hash. Documents repeat their order of keys, so one comparison usually does.
+// Compares keys without a call: they are short, and there are millions of them.
+inline bool sameKey(std::string_view a, std::string_view b) {
+    if (a.size() != b.size())
+        return false;
+    const std::size_t size = a.size();
+    const auto sameWord = [&]<class Word>(Word, std::size_t at) {
+        Word left;
+        Word right;
+        std::memcpy(&left, a.data() + at, sizeof left);
+        std::memcpy(&right, b.data() + at, sizeof right);
+        return left == right;
+    };
+    if (size >= 8) {
+        for (std::size_t at = 0; at + 8 < size; at += 8) {
+            if (!sameWord(std::uint64_t(), at))
+                return false;
+        }
+        return sameWord(std::uint64_t(), size - 8);
+    }
+    if (size >= 4)
+        return sameWord(std::uint32_t(), 0) && sameWord(std::uint32_t(), size - 4);
+    for (std::size_t i = 0; i < size; ++i) {
+        if (a[i] != b[i])
+            return false;
+    }
+    return true;
+}
+
+// The keys of a record with the ways to find them: by what followed the last key in earlier records of the
+// kind, or else by a hash. Documents repeat their order of keys, so one comparison usually does.
 template <class Record>
 struct Keys {
     static constexpr std::size_t count = std::tuple_size_v<decltype(Table<Record>::fields)>;
@@ -219,10 +274,12 @@ struct Keys {
         return size;
     }();
 
-    static constexpr auto names = std::apply(
-        [](const auto&... field) { return std::array<std::string_view, count>{field.key...}; }, Table<Record>::fields);
-    static constexpr auto presences = std::apply(
-        [](const auto&... field) { return std::array<Presence, count>{field.presence...}; }, Table<Record>::fields);
+    static constexpr auto names =
+        std::apply([](const auto&... field) { return std::array<std::string_view, count>{field.key...}; },
+                   Table<Record>::fields);
+    static constexpr auto presences =
+        std::apply([](const auto&... field) { return std::array<Presence, count>{field.presence...}; },
+                   Table<Record>::fields);
 
     static constexpr std::size_t hash(std::string_view key) {
         std::uint32_t value = static_cast<std::uint32_t>(key.size()) * 0x9E3779B1U;
@@ -245,7 +302,7 @@ struct Keys {
 
     static std::size_t find(std::string_view key) {
         std::size_t slot = hash(key);
-        while (slots[slot] != none && names[slots[slot]] != key)
+        while (slots[slot] != none && !sameKey(names[slots[slot]], key))
             slot = (slot + 1) & (slotCount - 1);
         return slots[slot];
     }
@@ -255,7 +312,8 @@ struct Keys {
         std::array<std::size_t, count> order{};
         for (std::size_t i = 0; i < count; ++i)
             order[i] = i;
-        std::sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) { return names[a] < names[b]; });
+        std::sort(order.begin(), order.end(),
+                  [](std::size_t a, std::size_t b) { return names[a] < names[b]; });
         return order;
     }();
 };
@@ -315,7 +373,7 @@ bool readRecord(Element element, Record& out, Context& context) {
     std::size_t last = K::none;
     for (const auto [key, value] : object) {
         std::size_t index = follow[last];
-        if (index >= K::count || K::names[index] != key) {
+        if (index >= K::count || !sameKey(K::names[index], key)) {
             index = K::find(key);
             if (index == K::none)
                 continue;
@@ -338,7 +396,8 @@ bool readRecord(Element element, Record& out, Context& context) {
     return true;
 }
 
-// ---- Writing ------------------------------------------------------------------------------------------------
+// ---- Writing
+// ------------------------------------------------------------------------------------------------
 
 // Appends a document to a text, plain or pretty.
 class Writer {
@@ -369,13 +428,27 @@ private:
     int depth_ = 0;
 };
 
-inline bool writeValue(Writer& writer, std::int64_t value) { return writer.integer(value), true; }
-inline bool writeValue(Writer& writer, std::uint64_t value) { return writer.unsignedInteger(value), true; }
-inline bool writeValue(Writer& writer, double value) { return writer.number(value); }
-inline bool writeValue(Writer& writer, bool value) { return writer.boolean(value), true; }
-inline bool writeValue(Writer& writer, const std::string& value) { return writer.string(value), true; }
-inline bool writeValue(Writer& writer, const Url& value) { return writer.string(value.text), true; }
-inline bool writeValue(Writer& writer, const LocalDateTime& value) { return writer.string(value.text()), true; }
+inline bool writeValue(Writer& writer, std::int64_t value) {
+    return writer.integer(value), true;
+}
+inline bool writeValue(Writer& writer, std::uint64_t value) {
+    return writer.unsignedInteger(value), true;
+}
+inline bool writeValue(Writer& writer, double value) {
+    return writer.number(value);
+}
+inline bool writeValue(Writer& writer, bool value) {
+    return writer.boolean(value), true;
+}
+inline bool writeValue(Writer& writer, const std::string& value) {
+    return writer.string(value), true;
+}
+inline bool writeValue(Writer& writer, const Url& value) {
+    return writer.string(value.text), true;
+}
+inline bool writeValue(Writer& writer, const LocalDateTime& value) {
+    return writer.string(value.text()), true;
+}
 
 template <class T>
 bool writeElement(Writer& writer, const T& value);
@@ -449,7 +522,8 @@ bool writeElement(Writer& writer, const T& value) {
     }
 }
 
-// ---- The functions of Json.h --------------------------------------------------------------------------------
+// ---- The functions of Json.h
+// --------------------------------------------------------------------------------
 
 struct Parser::Implementation {
     simdjson::dom::parser parser;

@@ -10,7 +10,8 @@ using Retrieved = RetrieveBrochureOrderListResponse::Order;
 template <>
 struct Table<Retrieved::OrderLine> {
     using R = Retrieved::OrderLine;
-    static constexpr auto fields = std::tuple{required("priceId", &R::priceId), required("quantity", &R::quantity)};
+    static constexpr auto fields =
+        std::tuple{required("priceId", &R::priceId), required("quantity", &R::quantity)};
 };
 
 template <>
@@ -116,9 +117,9 @@ struct Table<Retrieved::Drink::OtherProduct::Price> {
 template <>
 struct Table<Retrieved::Drink::OtherProduct> {
     using R = Retrieved::Drink::OtherProduct;
-    static constexpr auto fields =
-        std::tuple{required("id", &R::id), optional("name", &R::name), optional("description", &R::description),
-                   required("position", &R::position), required("prices", &R::prices)};
+    static constexpr auto fields = std::tuple{
+        required("id", &R::id), optional("name", &R::name), optional("description", &R::description),
+        required("position", &R::position), required("prices", &R::prices)};
 };
 
 template <>

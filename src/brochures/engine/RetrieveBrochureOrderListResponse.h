@@ -6,7 +6,8 @@
 
 namespace kavor {
 
-// The server's answer for one brochure order. It differs on purpose from SaveBrochuresOrder in names and nesting.
+// The server's answer for one brochure order. It differs on purpose from SaveBrochuresOrder in names and
+// nesting.
 struct RetrieveBrochureOrderListResponse {
     struct Order {
         struct OrderLine {

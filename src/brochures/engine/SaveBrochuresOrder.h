@@ -56,8 +56,9 @@ struct MenuPromotion {
     bool operator==(const MenuPromotion&) const = default;
 };
 
-// The document that carries a brochure order: the body of "saveOrderURL" in all its modes and the content of draft
-// and outbox files. The reader takes older files: "save" as a boolean, missing flags as true, "printed_myself" never.
+// The document that carries a brochure order: the body of "saveOrderURL" in all its modes and the content of
+// draft and outbox files. The reader takes older files: "save" as a boolean, missing flags as true,
+// "printed_myself" never.
 struct SaveBrochuresOrder {
     // One printed run.
     struct OrderLine {
@@ -189,8 +190,8 @@ struct SaveBrochuresOrder {
     bool printDigitalBrochureTmp = true;
     bool includePaperBrochureTmp = true;
     bool withPennantTmp = true;
-    bool printedMyself = false;                // written, never read back
-    std::optional<OrderSyncState> syncState;   // memory only
+    bool printedMyself = false;              // written, never read back
+    std::optional<OrderSyncState> syncState; // memory only
 
     bool operator==(const SaveBrochuresOrder&) const = default;
 };

@@ -50,6 +50,7 @@ Column {
     Item {
         width: parent.width
         height: 12
+        clip: true
         visible: counter.controller.maximumNumberOfBrands > 0
 
         ProgressLine {

@@ -46,7 +46,8 @@ void BrandListModel::setPriorityBrands(std::set<Int> brands) {
 void BrandListModel::setFilter(const BrandFilter& filter) {
     if (filter == filter_)
         return;
-    const bool narrower = filter.priorityOnly == filter_.priorityOnly && filter.propertyId == filter_.propertyId &&
+    const bool narrower = filter.priorityOnly == filter_.priorityOnly &&
+                          filter.propertyId == filter_.propertyId &&
                           filter.search.starts_with(filter_.search);
     filter_ = filter;
     show(filtered(narrower));
@@ -108,7 +109,8 @@ void BrandListModel::show(const std::vector<int>& wanted) {
         if (at == visible_.size() || at == wanted.size())
             break;
         if (visible_[at] < wanted[at]) {
-            const auto end = std::lower_bound(visible_.begin() + std::ptrdiff_t(at), visible_.end(), wanted[at]);
+            const auto end =
+                std::lower_bound(visible_.begin() + std::ptrdiff_t(at), visible_.end(), wanted[at]);
             removeRowsBetween(at, std::size_t(end - visible_.begin()));
         } else {
             const auto first = wanted.begin() + std::ptrdiff_t(at);
@@ -132,7 +134,9 @@ const Product* BrandListModel::brandAt(int row) const {
     return row >= 0 && row < count() ? brands_[std::size_t(visible_[std::size_t(row)])] : nullptr;
 }
 
-int BrandListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }
+int BrandListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count();
+}
 
 QString BrandListModel::pairingText(const Product& brand) const {
     if (brand.pairingsLabel)
@@ -154,8 +158,8 @@ QVariantList BrandListModel::formats(const Product& brand) const {
             continue;
         result << QVariantMap{{QStringLiteral("formatId"), qint64(format.id)},
                               {QStringLiteral("text"), fromUtf8(format.icon)},
-                              {QStringLiteral("image"), resourceImageUrl(format.imageThumb ? format.imageThumb
-                                                                                           : format.image)}};
+                              {QStringLiteral("image"),
+                               resourceImageUrl(format.imageThumb ? format.imageThumb : format.image)}};
     }
     return result;
 }
@@ -182,7 +186,8 @@ QVariant BrandListModel::data(const QModelIndex& index, int role) const {
     case ImageRole:
         return resourceImageUrl(brand->image);
     case CategoryRole:
-        return brand->category && brand->category->categoryLabel ? fromUtf8(*brand->category->categoryLabel) : QString();
+        return brand->category && brand->category->categoryLabel ? fromUtf8(*brand->category->categoryLabel)
+                                                                 : QString();
     case PriorityRole:
         return priority_.contains(brand->id);
     case BitternessRole:

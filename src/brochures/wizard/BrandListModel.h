@@ -73,7 +73,8 @@ private:
     [[nodiscard]] std::vector<int> filtered(bool withinVisible) const;
     void show(const std::vector<int>& wanted);
     void removeRowsBetween(std::size_t first, std::size_t last);
-    void insertAt(std::size_t place, std::vector<int>::const_iterator first, std::vector<int>::const_iterator last);
+    void insertAt(std::size_t place, std::vector<int>::const_iterator first,
+                  std::vector<int>::const_iterator last);
     [[nodiscard]] QString pairingText(const Product& brand) const;
     [[nodiscard]] QVariantList formats(const Product& brand) const;
     [[nodiscard]] QVariantList selectedFormats(const Product& brand) const;

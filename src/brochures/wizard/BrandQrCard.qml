@@ -77,6 +77,8 @@ Card {
             height: ListView.view ? ListView.view.height : 180
 
             ResourceImage {
+                id: picture
+
                 anchors.fill: parent
                 anchors.margins: 4
                 anchors.bottomMargin: 28
@@ -85,15 +87,14 @@ Card {
                 mat: Theme.paper
                 placeholderIcon: "qr"
                 fillMode: Image.PreserveAspectFit
-
-                Rectangle {
-                    anchors.fill: parent
-                    anchors.margins: -2
-                    radius: Theme.radius + 2
-                    color: "transparent"
-                    border.width: entry.current ? 3 : 1
-                    border.color: entry.current ? Theme.amber : Theme.hairline
-                }
+            }
+            Rectangle {
+                anchors.fill: picture
+                anchors.margins: -3
+                radius: Theme.radius + 3
+                color: "transparent"
+                border.width: entry.current ? 3 : 1
+                border.color: entry.current ? Theme.amber : Theme.hairline
             }
             HelpText {
                 anchors.bottom: parent.bottom

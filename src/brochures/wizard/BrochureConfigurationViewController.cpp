@@ -178,6 +178,7 @@ void BrochureConfigurationViewController::serializeAutoSave() {
 void BrochureConfigurationViewController::commit() {
     serializeAutoSave();
     autosave(draft_);
+    emit committed();
 }
 
 // ---- Point of sale

@@ -167,6 +167,8 @@ signals:
     void secondPriceChanged();
     void switchesChanged();
     void formatsChanged();
+    // The draft has what the form holds.
+    void committed();
     // The customer code was accepted: the preview may start.
     void previewSegueRequested();
 

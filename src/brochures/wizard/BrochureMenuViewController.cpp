@@ -143,6 +143,7 @@ void BrochureMenuViewController::showStep(int wizardStep) {
     step->viewDidLoad();
     step->viewWillAppear();
     emit activeStepChanged();
+    emit subtitleChanged();
     if (former) {
         former->disconnect(this);
         former->deleteLater(); // after its view, which went in the line above
@@ -160,12 +161,16 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
                 return buttonPushedAction(entry.button);
         }
     });
-    if (auto* configuration = qobject_cast<BrochureConfigurationViewController*>(step))
-        connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this, [this] {
-            buttonPushedAction(Send);
-            if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
-                send->previewAction();
-        });
+    auto* configuration = qobject_cast<BrochureConfigurationViewController*>(step);
+    if (!configuration)
+        return;
+    connect(configuration, &BrochureConfigurationViewController::committed, this,
+            &BrochureMenuViewController::subtitleChanged);
+    connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this, [this] {
+        buttonPushedAction(Send);
+        if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
+            send->previewAction();
+    });
 }
 
 void BrochureMenuViewController::leaveActiveStep() {

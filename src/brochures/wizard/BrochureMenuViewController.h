@@ -24,7 +24,7 @@ class BrochureMenuViewController : public QObject {
     QML_UNCREATABLE("made by the screen that opens the wizard")
     Q_PROPERTY(QString title READ title CONSTANT)
     // The bar's name, empty while it has none.
-    Q_PROPERTY(QString subtitle READ subtitle NOTIFY activeStepChanged)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
     // The caption of the style entry; empty outside a brochure section.
     Q_PROPERTY(QString styleDefaultLabel READ styleDefaultLabel CONSTANT)
     // The entries as StepMenu takes them, in the order of the work; the id is the place in the menu's table.
@@ -84,6 +84,7 @@ signals:
     void closed();
     void menuButtonsChanged();
     void activeStepChanged();
+    void subtitleChanged();
     void veilVisibleChanged();
     void previewChanged();
 

@@ -14,6 +14,7 @@ FocusScope {
     ListView {
         id: list
 
+        property bool pinned: true // stands at its beginning, also when the window turns
         readonly property real keyboard: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
         readonly property Item focused: Window.activeFocusItem
 
@@ -29,6 +30,7 @@ FocusScope {
                 contentY = Math.max(originY, top - Theme.spaceXXL);
             else if (top + focused.height + Theme.spaceL > contentY + height)
                 contentY = top + focused.height + Theme.spaceL - height;
+            pinned = atYBeginning;
         }
 
         onFocusedChanged: keepInView()
@@ -41,6 +43,11 @@ FocusScope {
         cacheBuffer: 4000 // a field that is being typed into stays when it is scrolled away
         boundsBehavior: Flickable.DragOverBounds
         bottomMargin: Theme.spaceXL
+        onMovementEnded: pinned = atYBeginning
+        onOriginYChanged: {
+            if (pinned && !moving)
+                Qt.callLater(positionViewAtBeginning); // qmllint disable
+        }
 
         header: Item {
             width: list.width

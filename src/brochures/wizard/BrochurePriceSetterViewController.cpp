@@ -19,7 +19,8 @@ const QString toCome = QStringLiteral("Próximamente");
 
 } // namespace
 
-BrochurePriceSetterViewController::BrochurePriceSetterViewController(const WizardServices& services, QObject* parent)
+BrochurePriceSetterViewController::BrochurePriceSetterViewController(const WizardServices& services,
+                                                                     QObject* parent)
     : WizardStepViewController(parent)
     , services_(services) {
     connect(&highlight_, &HighlightZone::highlightDidChange, this, [this] { autosave(actualOrder_); });
@@ -27,7 +28,9 @@ BrochurePriceSetterViewController::BrochurePriceSetterViewController(const Wizar
 
 BrochurePriceSetterViewController::~BrochurePriceSetterViewController() = default;
 
-QUrl BrochurePriceSetterViewController::view() const { return stepView(QStringLiteral("BrochurePriceSetterView.qml")); }
+QUrl BrochurePriceSetterViewController::view() const {
+    return stepView(QStringLiteral("BrochurePriceSetterView.qml"));
+}
 
 void BrochurePriceSetterViewController::viewDidLoad() {
     catalogue_ = AppSingleton::shared().applicationInformation;
@@ -39,8 +42,9 @@ void BrochurePriceSetterViewController::viewDidLoad() {
         return;
     orderType_ = sectionBrochureType(*catalogue_);
     isSecondaryPriceAllowed_ = orderType_->isSecondBrochuresPriceAllowed;
-    highlight_.configure(parameters->isHighlightable, parameters->highLightedNumber,
-                         parameters->maxBrandSelection.value_or(Int(catalogue_->information().products.size())));
+    highlight_.configure(
+        parameters->isHighlightable, parameters->highLightedNumber,
+        parameters->maxBrandSelection.value_or(Int(catalogue_->information().products.size())));
     if (parameters->dtColumnFilePriceRecomended == "archive_price")
         archivePrice_ = validations.archivePrice;
     else if (parameters->dtColumnFilePriceRecomended == "archive_price_secondary")
@@ -64,7 +68,8 @@ void BrochurePriceSetterViewController::serializeAutoSave() {
         actualOrder_->withoutPriceBeer = withoutPriceSwitch_;
 }
 
-PriceRow BrochurePriceSetterViewController::makeRow(const Product& brand, const Product::ProductFormat& format) const {
+PriceRow BrochurePriceSetterViewController::makeRow(const Product& brand,
+                                                    const Product::ProductFormat& format) const {
     const BrochureIntermediateData& draft = *actualOrder_;
     PriceRow row;
     row.productIdentifier = format.id;
@@ -80,7 +85,8 @@ PriceRow BrochurePriceSetterViewController::makeRow(const Product& brand, const 
     row.minimumVolume = format.minimumVolume;
     row.maximumVolume = format.maximumVolume;
     row.mainPrice = draft.priceOf(PriceType::main, format.id, brand.id).value_or(0);
-    row.secondaryPrice = secondPriceType_ ? draft.priceOf(*secondPriceType_, format.id, brand.id) : format.price;
+    row.secondaryPrice =
+        secondPriceType_ ? draft.priceOf(*secondPriceType_, format.id, brand.id) : format.price;
     return row;
 }
 
@@ -103,8 +109,9 @@ PriceTableModel::Cell BrochurePriceSetterViewController::cellOf(const PriceRow& 
 }
 
 const PriceRow* BrochurePriceSetterViewController::rowAt(int row) const {
-    return row >= 0 && row < int(productsPerBrandsSelected_.size()) ? &productsPerBrandsSelected_[std::size_t(row)]
-                                                                    : nullptr;
+    return row >= 0 && row < int(productsPerBrandsSelected_.size())
+               ? &productsPerBrandsSelected_[std::size_t(row)]
+               : nullptr;
 }
 
 void BrochurePriceSetterViewController::reloadTable() {
@@ -146,10 +153,11 @@ void BrochurePriceSetterViewController::priceFieldDidEndEditing(int tag, const Q
         return;
     const PriceType type = secondPriceType_ && n % 2 == 1 ? *secondPriceType_ : PriceType::main;
     const auto value = AppFormatter::shared().parseNumber(text.toStdString());
-    const bool taken = value && actualOrder_->setPrice(type, row->productIdentifier, row->brandIdentifier, *value);
+    const bool taken =
+        value && actualOrder_->setPrice(type, row->productIdentifier, row->brandIdentifier, *value);
     table_.setPriceText(tag, fromUtf8(AppFormatter::shared().currencyFormatter(taken ? *value : 0)));
-    // The rows lose a sorted order here while the table keeps showing it: the next edit goes by the rebuilt rows.
-    // Meant so.
+    // The rows lose a sorted order here while the table keeps showing it: the next edit goes by the rebuilt
+    // rows. Meant so.
     rebuildRows();
     autosave(actualOrder_);
 }
@@ -204,11 +212,13 @@ void BrochurePriceSetterViewController::newProductButton(int row) {
 }
 
 void BrochurePriceSetterViewController::priceRecommendation(int) {
-    services_.alerts.inform(toCome, QStringLiteral("La recomendación de precios todavía no está disponible."), this);
+    services_.alerts.inform(toCome, QStringLiteral("La recomendación de precios todavía no está disponible."),
+                            this);
 }
 
 void BrochurePriceSetterViewController::showProfitAccount() {
-    services_.alerts.inform(toCome, QStringLiteral("La cuenta de beneficios todavía no está disponible."), this);
+    services_.alerts.inform(toCome, QStringLiteral("La cuenta de beneficios todavía no está disponible."),
+                            this);
 }
 
 void BrochurePriceSetterViewController::deleteProductButton(int row) {
@@ -217,8 +227,8 @@ void BrochurePriceSetterViewController::deleteProductButton(int row) {
         return;
     // The question ends without its closing mark, meant so.
     AlertRequest question{attention,
-                          QStringLiteral("¿Desea borrar ") + fromUtf8(product->brandName) + QStringLiteral(" - ") +
-                              fromUtf8(product->productName),
+                          QStringLiteral("¿Desea borrar ") + fromUtf8(product->brandName) +
+                              QStringLiteral(" - ") + fromUtf8(product->productName),
                           {{QStringLiteral("No"), AlertButton::Role::Cancel},
                            {QStringLiteral("Sí"), AlertButton::Role::Destructive}},
                           std::nullopt,
@@ -283,7 +293,8 @@ QString BrochurePriceSetterViewController::withoutPriceLabel() const {
 }
 
 QString BrochurePriceSetterViewController::withoutPriceInfoLabel() const {
-    return QStringLiteral("Marca esta opción para que la ") + brochureWord() + QStringLiteral(" no lleve precios");
+    return QStringLiteral("Marca esta opción para que la ") + brochureWord() +
+           QStringLiteral(" no lleve precios");
 }
 
 } // namespace kavor

@@ -26,8 +26,8 @@ public:
     virtual void deleteProductButton(int row) = 0;
 };
 
-// Step 4: the recommended retail prices of every selected format, its volume and its "new" mark, and the format that
-// is highlighted. Each change goes at once to the draft and to its temporary copy.
+// Step 4: the recommended retail prices of every selected format, its volume and its "new" mark, and the
+// format that is highlighted. Each change goes at once to the draft and to its temporary copy.
 class BrochurePriceSetterViewController : public WizardStepViewController,
                                           public SerializeAutoSave,
                                           public SelectedCell {
@@ -77,15 +77,23 @@ public:
     [[nodiscard]] PriceTableModel* table() { return &table_; }
     [[nodiscard]] HighlightZone* highlight() { return &highlight_; }
     [[nodiscard]] VolumeEditorViewController* volumeEditor() const { return volumeEditor_; }
-    [[nodiscard]] const std::vector<PriceRow>& productsPerBrandsSelected() const { return productsPerBrandsSelected_; }
+    [[nodiscard]] const std::vector<PriceRow>& productsPerBrandsSelected() const {
+        return productsPerBrandsSelected_;
+    }
     [[nodiscard]] bool isArchivePriceVisible() const { return archivePrice_.has_value(); }
     [[nodiscard]] bool isPrimaryPriceVisible() const { return !withoutPriceSwitch_; }
     [[nodiscard]] bool isSecondaryPriceVisible() const { return !withoutPriceSwitch_ && secondPriceType_; }
     [[nodiscard]] bool isOrderBySecondaryVisible() const;
     [[nodiscard]] QString orderBySecondaryTitle() const;
-    [[nodiscard]] QString orderByBrandPicture() const { return sorting_.picture(PriceSorting::Button::Brand); }
-    [[nodiscard]] QString orderByFormatPicture() const { return sorting_.picture(PriceSorting::Button::Format); }
-    [[nodiscard]] QString orderByPrimaryPicture() const { return sorting_.picture(PriceSorting::Button::PrimaryPrice); }
+    [[nodiscard]] QString orderByBrandPicture() const {
+        return sorting_.picture(PriceSorting::Button::Brand);
+    }
+    [[nodiscard]] QString orderByFormatPicture() const {
+        return sorting_.picture(PriceSorting::Button::Format);
+    }
+    [[nodiscard]] QString orderByPrimaryPicture() const {
+        return sorting_.picture(PriceSorting::Button::PrimaryPrice);
+    }
     [[nodiscard]] QString orderBySecondaryPicture() const {
         return sorting_.picture(PriceSorting::Button::SecondaryPrice);
     }

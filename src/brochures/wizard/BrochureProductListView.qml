@@ -14,6 +14,7 @@ FocusScope {
     Connections {
         target: view.controller.brandFilter
         function onChanged(): void {
+            list.pinned = true;
             list.positionViewAtBeginning();
         }
     }
@@ -47,6 +48,8 @@ FocusScope {
     ListView {
         id: list
 
+        property bool pinned: true // stands at its beginning, also when the window turns
+
         objectName: "brandList"
         anchors.top: top.bottom
         anchors.topMargin: 1
@@ -60,6 +63,11 @@ FocusScope {
         boundsBehavior: Flickable.DragOverBounds
         activeFocusOnTab: true
         bottomMargin: Theme.spaceXL
+        onMovementEnded: pinned = atYBeginning
+        onOriginYChanged: {
+            if (pinned && !moving)
+                Qt.callLater(positionViewAtBeginning); // qmllint disable
+        }
 
         header: Item {
             width: list.width

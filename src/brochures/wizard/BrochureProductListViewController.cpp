@@ -8,6 +8,8 @@
 #include "device/AlertPresenter.h"
 #include "shell/AppSingleton.h"
 
+#include <QtConcurrent>
+
 #include <algorithm>
 #include <limits>
 
@@ -23,7 +25,8 @@ QString labelOf(std::optional<Int> limit) {
 
 } // namespace
 
-BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services, QObject* parent)
+BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services,
+                                                                     QObject* parent)
     : WizardStepViewController(parent)
     , alerts_(services.alerts) {}
 
@@ -43,7 +46,8 @@ void BrochureProductListViewController::viewWillAppear() {
     brands_.setDraft(actualOrder_);
     brands_.setBrands(catalogue_, family_);
     if (!filter_)
-        filter_ = new PriorityBrandSelectorView(catalogue_->brochures().brandProperties, family_, *this, this);
+        filter_ =
+            new PriorityBrandSelectorView(catalogue_->brochures().brandProperties, family_, *this, this);
     readCustomer();
     runCounter();
     emit changed();
@@ -67,7 +71,8 @@ void BrochureProductListViewController::readChalkboard() {
     if (!isChalkboard_)
         return;
     if (!actualOrder_->selectedFormatIdentifier) {
-        alerts_.inform(attention, QStringLiteral("Debes elegir un formato para la pizarra en configuración."), this);
+        alerts_.inform(attention, QStringLiteral("Debes elegir un formato para la pizarra en configuración."),
+                       this);
         return;
     }
     if (const auto* format = catalogue_->blackboardFormat(*actualOrder_->selectedFormatIdentifier))
@@ -80,35 +85,42 @@ QString BrochureProductListViewController::informationText(const Brochures::Type
                          .arg(QString::fromUtf8(word.data(), qsizetype(word.size())));
     if (!type.parameters->isHighlightable)
         return result;
-    result += QStringLiteral(" En la pantalla Precios Recomendados podrás destacar una de las referencias que "
-                             "selecciones.");
+    result +=
+        QStringLiteral(" En la pantalla Precios Recomendados podrás destacar una de las referencias que "
+                       "selecciones.");
     const Int places = type.parameters->highLightedNumber;
     if (places > 0 && maximum_) {
-        result += QStringLiteral(" El destacado ocupa %1 marcas, por lo que si quieres añadir un destacado podrás "
-                                 "seleccionar como máximo %2 marcas.")
-                      .arg(places)
-                      .arg(*maximum_ - places);
+        result +=
+            QStringLiteral(" El destacado ocupa %1 marcas, por lo que si quieres añadir un destacado podrás "
+                           "seleccionar como máximo %2 marcas.")
+                .arg(places)
+                .arg(*maximum_ - places);
     }
     return result;
 }
 
 void BrochureProductListViewController::readCustomer() {
     std::set<Int> priority;
-    if (const auto& customer = actualOrder_->customerInformation; customer && customer->priorityBrandIdentifiers)
-        priority.insert(customer->priorityBrandIdentifiers->begin(), customer->priorityBrandIdentifiers->end());
+    if (const auto& customer = actualOrder_->customerInformation;
+        customer && customer->priorityBrandIdentifiers)
+        priority.insert(customer->priorityBrandIdentifiers->begin(),
+                        customer->priorityBrandIdentifiers->end());
     priorityBrandsVisible_ = !priority.empty();
     brands_.setPriorityBrands(std::move(priority));
 }
 
 void BrochureProductListViewController::runCounter() {
-    currentNumberOfSelections_ = std::ranges::count_if(actualOrder_->selectedBrands, [this](const auto& entry) {
-        const Product* brand = catalogue_->product(entry.first);
-        return brand && brand->applicationFather == family_ && !entry.second.empty();
-    });
+    currentNumberOfSelections_ =
+        std::ranges::count_if(actualOrder_->selectedBrands, [this](const auto& entry) {
+            const Product* brand = catalogue_->product(entry.first);
+            return brand && brand->applicationFather == family_ && !entry.second.empty();
+        });
     emit counterChanged();
 }
 
-void BrochureProductListViewController::brandFilterDidChange() { brands_.setFilter(filter_->brandFilter()); }
+void BrochureProductListViewController::brandFilterDidChange() {
+    brands_.setFilter(filter_->brandFilter());
+}
 
 bool BrochureProductListViewController::mayAddBrand(Int brand) const {
     // A chalkboard has no such limit: its format names the numbers that the draft's check allows.
@@ -146,6 +158,7 @@ void BrochureProductListViewController::addNewBrandBtn() {
     if (form_ || !newBrandVisible_)
         return;
     form_ = new NewBrandForm(catalogue_, family_, this);
+    catalogueToGrow_ = QtConcurrent::run([base = catalogue_] { return std::make_shared<Catalogue>(*base); });
     emit formChanged();
 }
 
@@ -175,23 +188,32 @@ void BrochureProductListViewController::createNewBrandBtn() {
 
 void BrochureProductListViewController::addBrand() {
     AppSingleton& session = AppSingleton::shared();
-    Product product = form_->makeProduct(catalogue_->freeNegativeProductId());
+    const std::shared_ptr<const Catalogue> former = catalogue_;
+    std::shared_ptr<Catalogue> grown = catalogueToGrow_.takeResult();
+    if (session.applicationInformation != former) // another catalogue came in the meantime
+        grown = std::make_shared<Catalogue>(session.catalogue());
+    Product product = form_->makeProduct(grown->freeNegativeProductId());
     const Int brand = product.id;
     std::vector<Int> formats;
     std::ranges::transform(product.productList, std::back_inserter(formats), &Product::ProductFormat::id);
-    session.catalogueToChange().addProduct(std::move(product));
-    catalogue_ = session.applicationInformation;
+    grown->addProduct(std::move(product));
+    catalogue_ = std::move(grown);
+    session.applicationInformation = catalogue_;
     for (const Int format : formats)
         actualOrder_->setFormatSelected(true, format, brand);
     brands_.setBrands(catalogue_, family_);
     runCounter();
     autosave(actualOrder_);
-    storeCatalogueInBackground();
+    storeCatalogueInBackground(former);
 }
 
-QString BrochureProductListViewController::minimumProductsSelectedLabel() const { return labelOf(minimum_); }
+QString BrochureProductListViewController::minimumProductsSelectedLabel() const {
+    return labelOf(minimum_);
+}
 
-QString BrochureProductListViewController::maximumBrandsSelectedLabel() const { return labelOf(maximum_); }
+QString BrochureProductListViewController::maximumBrandsSelectedLabel() const {
+    return labelOf(maximum_);
+}
 
 QString BrochureProductListViewController::setOfBrandsChoicesLabel() const {
     if (!isChalkboard_ || numberOfFormatsToSelect_.empty())
@@ -199,7 +221,8 @@ QString BrochureProductListViewController::setOfBrandsChoicesLabel() const {
     QStringList numbers;
     for (const Int number : numberOfFormatsToSelect_)
         numbers << QString::number(number);
-    return QStringLiteral("Debes elegir entre ") + numbers.join(QStringLiteral(" o ")) + QStringLiteral(" marcas.");
+    return QStringLiteral("Debes elegir entre ") + numbers.join(QStringLiteral(" o ")) +
+           QStringLiteral(" marcas.");
 }
 
 QString BrochureProductListViewController::currentProductsSelectedLabel() const {

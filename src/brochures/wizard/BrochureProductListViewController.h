@@ -5,6 +5,8 @@
 #include "brochures/wizard/PriorityBrandSelectorView.h"
 #include "brochures/wizard/WizardStep.h"
 
+#include <QFuture>
+
 #include <memory>
 #include <optional>
 #include <vector>
@@ -13,7 +15,8 @@ namespace kavor {
 
 class BrochureIntermediateData;
 
-// Step 2: the brands of the kind's family with their formats, which the user selects within the limits of the kind.
+// Step 2: the brands of the kind's family with their formats, which the user selects within the limits of the
+// kind.
 class BrochureProductListViewController : public WizardStepViewController,
                                           public SerializeAutoSave,
                                           private PriorityFilterDelegate {
@@ -100,6 +103,8 @@ private:
     BrandListModel brands_;
     PriorityBrandSelectorView* filter_ = nullptr;
     NewBrandForm* form_ = nullptr;
+    // Made while the user fills in the form: copying a large catalogue would hold up the window.
+    QFuture<std::shared_ptr<Catalogue>> catalogueToGrow_;
     ApplicationFather family_ = ApplicationFather::orderBeer;
     bool isChalkboard_ = false;
     bool newBrandVisible_ = false;

@@ -62,7 +62,9 @@ void BrochureQuantityForm::type(int field, const QString& text) {
     emit edited();
 }
 
-bool BrochureQuantityForm::isVisible() const { return context_.type && context_.parameters().checkUnitsNumber; }
+bool BrochureQuantityForm::isVisible() const {
+    return context_.type && context_.parameters().checkUnitsNumber;
+}
 
 QString BrochureQuantityForm::minimumAndMaximumNumberOfBrochureLabel() const {
     if (!isVisible())

@@ -11,7 +11,8 @@
 
 namespace kavor {
 
-// The number of brochures, once for each price column: pickers where the kind lists quantities, text fields otherwise.
+// The number of brochures, once for each price column: pickers where the kind lists quantities, text fields
+// otherwise.
 class BrochureQuantityForm : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -19,7 +20,8 @@ class BrochureQuantityForm : public QObject {
     // numberOfBrochuresStackView
     Q_PROPERTY(bool visible READ isVisible NOTIFY changed)
     Q_PROPERTY(bool secondVisible READ isSecondVisible NOTIFY changed)
-    Q_PROPERTY(QString minimumAndMaximumNumberOfBrochureLabel READ minimumAndMaximumNumberOfBrochureLabel NOTIFY changed)
+    Q_PROPERTY(QString minimumAndMaximumNumberOfBrochureLabel READ minimumAndMaximumNumberOfBrochureLabel
+                   NOTIFY changed)
     Q_PROPERTY(QString numberOfBrochuresLabel READ numberOfBrochuresLabel NOTIFY changed)
     Q_PROPERTY(QString numberOfBrochuresSecondLabel READ numberOfBrochuresSecondLabel NOTIFY changed)
     // The rows of the pickers; empty when the text fields are used.
@@ -27,7 +29,8 @@ class BrochureQuantityForm : public QObject {
     Q_PROPERTY(int selectorQuantity1Picker READ selectorQuantity1Picker NOTIFY changed)
     Q_PROPERTY(int selectorQuantity2Picker READ selectorQuantity2Picker NOTIFY changed)
     Q_PROPERTY(QString numberBrochuresTextField READ numberBrochuresTextField NOTIFY changed)
-    Q_PROPERTY(QString secondPriceNumberBrochuresTextField READ secondPriceNumberBrochuresTextField NOTIFY changed)
+    Q_PROPERTY(
+        QString secondPriceNumberBrochuresTextField READ secondPriceNumberBrochuresTextField NOTIFY changed)
 
 public:
     using QObject::QObject;

@@ -16,6 +16,10 @@ FocusScope {
         function onEditingShouldEnd(): void {
             view.controller.finishSupportComment(comment.text);
         }
+        function onButtonsChanged(): void {
+            if (view.controller.orderSent)
+                page.contentY = 0;
+        }
         function onMissingChanged(): void {
             if (view.controller.missing.length > 0)
                 page.contentY = 0;

@@ -15,12 +15,14 @@ BrochureStyleSelectorViewController::BrochureStyleSelectorViewController(const W
     : WizardStepViewController(parent)
     , attributeTable_(services.photos, nullptr) {
     context_.isSectionStyleDigital = AppSingleton::shared().isSectionDigital;
-    bannerObserver_ = NotificationCenter::shared().observe(notification::showPreferredBrandsBanner,
-                                                           [this](const auto&) { showPreferredBrandsBanner(); });
+    bannerObserver_ = NotificationCenter::shared().observe(
+        notification::showPreferredBrandsBanner, [this](const auto&) { showPreferredBrandsBanner(); });
     connect(&logos_, &StyleLogosForm::edited, this, &BrochureStyleSelectorViewController::saveDraft);
-    connect(&quantities_, &BrochureQuantityForm::edited, this, &BrochureStyleSelectorViewController::saveDraft);
+    connect(&quantities_, &BrochureQuantityForm::edited, this,
+            &BrochureStyleSelectorViewController::saveDraft);
     connect(&brandQr_, &BrandQrForm::edited, this, &BrochureStyleSelectorViewController::saveDraft);
-    connect(&attributeTable_, &StyleAttributesModel::edited, this, &BrochureStyleSelectorViewController::saveDraft);
+    connect(&attributeTable_, &StyleAttributesModel::edited, this,
+            &BrochureStyleSelectorViewController::saveDraft);
 }
 
 BrochureStyleSelectorViewController::~BrochureStyleSelectorViewController() = default;
@@ -44,8 +46,9 @@ void BrochureStyleSelectorViewController::viewWillAppear() {
     quantities_.appear(context_);
     brandQr_.appear(context_);
     const BrochureIntermediateData& draft = *context_.draft;
-    const int selected = brochureStyles_.indexOf(
-        context_.isSectionStyleDigital ? draft.selectedStyleDigitalIdentifier : draft.selectedStyleIdentifier);
+    const int selected =
+        brochureStyles_.indexOf(context_.isSectionStyleDigital ? draft.selectedStyleDigitalIdentifier
+                                                               : draft.selectedStyleIdentifier);
     // The style in the middle of the carousel is the chosen one, also before anyone moved it.
     selectStyle(std::max(selected, 0));
     saveDraft();
@@ -85,7 +88,9 @@ void BrochureStyleSelectorViewController::carouselCurrentItemIndexDidChange(int 
     saveDraft();
 }
 
-void BrochureStyleSelectorViewController::saveDraft() { autosave(context_.draft); }
+void BrochureStyleSelectorViewController::saveDraft() {
+    autosave(context_.draft);
+}
 
 void BrochureStyleSelectorViewController::serializeAutoSave() {
     quantities_.serialize();
@@ -94,7 +99,9 @@ void BrochureStyleSelectorViewController::serializeAutoSave() {
     attributeTable_.serialize();
 }
 
-void BrochureStyleSelectorViewController::flipStyleButtonAction() { brochureStyles_.flip(currentStyle_); }
+void BrochureStyleSelectorViewController::flipStyleButtonAction() {
+    brochureStyles_.flip(currentStyle_);
+}
 
 void BrochureStyleSelectorViewController::showZoom(TypeZooms zoom) {
     closeZoom();
@@ -104,7 +111,8 @@ void BrochureStyleSelectorViewController::showZoom(TypeZooms zoom) {
                                             brandQr_.images(), brandQr_.currentBrand(), this);
     } else if (const Brochures::Style* style = brochureStyles_.styleAt(currentStyle_)) {
         zoom_ = new StyleSelectorOrderSheet(
-            fromUtf8(style->name), {resourceImageUrl(style->firstImage), resourceImageUrl(style->secondImage)},
+            fromUtf8(style->name),
+            {resourceImageUrl(style->firstImage), resourceImageUrl(style->secondImage)},
             brochureStyles_.isCover(currentStyle_) ? 0 : 1, this);
     }
     emit zoomChanged();
@@ -145,7 +153,8 @@ QString BrochureStyleSelectorViewController::selectedAndTotalNumberOfStylesLabel
 QString BrochureStyleSelectorViewController::emptyMessage() const {
     if (brochureStyles_.count() > 0)
         return {};
-    if (context_.type && context_.type->id == BrochureType::chalkboard && !context_.draft->selectedFormatIdentifier)
+    if (context_.type && context_.type->id == BrochureType::chalkboard &&
+        !context_.draft->selectedFormatIdentifier)
         return QStringLiteral("Debes elegir un formato para la pizarra en configuración.");
     return QStringLiteral("No hay estilos para este tipo de carta.");
 }

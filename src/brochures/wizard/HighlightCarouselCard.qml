@@ -51,7 +51,7 @@ Card {
         visible: card.zone.carouselVisible
         enabled: card.zone.carouselEnabled
         opacity: card.zone.carouselEnabled ? 1 : 0.25
-        itemWidth: Math.min(260, width * 0.62)
+        itemWidth: Math.min(260, width * 0.7)
         showDots: false
         text: "Producto destacado"
         model: card.zone
@@ -82,8 +82,8 @@ Card {
 
                 x: Theme.spaceM
                 anchors.verticalCenter: parent.verticalCenter
-                width: 84
-                height: 84
+                width: entry.width < 250 ? 64 : 84
+                height: width
                 radius: 10
                 ground: entry.current ? Theme.amberTint : Theme.paper
                 mat: "transparent"
@@ -103,7 +103,7 @@ Card {
                     width: parent.width
                     text: entry.entryText
                     color: Theme.ink
-                    wrapMode: Text.Wrap
+                    wrapMode: Text.WordWrap
                     maximumLineCount: 2
                     elide: Text.ElideRight
                     font.family: Theme.fontFamily

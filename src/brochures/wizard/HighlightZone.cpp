@@ -14,7 +14,9 @@ namespace {
 
 const QString withoutHighlight = QStringLiteral("Sin producto destacado");
 
-QString nameOf(const PriceRow& row) { return fromUtf8(row.brandName + " - " + row.productName); }
+QString nameOf(const PriceRow& row) {
+    return fromUtf8(row.brandName + " - " + row.productName);
+}
 
 } // namespace
 
@@ -26,8 +28,8 @@ void HighlightZone::configure(bool isHighlightable, Int numberOfSelectionSpacesO
     emit changed();
 }
 
-QString HighlightZone::setUp(const std::shared_ptr<BrochureIntermediateData>& draft, const Catalogue& catalogue,
-                             const std::vector<PriceRow>& rows) {
+QString HighlightZone::setUp(const std::shared_ptr<BrochureIntermediateData>& draft,
+                             const Catalogue& catalogue, const std::vector<PriceRow>& rows) {
     draft_ = draft;
     QString message =
         QStringLiteral("Recuerda que has de marcar las referencias que sean nuevas para este cliente.");
@@ -58,7 +60,8 @@ void HighlightZone::setRows(const std::vector<PriceRow>& rows) {
 }
 
 void HighlightZone::runSpacesTest(const Catalogue& catalogue) {
-    // A brand counts one however many of its formats are selected; each highlighted format adds its surcharge.
+    // A brand counts one however many of its formats are selected; each highlighted format adds its
+    // surcharge.
     Int spaces = 0;
     for (const auto& [brand, formats] : draft_->selectedBrands) {
         const Product* product = catalogue.product(brand);
@@ -74,12 +77,14 @@ void HighlightZone::runSpacesTest(const Catalogue& catalogue) {
 }
 
 bool HighlightZone::isHighlighted(const PriceRow& row) const {
-    return draft_->isFormatHighlighted(row.productIdentifier, row.brandIdentifier) == SelectionState::selected;
+    return draft_->isFormatHighlighted(row.productIdentifier, row.brandIdentifier) ==
+           SelectionState::selected;
 }
 
 void HighlightZone::findHighlight(QString& message) {
     const auto& rows = highlightableProducts_;
-    const auto highlighted = std::ranges::find_if(rows, [this](const PriceRow& row) { return isHighlighted(row); });
+    const auto highlighted =
+        std::ranges::find_if(rows, [this](const PriceRow& row) { return isHighlighted(row); });
     if (highlighted != rows.end()) {
         // The last row with the same format wins, meant so.
         const auto last = std::find_if(rows.rbegin(), rows.rend(), [&](const PriceRow& row) {
@@ -97,7 +102,8 @@ void HighlightZone::findHighlight(QString& message) {
         }
         if (proposed) {
             draft_->defaultHighlightedElementVisited = true;
-            message += QStringLiteral("\nSe ha seleccionado ") + nameOf(*proposed) + QStringLiteral(" por defecto.");
+            message +=
+                QStringLiteral("\nSe ha seleccionado ") + nameOf(*proposed) + QStringLiteral(" por defecto.");
             scrollTo(int(proposed - rows.data()) + 1, true);
             return;
         }
@@ -106,7 +112,9 @@ void HighlightZone::findHighlight(QString& message) {
     highlightedLabel_ = withoutHighlight;
 }
 
-void HighlightZone::scrollToNothing() { scrollTo(0, true); }
+void HighlightZone::scrollToNothing() {
+    scrollTo(0, true);
+}
 
 void HighlightZone::scrollTo(int index, bool animated) {
     const bool moved = std::exchange(currentIndex_, index) != index;

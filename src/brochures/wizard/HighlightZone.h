@@ -13,8 +13,8 @@ namespace kavor {
 class BrochureIntermediateData;
 class Catalogue;
 
-// The zone of the prices step in which one format is highlighted, by a carousel. As a list it holds the carousel's
-// entries: entry 0 is "no highlight", entry i + 1 the highlightable row i.
+// The zone of the prices step in which one format is highlighted, by a carousel. As a list it holds the
+// carousel's entries: entry 0 is "no highlight", entry i + 1 the highlightable row i.
 class HighlightZone : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -47,7 +47,9 @@ public:
     Q_INVOKABLE void carouselCurrentItemIndexDidChange(int index);
 
     [[nodiscard]] bool isZoneVisible() const { return isHighlightable_; }
-    [[nodiscard]] bool isCarouselVisible() const { return isHighlightable_ && !highlightableProducts_.empty(); }
+    [[nodiscard]] bool isCarouselVisible() const {
+        return isHighlightable_ && !highlightableProducts_.empty();
+    }
     [[nodiscard]] bool isCarouselEnabled() const { return missingSpaces_ <= 0; }
     [[nodiscard]] bool isWithoutHighlightedProductsVisible() const {
         return isHighlightable_ && highlightableProducts_.empty();

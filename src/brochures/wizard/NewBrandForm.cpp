@@ -36,7 +36,8 @@ NewBrandForm::Vocabulary NewBrandForm::vocabularyOf(const std::vector<Record>& r
     return result;
 }
 
-NewBrandForm::NewBrandForm(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family, QObject* parent)
+NewBrandForm::NewBrandForm(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family,
+                           QObject* parent)
     : QObject(parent)
     , catalogue_(std::move(catalogue))
     , family_(family) {
@@ -48,14 +49,17 @@ NewBrandForm::NewBrandForm(std::shared_ptr<const Catalogue> catalogue, Applicati
     segments_ = vocabularyOf(brochures.brandSegments);
 }
 
-int NewBrandForm::maximumNameLength() const { return int(catalogue_->information().validations.productName); }
+int NewBrandForm::maximumNameLength() const {
+    return int(catalogue_->information().validations.productName);
+}
 
 int NewBrandForm::maximumDescriptionLength() const {
     return int(catalogue_->information().validations.productDescription);
 }
 
 bool NewBrandForm::isComplete() const {
-    return typologies_.chosen(typology_) && tastes_.chosen(taste_) && segments_.chosen(segment_) && !name().empty();
+    return typologies_.chosen(typology_) && tastes_.chosen(taste_) && segments_.chosen(segment_) &&
+           !name().empty();
 }
 
 std::optional<HashedResource> NewBrandForm::imageOf(const Brochures::ProductType& type) const {

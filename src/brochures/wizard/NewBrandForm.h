@@ -12,8 +12,8 @@
 
 namespace kavor {
 
-// The form by which a user adds a brand of the customer's own. The first row of each picker, "Sin seleccionar",
-// means no choice.
+// The form by which a user adds a brand of the customer's own. The first row of each picker, "Sin
+// seleccionar", means no choice.
 class NewBrandForm : public QObject {
     Q_OBJECT
     QML_ELEMENT

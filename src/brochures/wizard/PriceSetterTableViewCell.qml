@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Layouts
 import Kavor.Ui
 import Kavor.Screens
 
-// A selected format: its prices, its volume, its "new" mark, and the way out of the menu.
+// A selected format: its prices, its volume, its "new" mark, and the way out of the menu. All in one row, the prices
+// beside the name, or (on a phone) everything below each other.
 Item {
     id: cell
 
@@ -24,9 +24,12 @@ Item {
     required property bool isNewProduct
     required property bool hasRecommendation
 
-    readonly property bool wide: width >= 700
+    readonly property bool twoPrices: controller.secondaryPriceVisible
+    readonly property bool wide: width >= (twoPrices ? 900 : 700)
+    readonly property bool stacked: !wide && width < 560
+    readonly property real inner: width - 2 * Theme.spaceM
 
-    implicitHeight: card.implicitHeight + Theme.spaceM
+    implicitHeight: card.height + Theme.spaceM
 
     Accessible.role: Accessible.ListItem
     Accessible.name: productBrandNameLabel + " " + productTypeLabel
@@ -35,146 +38,146 @@ Item {
         id: card
 
         width: parent.width
-        implicitHeight: grid.implicitHeight + 2 * Theme.spaceM
+        height: Math.max(head.y + head.height, prices.visible ? prices.y + prices.height : 0, actions.y + actions.height)
+                + Theme.spaceM
         radius: Theme.radius
         color: Theme.surface
         border.width: 1
         border.color: Theme.hairline
+    }
 
-        GridLayout {
-            id: grid
+    Item {
+        id: head
 
-            x: Theme.spaceM
-            y: Theme.spaceM
-            width: parent.width - 2 * Theme.spaceM
-            columnSpacing: Theme.spaceM
-            rowSpacing: Theme.spaceS
+        x: Theme.spaceM
+        y: Theme.spaceM
+        width: cell.stacked ? cell.inner
+             : (cell.wide ? actions.x : card.width) - x - Theme.spaceM - (prices.visible ? prices.width + Theme.spaceM : 0)
+        height: !cell.stacked && prices.visible ? prices.height : 56
 
-            RowLayout {
-                Layout.row: 0
-                Layout.column: 0
-                Layout.fillWidth: true
-                spacing: Theme.spaceM
+        ResourceImage {
+            id: picture
 
-                ResourceImage {
-                    Layout.preferredWidth: 56
-                    Layout.preferredHeight: 56
-                    radius: 10
-                    source: cell.productImage
-                    mat: Theme.paper
-                    placeholderIcon: "bottle"
-                    fillMode: Image.PreserveAspectFit
-                }
-                Column {
-                    Layout.fillWidth: true
-                    spacing: 2
+            anchors.verticalCenter: parent.verticalCenter
+            width: 56
+            height: 56
+            radius: 10
+            source: cell.productImage
+            mat: Theme.paper
+            placeholderIcon: "bottle"
+            fillMode: Image.PreserveAspectFit
+        }
+        Column {
+            anchors.left: picture.right
+            anchors.leftMargin: Theme.spaceM
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 2
 
-                    Text {
-                        objectName: "productBrandNameLabel" + cell.index
-                        width: parent.width
-                        text: cell.productBrandNameLabel
-                        color: Theme.ink
-                        elide: Text.ElideRight
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Theme.fontLarge
-                        font.weight: Font.Bold
-                    }
-                    Text {
-                        width: parent.width
-                        text: cell.productTypeLabel + (cell.formatCustomVolumeLabel !== "" ? "  ·  " + cell.formatCustomVolumeLabel : "")
-                        color: Theme.mutedInk
-                        elide: Text.ElideRight
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Theme.fontBody
-                    }
-                }
-                IconButton {
-                    objectName: "deleteProductButton" + cell.index
-                    visible: !cell.wide
-                    icon: "trash"
-                    colour: Theme.danger
-                    text: "Borrar " + cell.productBrandNameLabel + " " + cell.productTypeLabel
-                    onClicked: cell.controller.deleteProductButton(cell.index)
-                }
+            Text {
+                objectName: "productBrandNameLabel" + cell.index
+                width: parent.width
+                text: cell.productBrandNameLabel
+                color: Theme.ink
+                elide: Text.ElideRight
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontLarge
+                font.weight: Font.Bold
             }
-
-            RowLayout {
-                Layout.row: cell.wide ? 0 : 1
-                Layout.column: cell.wide ? 1 : 0
-                Layout.fillWidth: !cell.wide
-                visible: cell.controller.primaryPriceVisible || cell.controller.secondaryPriceVisible
-                spacing: Theme.spaceM
-
-                PriceField {
-                    objectName: "retailPrimaryPriceTextField" + cell.primaryTag
-                    Layout.fillWidth: !cell.wide
-                    Layout.preferredWidth: 124
-                    visible: cell.controller.primaryPriceVisible
-                    label: "PVP Rec"
-                    emphasised: true
-                    displayText: cell.primaryText
-                    editText: cell.primaryEditText
-                    onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.primaryTag, text)
-                }
-                PriceField {
-                    objectName: "retailSecondaryPriceTextField" + cell.secondaryTag
-                    Layout.fillWidth: !cell.wide
-                    Layout.preferredWidth: 124
-                    visible: cell.controller.secondaryPriceVisible
-                    label: cell.controller.orderBySecondaryTitle
-                    displayText: cell.secondaryText
-                    editText: cell.secondaryEditText
-                    onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.secondaryTag, text)
-                }
+            Text {
+                width: parent.width
+                text: cell.productTypeLabel
+                      + (cell.formatCustomVolumeLabel !== "" ? "  ·  " + cell.formatCustomVolumeLabel : "")
+                color: Theme.mutedInk
+                elide: Text.ElideRight
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontBody
             }
+        }
+    }
 
-            RowLayout {
-                Layout.row: cell.wide ? 0 : 2
-                Layout.column: cell.wide ? 2 : 0
-                Layout.alignment: Qt.AlignBottom
-                Layout.fillWidth: !cell.wide
-                // As wide in every row, so that the prices stand in a column.
-                Layout.preferredWidth: cell.wide ? 340 : implicitWidth
-                spacing: Theme.spaceXS
+    Row {
+        id: prices
 
-                Chip {
-                    objectName: "newProductButton" + cell.index
-                    text: "Nuevo"
-                    icon: cell.isNewProduct ? "check" : "plus"
-                    tappable: true
-                    selected: cell.isNewProduct
-                    Accessible.role: Accessible.CheckBox
-                    Accessible.checkable: true
-                    Accessible.checked: cell.isNewProduct
-                    onClicked: cell.controller.newProductButton(cell.index)
-                }
-                Chip {
-                    objectName: "editVolumeButton" + cell.index
-                    visible: cell.isVolumeEditable
-                    text: cell.isVolumeUnset ? "Volumen" : cell.formatCustomVolumeLabel
-                    icon: "glass"
-                    tappable: true
-                    tone: cell.isVolumeUnset ? "amber" : "neutral"
-                    accessibleName: "Cambiar el volumen"
-                    onClicked: cell.controller.editVolumeButton(cell.index)
-                }
-                Item { Layout.fillWidth: true }
-                IconButton {
-                    objectName: "priceRecommendation" + cell.index
-                    opacity: cell.hasRecommendation ? 1 : 0
-                    enabled: cell.hasRecommendation
-                    icon: "euro"
-                    text: "Precio recomendado"
-                    onClicked: cell.controller.priceRecommendation(cell.index)
-                }
-                IconButton {
-                    objectName: cell.wide ? "deleteProductButton" + cell.index : ""
-                    visible: cell.wide
-                    icon: "trash"
-                    colour: Theme.danger
-                    text: "Borrar " + cell.productBrandNameLabel + " " + cell.productTypeLabel
-                    onClicked: cell.controller.deleteProductButton(cell.index)
-                }
+        readonly property real fieldWidth: !cell.stacked ? 124
+                                         : cell.twoPrices ? (cell.inner - spacing) / 2 : cell.inner
+
+        x: cell.stacked ? Theme.spaceM : (cell.wide ? actions.x : card.width) - Theme.spaceM - width
+        y: cell.stacked ? head.y + head.height + Theme.spaceS : Theme.spaceM
+        visible: cell.controller.primaryPriceVisible
+        spacing: Theme.spaceM
+
+        PriceField {
+            objectName: "retailPrimaryPriceTextField" + cell.primaryTag
+            width: prices.fieldWidth
+            label: "PVP Rec"
+            emphasised: true
+            displayText: cell.primaryText
+            editText: cell.primaryEditText
+            onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.primaryTag, text)
+        }
+        PriceField {
+            objectName: "retailSecondaryPriceTextField" + cell.secondaryTag
+            width: prices.fieldWidth
+            visible: cell.twoPrices
+            label: cell.controller.orderBySecondaryTitle
+            displayText: cell.secondaryText
+            editText: cell.secondaryEditText
+            onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.secondaryTag, text)
+        }
+    }
+
+    Item {
+        id: actions
+
+        x: cell.wide ? card.width - Theme.spaceM - width : Theme.spaceM
+        y: cell.wide ? Theme.spaceM + (head.height - height) / 2
+         : (prices.visible ? Math.max(prices.y + prices.height, head.y + head.height) : head.y + head.height) + Theme.spaceS
+        width: cell.wide ? 320 : cell.inner
+        height: Theme.touch
+
+        Row {
+            spacing: Theme.spaceXS
+
+            Chip {
+                objectName: "newProductButton" + cell.index
+                text: "Nuevo"
+                icon: cell.isNewProduct ? "check" : "plus"
+                tappable: true
+                selected: cell.isNewProduct
+                Accessible.role: Accessible.CheckBox
+                Accessible.checkable: true
+                Accessible.checked: cell.isNewProduct
+                onClicked: cell.controller.newProductButton(cell.index)
+            }
+            Chip {
+                objectName: "editVolumeButton" + cell.index
+                visible: cell.isVolumeEditable
+                text: cell.isVolumeUnset ? "Volumen" : cell.formatCustomVolumeLabel
+                icon: "glass"
+                tappable: true
+                tone: cell.isVolumeUnset ? "amber" : "neutral"
+                accessibleName: "Cambiar el volumen"
+                onClicked: cell.controller.editVolumeButton(cell.index)
+            }
+        }
+        Row {
+            anchors.right: parent.right
+
+            IconButton {
+                objectName: "priceRecommendation" + cell.index
+                opacity: cell.hasRecommendation ? 1 : 0
+                enabled: cell.hasRecommendation
+                icon: "euro"
+                text: "Precio recomendado"
+                onClicked: cell.controller.priceRecommendation(cell.index)
+            }
+            IconButton {
+                objectName: "deleteProductButton" + cell.index
+                icon: "trash"
+                colour: Theme.danger
+                text: "Borrar " + cell.productBrandNameLabel + " " + cell.productTypeLabel
+                onClicked: cell.controller.deleteProductButton(cell.index)
             }
         }
     }

@@ -40,9 +40,13 @@ double setSecondaryPrice(const PriceRow& row) {
 
 } // namespace
 
-QString& PriceSorting::pictureOf(Button button) { return pictures_[int(button)]; }
+QString& PriceSorting::pictureOf(Button button) {
+    return pictures_[int(button)];
+}
 
-QString PriceSorting::picture(Button button) const { return pictures_[int(button)]; }
+QString PriceSorting::picture(Button button) const {
+    return pictures_[int(button)];
+}
 
 void PriceSorting::press(Button button, std::vector<PriceRow>& rows) {
     QString picture;

@@ -26,8 +26,8 @@ private:
     int sortByFormatButtonStatus_ = 0;
     int sortedByFirstPvp_ = 0;
     int sortedBySecondaryPvp_ = 0;
-    QString pictures_[4] = {QStringLiteral("sort_both"), QStringLiteral("sort_both"), QStringLiteral("sort_both"),
-                            QStringLiteral("sort_both")};
+    QString pictures_[4] = {QStringLiteral("sort_both"), QStringLiteral("sort_both"),
+                            QStringLiteral("sort_both"), QStringLiteral("sort_both")};
 };
 
 } // namespace kavor

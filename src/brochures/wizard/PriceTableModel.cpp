@@ -14,7 +14,9 @@ bool isSameFormat(const PriceRow& one, const PriceRow& other) {
     return one.productIdentifier == other.productIdentifier && one.brandIdentifier == other.brandIdentifier;
 }
 
-QString currency(double value) { return fromUtf8(AppFormatter::shared().currencyFormatter(value)); }
+QString currency(double value) {
+    return fromUtf8(AppFormatter::shared().currencyFormatter(value));
+}
 
 } // namespace
 
@@ -72,7 +74,8 @@ void PriceTableModel::setPriceText(int tag, const QString& text) {
         return;
     const bool secondary = withSecondaryPrice_ && n % 2 == 1;
     (secondary ? cells_[std::size_t(row)].secondary : cells_[std::size_t(row)].primary) = text;
-    emit dataChanged(index(row), index(row), {PrimaryTextRole, PrimaryEditRole, SecondaryTextRole, SecondaryEditRole});
+    emit dataChanged(index(row), index(row),
+                     {PrimaryTextRole, PrimaryEditRole, SecondaryTextRole, SecondaryEditRole});
 }
 
 void PriceTableModel::setNewProduct(int row, bool isNew) {
@@ -82,7 +85,9 @@ void PriceTableModel::setNewProduct(int row, bool isNew) {
     emit dataChanged(index(row), index(row), {NewProductRole});
 }
 
-int PriceTableModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }
+int PriceTableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count();
+}
 
 QVariant PriceTableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= count())

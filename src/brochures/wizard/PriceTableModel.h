@@ -9,8 +9,8 @@
 
 namespace kavor {
 
-// The table of the prices step as it stands on the screen. It shows the rows of its last reload: an edit writes back
-// only the field that was left.
+// The table of the prices step as it stands on the screen. It shows the rows of its last reload: an edit
+// writes back only the field that was left.
 class PriceTableModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT

@@ -6,8 +6,8 @@
 namespace kavor {
 
 PriorityBrandSelectorView::PriorityBrandSelectorView(const std::vector<Brochures::BrandProperty>& properties,
-                                                     ApplicationFather family, PriorityFilterDelegate& delegate,
-                                                     QObject* parent)
+                                                     ApplicationFather family,
+                                                     PriorityFilterDelegate& delegate, QObject* parent)
     : QObject(parent)
     , delegate_(delegate)
     , propertyPicker_(QStringLiteral("Todos")) {

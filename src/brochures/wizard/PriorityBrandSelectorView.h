@@ -24,14 +24,15 @@ class PriorityBrandSelectorView : public QObject {
     // The rows of propertyPicker; the first one is "Todos".
     Q_PROPERTY(QStringList propertyPicker READ propertyPicker CONSTANT)
     Q_PROPERTY(int propertyIndex READ propertyIndex WRITE setPropertyIndex NOTIFY changed)
-    Q_PROPERTY(QString searchBrandTextField READ searchBrandTextField WRITE setSearchBrandTextField NOTIFY changed)
+    Q_PROPERTY(
+        QString searchBrandTextField READ searchBrandTextField WRITE setSearchBrandTextField NOTIFY changed)
 
 public:
     enum class Filter { all, priority };
 
     // Offers the properties of one family. The delegate outlives the bar.
-    PriorityBrandSelectorView(const std::vector<Brochures::BrandProperty>& properties, ApplicationFather family,
-                              PriorityFilterDelegate& delegate, QObject* parent);
+    PriorityBrandSelectorView(const std::vector<Brochures::BrandProperty>& properties,
+                              ApplicationFather family, PriorityFilterDelegate& delegate, QObject* parent);
 
     [[nodiscard]] Filter appliedFilter() const { return appliedFilter_; }
     [[nodiscard]] bool isPriorityApplied() const { return appliedFilter_ == Filter::priority; }

@@ -12,7 +12,9 @@
 
 namespace kavor {
 
-QUrl stepView(const QString& fileName) { return {QStringLiteral("qrc:/qt/qml/Kavor/Screens/") + fileName}; }
+QUrl stepView(const QString& fileName) {
+    return {QStringLiteral("qrc:/qt/qml/Kavor/Screens/") + fileName};
+}
 
 const Brochures::Type* sectionBrochureType(const Catalogue& catalogue) {
     const auto kind = AppSingleton::shared().brochureType();
@@ -38,12 +40,12 @@ void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
         TemporalBrochure::shared().write(*draft);
 }
 
-void storeCatalogueInBackground() {
+void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former) {
     const AppSingleton& session = AppSingleton::shared();
     if (session.documentsFolder().empty())
         return;
     QThreadPool::globalInstance()->start(
-        [catalogue = session.applicationInformation,
+        [former = std::move(former), catalogue = session.applicationInformation,
          path = session.documentsFolder() / std::string(state_file::applicationInformation)] {
             if (auto encoded = json::encode(catalogue->information()))
                 BackgroundFileWriter::shared().write(path, std::move(*encoded));

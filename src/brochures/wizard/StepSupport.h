@@ -22,14 +22,16 @@ const Brochures::Type* sectionBrochureType(const Catalogue& catalogue);
 // Its switches and limits; nullptr outside a brochure section. The process stops for a kind without any.
 const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue);
 
-// Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no longer
-// the shared one, and outside a brochure section.
+// Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no
+// longer the shared one, and outside a brochure section.
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
 
-// Stores the session's catalogue after a brand was added by hand, in the background, so that the brand outlives the
-// process even when that ends without warning.
-void storeCatalogueInBackground();
+// Stores the session's catalogue after a brand was added by hand, in the background, so that the brand
+// outlives the process even when that ends without warning. The former catalogue is let go there too.
+void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former);
 
-inline QString fromUtf8(const std::string& utf8) { return QString::fromStdString(utf8); }
+inline QString fromUtf8(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
 
 } // namespace kavor

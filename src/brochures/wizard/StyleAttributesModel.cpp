@@ -27,7 +27,8 @@ std::string pngDataText(const QImage& image) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     const bool large = std::max(image.width(), image.height()) > longestImageSide;
-    (large ? image.scaled(longestImageSide, longestImageSide, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image)
+    (large ? image.scaled(longestImageSide, longestImageSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+           : image)
         .save(&buffer, "PNG");
     return "data:image/png;base64," + bytes.toBase64().toStdString();
 }
@@ -51,7 +52,8 @@ void StyleAttributesModel::setStyle(const StyleContext& context, const Brochures
         const auto found = std::ranges::find_if(stored, [&](const Value& value) {
             return value.menuStyleId == styleId_ && value.attributeId == attribute.id;
         });
-        values_.push_back(found == stored.end() ? Value{attribute.id, styleId_, std::nullopt, std::nullopt} : *found);
+        values_.push_back(found == stored.end() ? Value{attribute.id, styleId_, std::nullopt, std::nullopt}
+                                                : *found);
         switchValues_[attribute.id] = values_.back().value.has_value();
     }
     endResetModel();
@@ -60,8 +62,8 @@ void StyleAttributesModel::setStyle(const StyleContext& context, const Brochures
 
 void StyleAttributesModel::serialize() {
     BrochureIntermediateData& draft = *context_.draft;
-    const auto other = context_.isSectionStyleDigital ? draft.selectedStyleIdentifier
-                                                      : draft.selectedStyleDigitalIdentifier;
+    const auto other =
+        context_.isSectionStyleDigital ? draft.selectedStyleIdentifier : draft.selectedStyleDigitalIdentifier;
     std::vector<Value> kept;
     for (const Value& value : draft.valuesMenuStyleAttributes.value_or(std::vector<Value>())) {
         if (value.menuStyleId == other && value.menuStyleId != styleId_)
@@ -140,7 +142,8 @@ QString StyleAttributesModel::errorOf(const Attribute& attribute, const Value& v
     const QRegularExpression expression(fromUtf8(*type->regex));
     if (!expression.isValid() || expression.match(fromUtf8(*value.value)).hasMatch())
         return {};
-    return QStringLiteral("El formato para este campo es ") + fromUtf8(type->description.value_or(type->name));
+    return QStringLiteral("El formato para este campo es ") +
+           fromUtf8(type->description.value_or(type->name));
 }
 
 int StyleAttributesModel::choiceOf(const Attribute& attribute, const Value& value) const {
@@ -150,7 +153,9 @@ int StyleAttributesModel::choiceOf(const Attribute& attribute, const Value& valu
     return found == attribute.values.end() ? -1 : int(found - attribute.values.begin());
 }
 
-int StyleAttributesModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }
+int StyleAttributesModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count();
+}
 
 QVariant StyleAttributesModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= count())
@@ -181,22 +186,17 @@ QVariant StyleAttributesModel::data(const QModelIndex& index, int role) const {
     case SwitchRole:
         return switchValues_.contains(attribute.id) && switchValues_.at(attribute.id);
     case ImageRole:
-        return kindOf(attribute) == imageAttributeCell ? dataImageUrl(value.value.value_or(std::string())) : QString();
+        return kindOf(attribute) == imageAttributeCell ? dataImageUrl(value.value.value_or(std::string()))
+                                                       : QString();
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> StyleAttributesModel::roleNames() const {
-    return {{KindRole, "kind"},
-            {LabelRole, "label"},
-            {MaximumLengthRole, "maximumLength"},
-            {NumericRole, "numeric"},
-            {ValueRole, "value"},
-            {ErrorRole, "error"},
-            {ChoicesRole, "choices"},
-            {ChoiceRole, "choice"},
-            {SwitchRole, "switchOn"},
+    return {{KindRole, "kind"},       {LabelRole, "label"},   {MaximumLengthRole, "maximumLength"},
+            {NumericRole, "numeric"}, {ValueRole, "value"},   {ErrorRole, "error"},
+            {ChoicesRole, "choices"}, {ChoiceRole, "choice"}, {SwitchRole, "switchOn"},
             {ImageRole, "image"}};
 }
 

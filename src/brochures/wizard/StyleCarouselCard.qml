@@ -8,6 +8,8 @@ Column {
 
     required property BrochureStyleSelectorViewController controller
     property real coverHeight: 380
+    property bool landscape: false
+    readonly property real coverRatio: landscape ? 1.414 : 0.7075 // covers are sheets of paper
 
     spacing: Theme.spaceM
 
@@ -26,6 +28,17 @@ Column {
         target: card.controller
         function onCurrentStyleChanged(): void {
             card.follow();
+        }
+    }
+
+    Image { // tells whether the covers lie on their side
+        visible: false
+        asynchronous: true
+        source: carousel.view.currentItem?.styleImage ?? ""
+        sourceSize: Qt.size(64, 64)
+        onStatusChanged: {
+            if (status === Image.Ready)
+                card.landscape = implicitWidth > implicitHeight;
         }
     }
 
@@ -64,8 +77,8 @@ Column {
 
         objectName: "styleCarousel"
         width: parent.width
-        height: card.coverHeight
-        itemWidth: Math.min(width * 0.72, card.coverHeight * 0.76)
+        height: (itemWidth - 8) / card.coverRatio + 8
+        itemWidth: Math.min(width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
         showDots: false
         text: "Estilos"
         model: card.controller.styles

@@ -42,7 +42,8 @@ const Brochures::Style* StyleCarouselModel::styleAt(int row) const {
 }
 
 int StyleCarouselModel::indexOf(std::optional<Int> style) const {
-    const auto found = std::ranges::find_if(brochureStyles_, [&](const auto& offered) { return offered.id == style; });
+    const auto found =
+        std::ranges::find_if(brochureStyles_, [&](const auto& offered) { return offered.id == style; });
     return found == brochureStyles_.end() ? -1 : int(found - brochureStyles_.begin());
 }
 
@@ -63,7 +64,9 @@ QVariantList StyleCarouselModel::thumbnails() const {
     return result;
 }
 
-int StyleCarouselModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }
+int StyleCarouselModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count();
+}
 
 QVariant StyleCarouselModel::data(const QModelIndex& index, int role) const {
     const Brochures::Style* style = index.isValid() ? styleAt(index.row()) : nullptr;
@@ -84,7 +87,10 @@ QVariant StyleCarouselModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> StyleCarouselModel::roleNames() const {
-    return {{NameRole, "styleName"}, {ImageRole, "styleImage"}, {CoverRole, "isCover"}, {PreferredRole, "isPreferred"}};
+    return {{NameRole, "styleName"},
+            {ImageRole, "styleImage"},
+            {CoverRole, "isCover"},
+            {PreferredRole, "isPreferred"}};
 }
 
 } // namespace kavor

@@ -24,10 +24,11 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    // Takes the styles of a kind and, for a chalkboard, of a format; sorts them by position. Styles whose preferred
-    // brands meet the selected ones get the badge "preferente_big".
+    // Takes the styles of a kind and, for a chalkboard, of a format; sorts them by position. Styles whose
+    // preferred brands meet the selected ones get the badge "preferente_big".
     void setStyles(const std::vector<Brochures::Style>& unorderedStyles, BrochureType kind,
-                   const std::optional<Int>& blackboardFormatTypeId, const std::set<Int>& selectedBrandIdentifiers);
+                   const std::optional<Int>& blackboardFormatTypeId,
+                   const std::set<Int>& selectedBrandIdentifiers);
     // Shows the other side of a style.
     void flip(int row);
 

@@ -21,7 +21,8 @@ void StyleLogosForm::setStyle(const StyleContext& context, const Brochures::Styl
             context.draft->selectedLogoIdentifiers.reset();
     }
     const auto chosen = context.draft->currentLogos().value_or(BrochureIntermediateData::LogoIdentifiers());
-    rows_ = {rowOf(chosen.firstIdentifier, 0), rowOf(chosen.secondIdentifier, 1), rowOf(chosen.thirdIdentifier, 2)};
+    rows_ = {rowOf(chosen.firstIdentifier, 0), rowOf(chosen.secondIdentifier, 1),
+             rowOf(chosen.thirdIdentifier, 2)};
     emit changed();
 }
 

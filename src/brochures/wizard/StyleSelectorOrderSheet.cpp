@@ -16,9 +16,13 @@ void StyleSelectorOrderSheet::goTo(int page) {
     emit pageChanged();
 }
 
-void StyleSelectorOrderSheet::leftButtonAction() { goTo(page_ - 1); }
+void StyleSelectorOrderSheet::leftButtonAction() {
+    goTo(page_ - 1);
+}
 
-void StyleSelectorOrderSheet::rightButtonAction() { goTo(page_ + 1); }
+void StyleSelectorOrderSheet::rightButtonAction() {
+    goTo(page_ + 1);
+}
 
 QString StyleSelectorOrderSheet::imagenCount() const {
     return images_.isEmpty() ? QString() : QStringLiteral("%1 / %2").arg(page_ + 1).arg(images_.size());

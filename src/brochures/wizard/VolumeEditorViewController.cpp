@@ -18,11 +18,12 @@ void VolumeEditorViewController::edit(const PriceRow& product, ChangeVolumeHandl
     possibleVolumes_.clear();
     // Without a minimum there is nothing to count from.
     if (product.isVolumeEditable && product.minimumVolume) {
-        for (Int volume = *product.minimumVolume; volume <= product.maximumVolume.value_or(maximumVolume); ++volume)
+        for (Int volume = *product.minimumVolume; volume <= product.maximumVolume.value_or(maximumVolume);
+             ++volume)
             possibleVolumes_.push_back(volume);
     }
-    const auto chosen = std::ranges::find(possibleVolumes_, product.volume,
-                                          [](Int volume) { return std::optional(volume); });
+    const auto chosen =
+        std::ranges::find(possibleVolumes_, product.volume, [](Int volume) { return std::optional(volume); });
     setSelectedRow(chosen == possibleVolumes_.end() ? 0 : int(chosen - possibleVolumes_.begin()) + 1);
 }
 
@@ -59,9 +60,12 @@ void VolumeEditorViewController::confirm() {
     if (changeVolumeHandler_ && changeVolumeHandler_(volume, product_))
         emit closed();
     else
-        alerts_.inform(QStringLiteral("Atención"), QStringLiteral("No se ha podido guardar el cambio."), this);
+        alerts_.inform(QStringLiteral("Atención"), QStringLiteral("No se ha podido guardar el cambio."),
+                       this);
 }
 
-void VolumeEditorViewController::close() { emit closed(); }
+void VolumeEditorViewController::close() {
+    emit closed();
+}
 
 } // namespace kavor

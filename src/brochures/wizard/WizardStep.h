@@ -53,7 +53,8 @@ public:
     virtual void viewWillAppear() {}
 
 signals:
-    // Asks the frame to show another step by its number (for example from a message that says what is missing).
+    // Asks the frame to show another step by its number (for example from a message that says what is
+    // missing).
     void stepRequested(int wizardStep);
     // Asks the frame to show a document (PDF) over the wizard.
     void previewRequested(const QUrl& document);

@@ -18,19 +18,22 @@ struct Table<ValidationErrorsResponse> {
 template <>
 struct Table<OutdatedVersionErrorResponse> {
     using R = OutdatedVersionErrorResponse;
-    static constexpr auto fields = std::tuple{required("msg", &R::message), required("update_link", &R::updateLink)};
+    static constexpr auto fields =
+        std::tuple{required("msg", &R::message), required("update_link", &R::updateLink)};
 };
 
 template <>
 struct Table<DemandBrandQrErrorResponse> {
     using R = DemandBrandQrErrorResponse;
-    static constexpr auto fields =
-        std::tuple{required("msg", &R::message), optional("can_demand_qr", &R::canDemandQr),
-                   optional("order_state_id", &R::orderStateId), optional("order_state_name", &R::orderStateName)};
+    static constexpr auto fields = std::tuple{
+        required("msg", &R::message), optional("can_demand_qr", &R::canDemandQr),
+        optional("order_state_id", &R::orderStateId), optional("order_state_name", &R::orderStateName)};
 };
 
 // Any JSON document will do.
-inline bool readValue(Element, SimpleResponse&, Context&) { return true; }
+inline bool readValue(Element, SimpleResponse&, Context&) {
+    return true;
+}
 inline bool writeValue(Writer& writer, const SimpleResponse&) {
     writer.open('{');
     writer.close('}');

@@ -264,8 +264,8 @@ QIcon Artwork::applicationIcon() {
     return icon;
 }
 
-void Snapshot::setImage(const QImage& image) {
-    image_ = image;
+void Snapshot::setImage(const QVariant& image) {
+    image_ = image.value<QImage>();
     emit imageChanged();
     update();
 }

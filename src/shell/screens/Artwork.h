@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QQuickPaintedItem>
+#include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
 namespace kavor {
@@ -34,11 +35,15 @@ private:
 class Snapshot : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QImage image MEMBER image_ WRITE setImage NOTIFY imageChanged)
+    // A QImage.
+    Q_PROPERTY(QVariant image READ image WRITE setImage NOTIFY imageChanged)
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY imageChanged)
 
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
-    void setImage(const QImage& image);
+    [[nodiscard]] QVariant image() const { return image_; }
+    void setImage(const QVariant& image);
+    [[nodiscard]] bool isEmpty() const { return image_.isNull(); }
     void paint(QPainter* painter) override;
 
 signals:

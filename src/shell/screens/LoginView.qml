@@ -66,7 +66,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         twoColumns: false
         maximumWidth: 420
-        margin: Math.max(Theme.pageMargin, (height - 520) / (view.wide ? 2 : 4))
+        margin: Theme.compact ? Theme.pageMargin : Math.max(Theme.pageMargin, (height - 520) / (view.wide ? 2 : 4))
 
         LoginForm {
             implicitWidth: page.width < 420 + 2 * page.margin ? page.width - 2 * page.margin : 420

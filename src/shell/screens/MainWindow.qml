@@ -49,13 +49,10 @@ AppWindow {
 
         anchors.fill: parent
         image: window.root.snapshot
-        visible: transition.running
+        visible: !empty
         onImageChanged: {
-            if (visible || window.root.snapshot.width === 0)
-                return;
-            opacity = 1;
-            scale = 1;
-            transition.restart();
+            if (!empty)
+                transition.restart();
         }
 
         ParallelAnimation {

@@ -27,7 +27,7 @@ class RootController : public QObject {
     Q_PROPERTY(QAbstractItemModel* screens READ screens CONSTANT)
     Q_PROPERTY(QObject* alerts READ alerts CONSTANT)
     // The window as it was before the root changed, while the transition runs.
-    Q_PROPERTY(QImage snapshot READ snapshot NOTIFY snapshotChanged)
+    Q_PROPERTY(QVariant snapshot READ snapshot NOTIFY snapshotChanged)
 
 public:
     // Makes the screen that a transition of the dashboard leads to; it calls `close` when the user leaves it.
@@ -52,7 +52,7 @@ public:
 
     [[nodiscard]] QAbstractItemModel* screens() { return &screens_; }
     [[nodiscard]] QObject* alerts() const;
-    [[nodiscard]] QImage snapshot() const { return snapshot_; }
+    [[nodiscard]] QVariant snapshot() const { return snapshot_; }
     [[nodiscard]] WelcomeViewController* welcome() const { return welcome_; }
     [[nodiscard]] LoginViewController* login() const { return login_; }
 

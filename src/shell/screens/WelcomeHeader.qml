@@ -8,7 +8,7 @@ Item {
 
     required property WelcomeViewController controller
 
-    implicitHeight: Math.max(Theme.compact ? 124 : 148, words.implicitHeight + 2 * Theme.spaceL)
+    implicitHeight: Math.max(Theme.compact ? 124 : 148, words.implicitHeight + 2 * Theme.spaceXL)
 
     Artwork {
         objectName: "loginImage"
@@ -19,6 +19,7 @@ Item {
         id: words
 
         anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: -Theme.spaceXS // the shelf is below
         x: Theme.pageMargin
         width: Math.min(parent.width * 0.5, 460)
         spacing: Theme.spaceS
