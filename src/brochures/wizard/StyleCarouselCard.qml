@@ -8,15 +8,17 @@ Column {
 
     required property BrochureStyleSelectorViewController controller
     property real coverHeight: 380
+    readonly property int currentStyle: controller.currentStyle
     property bool landscape: false
     readonly property real coverRatio: landscape ? 1.414 : 0.7075 // covers are sheets of paper
 
     spacing: Theme.spaceM
 
     function follow(): void {
-        carousel.currentIndex = controller.currentStyle;
+        carousel.currentIndex = currentStyle;
     }
 
+    onCurrentStyleChanged: follow()
     Component.onCompleted: {
         const view = carousel.view;
         view.highlightMoveDuration = 0; // the chosen style stands in the middle from the first frame
@@ -24,18 +26,12 @@ Column {
         view.highlightMoveDuration = Theme.normal;
     }
 
-    Connections {
-        target: card.controller
-        function onCurrentStyleChanged(): void {
-            card.follow();
-        }
-    }
-
     Image { // tells whether the covers lie on their side
         visible: false
         asynchronous: true
         source: carousel.view.currentItem?.styleImage ?? ""
-        sourceSize: Qt.size(64, 64)
+        sourceSize.width: 64
+        sourceSize.height: 64
         onStatusChanged: {
             if (status === Image.Ready)
                 card.landscape = implicitWidth > implicitHeight;

@@ -5,10 +5,10 @@ import QtQuick
 QtObject {
     id: inView
 
-    required property Item item
+    property Item item: null
     property Flickable scroller: null
     readonly property bool value: {
-        if (!scroller)
+        if (!scroller || !item)
             return true;
         // Read for the binding: a place moves with the content.
         const moved = scroller.contentX + scroller.contentY + scroller.contentHeight;
@@ -18,7 +18,7 @@ QtObject {
     }
 
     Component.onCompleted: {
-        let up = item.parent;
+        let up = item ? item.parent : null;
         while (up && !(up instanceof Flickable))
             up = up.parent;
         scroller = up;
