@@ -1,0 +1,100 @@
+#!/usr/bin/env python3
+"""Turns the results of the benches into ratios: table.py FOLDER [--line].
+
+FOLDER holds catalogue.json, draft.json and filter.json (Google Benchmark's form), fresh.json (a list of runs of
+fresh_decode) and start.json. What is missing is left out. Exit status 1 when an aim is missed.
+"""
+import json
+import pathlib
+import statistics
+import sys
+
+UNITS = {'ns': 1e-6, 'us': 1e-3, 'ms': 1.0, 's': 1e3}
+
+
+def load(folder, name):
+    path = pathlib.Path(folder, name)
+    return json.loads(path.read_text()) if path.exists() and path.stat().st_size else None
+
+
+def milliseconds(results):
+    """Median real time by benchmark, for results with or without repetitions."""
+    times = {}
+    for each in results['benchmarks'] if results else []:
+        if each.get('aggregate_name', 'median') == 'median':
+            name = each['run_name'].split('/iterations:')[0].removesuffix('/manual_time')
+            times[name] = each['real_time'] * UNITS[each['time_unit']]
+    return times
+
+
+def ratio(times, above, below):
+    return times[above] / times[below] if above in times and below in times else None
+
+
+def catalogue_rows(times):
+    yield 'decode 12 MB: share of the bare parse', ratio(times, 'bareParse/12', 'decode/12'), '>=', 0.40
+    yield 'decode 12 MB: times faster than nlohmann', ratio(times, 'decodeNlohmann/12', 'decode/12'), '>=', 12
+    yield 'decode 12 MB: times faster than QJsonDocument', ratio(times, 'decodeQt/12', 'decode/12'), '>=', 8
+    for name in ('Indented', 'Escapes', 'Reversed'):
+        yield f'decode 12 MB, {name.lower()}: times the plain one', ratio(times, f'decode{name}', 'decode/12'), '<=', 2
+    yield 'free the records: share of the decode', ratio(times, 'freeRecords/12', 'decode/12'), '<=', 0.5
+    yield 'decode 100 MB: times 12 MB, by size', over(ratio(times, 'decode/100', 'decode/12'), 100 / 12), '<=', 1.5
+    yield 'encode 12 MB: times faster than nlohmann', ratio(times, 'encodeNlohmann/12', 'encode/12'), '>=', 5
+    yield 'a million look-ups: times faster than linear', ratio(times, 'lookUpLinear', 'lookUpIndexed'), '>=', 50
+
+
+def over(value, by):
+    return None if value is None else value / by
+
+
+def fresh_rows(runs):
+    if not runs:
+        return
+    median = {what: statistics.median(run['ms'] for run in runs if run['what'] == what) for what in ('parse', 'decode')}
+    peak = statistics.median(run['peak_bytes'] / run['document_bytes'] for run in runs if run['what'] == 'decode')
+    yield 'decode 12 MB in a fresh process: times the bare parse', median['decode'] / median['parse'], '<=', 2
+    yield 'decode 12 MB: peak memory, times the document', peak, '<=', 5
+
+
+def draft_rows(times):
+    for name in ('validationErrors', 'makeOrder', 'loadOrder', 'filteredSelection'):
+        grown = over(ratio(times, f'{name}/1000/5000', f'{name}/100/5000'), 10)
+        yield f'{name}: 1,000 brands to 100, by brand', grown, '<=', 1.5
+        yield f'{name}: catalogue of 20,000 to 1,250', ratio(times, f'{name}/100/20000', f'{name}/100/1250'), '<=', 1.5
+
+
+def filter_rows(results):
+    if results:
+        runs = [each for each in results['benchmarks'] if each.get('aggregate_name', 'median') == 'median']
+        yield 'brand filter, 5,000 brands: worst keystroke, ms', max(each['worst_ms'] for each in runs), '<=', 4
+
+
+def start_rows(result):
+    if result:
+        yield 'first frame of the dashboard: times an empty window', result['client_ms'] / result['empty_ms'], '<=', 1.5
+
+
+def main():
+    folder = sys.argv[1]
+    catalogue = milliseconds(load(folder, 'catalogue.json'))
+    draft = milliseconds(load(folder, 'draft.json'))
+    start = load(folder, 'start.json')
+    rows = [*catalogue_rows(catalogue), *fresh_rows(load(folder, 'fresh.json')), *draft_rows(draft),
+            *filter_rows(load(folder, 'filter.json')), *start_rows(start)]
+    rows = [row for row in rows if row[1] is not None]
+    missed = [name for name, value, sign, aim in rows if not (value >= aim if sign == '>=' else value <= aim)]
+    if '--line' in sys.argv:
+        print(f'bench: {len(rows) - len(missed)} of {len(rows)} aims met' + ''.join(f'; missed: {name}' for name in missed))
+        return bool(missed)
+    width = max(len(name) for name, *_ in rows)
+    for name, value, sign, aim in rows:
+        print(f'{name:<{width}}  {value:9.2f}  aim {sign} {aim:<5g} {"MISSED" if name in missed else "met"}')
+    print('\nmilliseconds (medians)')
+    for name, time in {**catalogue, **draft}.items():
+        print(f'{name:<{width}}  {time:12.4f}')
+    if start:
+        print(f'{"start: empty window, dashboard":<{width}}  {start["empty_ms"]:12.1f} {start["client_ms"]:.1f}')
+    return bool(missed)
+
+
+sys.exit(main())

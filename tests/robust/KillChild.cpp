@@ -1,0 +1,231 @@
+#include "base/BackgroundFileWriter.h"
+#include "base/Log.h"
+#include "brochures/engine/TemporalBrochure.h"
+#include "device/FileKeychain.h"
+#include "device/UserDefaults.h"
+#include "orders/OrderDiskManager.h"
+#include "robust/StampedFiles.h"
+#include "shell/AppSingleton.h"
+#include "shell/StateFile.h"
+
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <random>
+
+// Writes, replaces, moves and removes the client's files without end, telling each step on stdout before and
+// after it is done, until somebody kills it:
+//
+//   kavor-kill-child FOLDER SEED FIRST-STAMP [OPERATIONS [FILE-SIZE-LIMIT]]
+//
+//   "> KEY STAMP"  the file is about to hold this stamp, 0 for being removed
+//   "= KEY STAMP"  it does now
+//   "! KEY"        it could not be done: the file holds what it held
+//   "? KEY"        some of what was asked for could not be done
+namespace kavor::robust {
+
+namespace {
+
+using Directory = OrderDiskManager::DirectoryName;
+
+std::atomic<bool> somethingFailed = false;
+
+class Child {
+public:
+    Child(std::filesystem::path folder, unsigned seed, Int firstStamp)
+        : folder_(std::move(folder))
+        , random_(seed)
+        , stamp_(firstStamp)
+        , orders_(folder_) {}
+
+    void step() {
+        switch (random_() % 12) {
+        case 0:
+        case 1:
+            return saveDraft<SaveBrochuresOrder>();
+        case 2:
+            return saveDraft<SaveTextileOrder>();
+        case 3:
+            return saveDraft<SellingSheetOrder>();
+        case 4:
+            return moveToOutbox();
+        case 5:
+            return write(std::string(state_file::applicationInformation), [this](Int stamp) {
+                return state_file::write(folder_, state_file::applicationInformation,
+                                         stamped<ApplicationInformation>(stamp));
+            });
+        case 6:
+            return write(std::string(state_file::loginResult), [this](Int stamp) {
+                return state_file::write(folder_, state_file::loginResult, stamped<LoginResult>(stamp));
+            });
+        case 7:
+            return writeTemporaryCopy();
+        case 8:
+            TemporalBrochure::shared().takeForOpening();
+            return random_() % 3 == 0 ? removeTemporaryCopy() : void();
+        case 9:
+            return storeNetPrices();
+        case 10:
+            return write(defaultsKey, [this](Int stamp) {
+                FileUserDefaults(folder_ / defaultsKey).setInteger(QStringLiteral("stamp"), stamp);
+                return !somethingFailed;
+            });
+        default:
+            return write(keychainKey, [this](Int stamp) {
+                FileKeychain keychain(folder_ / keychainKey);
+                const auto secret = stampedSecret(stamp);
+                const auto status = keychain.update(secret);
+                return (status == KeychainStatus::NotFound ? keychain.add(secret) : status) ==
+                       KeychainStatus::Success;
+            });
+        }
+    }
+
+private:
+    static void tell(char sign, const std::string& key, std::optional<Int> stamp = std::nullopt) {
+        const std::string line =
+            std::string(1, sign) + " " + key + (stamp ? " " + std::to_string(*stamp) : "") + "\n";
+        if (::write(STDOUT_FILENO, line.data(), line.size()) != static_cast<ssize_t>(line.size()))
+            ::_exit(1);
+    }
+
+    void begin(const std::string& key, Int stamp) {
+        somethingFailed = false;
+        tell('>', key, stamp);
+    }
+
+    template <class Operation>
+    void write(const std::string& key, Operation operation) {
+        const Int stamp = ++stamp_;
+        begin(key, stamp);
+        if (operation(stamp))
+            tell('=', key, stamp);
+        else
+            tell('!', key);
+    }
+
+    template <class Operation>
+    void remove(const std::string& key, Operation operation) {
+        begin(key, 0);
+        if (operation())
+            tell('=', key, 0);
+        else
+            tell('!', key);
+    }
+
+    // After what is done in the background.
+    void tellOutcome(const std::string& key, Int stamp) {
+        BackgroundFileWriter::shared().flush();
+        if (somethingFailed)
+            tell('?', key);
+        else
+            tell('=', key, stamp);
+    }
+
+    template <class Order>
+    static std::string keyOf(const std::string& name, Directory directory) {
+        return std::string("orders/") + (directory == Directory::draft ? "draft_orders/" : "outbox_orders/") +
+               std::string(Order::folderName) + "/" + OrderDiskManager::fileName(name);
+    }
+
+    std::string anyName() { return "Pedido nº " + std::to_string(random_() % 4); }
+
+    template <class Order>
+    void save(const std::string& name, Directory directory) {
+        write(keyOf<Order>(name, directory), [&](Int stamp) {
+            const auto order = stamped<Order>(stamp);
+            return orders_.exists<Order>(name, directory)
+                       ? orders_.update(order, OrderDiskManager::fileName(name), directory)
+                       : orders_.create(order, directory, name);
+        });
+    }
+
+    template <class Order>
+    void saveDraft() {
+        save<Order>(anyName(), Directory::draft);
+    }
+
+    void removeOrder(const std::string& name, Directory directory) {
+        remove(keyOf<SaveBrochuresOrder>(name, directory), [&] {
+            return orders_.remove<SaveBrochuresOrder>(OrderDiskManager::fileName(name), directory);
+        });
+    }
+
+    // The order stands in the outbox before its draft goes. Now and then the outbox is sent.
+    void moveToOutbox() {
+        const std::string name = anyName();
+        if (orders_.exists<SaveBrochuresOrder>(name, Directory::draft)) {
+            save<SaveBrochuresOrder>(name, Directory::outbox);
+            if (!somethingFailed)
+                removeOrder(name, Directory::draft);
+        } else if (orders_.exists<SaveBrochuresOrder>(name, Directory::outbox)) {
+            removeOrder(name, Directory::outbox);
+        }
+    }
+
+    // Several wishes at once: the latest wins.
+    void writeTemporaryCopy() {
+        auto& draft = *BrochureIntermediateData::temporalBrochure();
+        for (unsigned times = 1 + random_() % 3; times > 0; --times) {
+            draft.sourceIdentifier = draft.orderIdentifier = ++stamp_;
+            if (times > 1)
+                tell('>', temporaryCopyKey, stamp_);
+            else
+                begin(temporaryCopyKey, stamp_);
+            TemporalBrochure::shared().write(draft);
+        }
+        tellOutcome(temporaryCopyKey, stamp_);
+    }
+
+    void removeTemporaryCopy() {
+        begin(temporaryCopyKey, 0);
+        TemporalBrochure::shared().removeAll();
+        tellOutcome(temporaryCopyKey, 0);
+    }
+
+    void storeNetPrices() {
+        auto& draft = *BrochureIntermediateData::temporalBrochure();
+        draft.netPrices = stamped<BrochureIntermediateData::NetPrices>(++stamp_);
+        begin(std::string(state_file::netPrices), stamp_);
+        draft.storeNetPrices();
+        tellOutcome(std::string(state_file::netPrices), stamp_);
+    }
+
+    std::filesystem::path folder_;
+    std::mt19937 random_;
+    Int stamp_;
+    OrderDiskManager orders_;
+};
+
+int run(int argc, char** argv) {
+    if (argc < 4)
+        return 64;
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    ::signal(SIGXFSZ, SIG_IGN);
+    if (argc > 5) {
+        const rlimit limit{std::strtoul(argv[5], nullptr, 10), std::strtoul(argv[5], nullptr, 10)};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    setLogSink([](std::string_view) { somethingFailed = true; });
+    auto& session = AppSingleton::shared();
+    session.setFolders(argv[1], argv[1]);
+    session.applicationInformation = std::make_shared<const Catalogue>(stamped<ApplicationInformation>(1));
+    session.actualSection = SectionIdentifier::brochure(BrochureType::beer);
+    Child child(argv[1], static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)), std::atoll(argv[3]));
+    const long operations = argc > 4 ? std::atol(argv[4]) : 0;
+    for (long done = 0; operations == 0 || done < operations; ++done)
+        child.step();
+    return 0;
+}
+
+} // namespace
+
+} // namespace kavor::robust
+
+int main(int argc, char** argv) {
+    return kavor::robust::run(argc, argv);
+}

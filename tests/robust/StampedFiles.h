@@ -1,0 +1,46 @@
+#pragma once
+
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "catalogue/ApplicationInformation.h"
+#include "device/KeychainStore.h"
+#include "sellingsheets/SellingSheetOrder.h"
+#include "shell/LoginResult.h"
+#include "textile/SaveTextileOrder.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+// Every kind of file that the client writes, with a number in two far places of its content: a mixture of two
+// versions shows two numbers, a torn file none.
+namespace kavor::robust {
+
+// Which file, by its path below the documents folder. The temporary copy of the draft is one key with two
+// places.
+inline const std::string temporaryCopyKey = "temporalBrochure";
+inline const std::string recoveryCopyKey = "temporalBrochure.recovery";
+inline const std::string defaultsKey = "UserDefaults";
+inline const std::string keychainKey = ".keychain/items";
+
+template <class Record>
+Record stamped(Int stamp);
+// Every fourth catalogue is about six megabytes large, the others are small.
+template <>
+ApplicationInformation stamped(Int stamp);
+template <>
+LoginResult stamped(Int stamp);
+template <>
+SaveBrochuresOrder stamped(Int stamp);
+template <>
+SaveTextileOrder stamped(Int stamp);
+template <>
+SellingSheetOrder stamped(Int stamp);
+template <>
+BrochureIntermediateData::NetPrices stamped(Int stamp);
+KeychainItem stampedSecret(Int stamp);
+
+// The number in a file: 0 when it is missing, nothing when it doesn't decode, when its two numbers differ,
+// when anything follows the document, or when others than the owner may read it.
+std::optional<Int> stampIn(const std::filesystem::path& documents, const std::string& key);
+
+} // namespace kavor::robust
