@@ -16,7 +16,7 @@ namespace {
 
 using URLs = NetworkConfiguration::ServerURLs;
 
-constexpr std::size_t largestFile = 64 * 1024;
+constexpr std::size_t largestFile = std::size_t{64} * 1024;
 
 constexpr std::pair<const char*, std::string URLs::*> fields[] = {
     {"baseURLDev", &URLs::baseURLDev},
