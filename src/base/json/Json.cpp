@@ -1,30 +1,15 @@
 #include "base/AppFormatter.h"
 #include "base/json/Table.h"
 
-#include <unistd.h>
-
 namespace kavor::json {
 
 Parser::Parser()
     : implementation_(std::make_unique<Implementation>()) {}
 Parser::~Parser() = default;
 
-namespace {
-
-// The parser may read this many bytes behind a document without looking at them. Where they lie in the same
-// page of memory they are there, whoever owns them, and the document need not be copied.
-bool isReadableBehind(std::string_view document) {
-    static const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
-    const auto end = reinterpret_cast<std::uintptr_t>(document.data() + document.size());
-    return !document.empty() && end % page != 0 && end % page + simdjson::SIMDJSON_PADDING <= page;
-}
-
-} // namespace
-
 Decoded<Element> parse(std::string_view document, const Parser& parser) {
     Element root;
-    const bool copy = !isReadableBehind(document);
-    const auto error = parser.implementation().parser.parse(document.data(), document.size(), copy).get(root);
+    const auto error = parser.implementation().parser.parse(document.data(), document.size()).get(root);
     if (error != simdjson::SUCCESS)
         return tl::unexpected(
             Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)});
