@@ -1,7 +1,6 @@
 #include "shell/AppSingleton.h"
 
 #include "base/StopProcess.h"
-#include "shell/StateFile.h"
 
 namespace kavor {
 
@@ -32,23 +31,6 @@ std::optional<BrochureType> AppSingleton::brochureType() const {
 void AppSingleton::setFolders(std::filesystem::path documents, std::filesystem::path caches) {
     documentsFolder_ = std::move(documents);
     cachesFolder_ = std::move(caches);
-}
-
-bool AppSingleton::restoreSession() {
-    loginResult = state_file::read<LoginResult>(documentsFolder_, state_file::loginResult);
-    if (auto information =
-            state_file::read<ApplicationInformation>(documentsFolder_, state_file::applicationInformation))
-        applicationInformation = std::make_shared<const Catalogue>(std::move(*information));
-    else
-        applicationInformation = nullptr;
-    return loginResult.has_value() && applicationInformation != nullptr;
-}
-
-void AppSingleton::storeSession() const {
-    state_file::write(documentsFolder_, state_file::applicationInformation, catalogue().information());
-    if (!loginResult)
-        stopProcess("login result (loginResult)");
-    state_file::write(documentsFolder_, state_file::loginResult, *loginResult);
 }
 
 } // namespace kavor

@@ -46,13 +46,6 @@ public:
     [[nodiscard]] const std::filesystem::path& cachesFolder() const { return cachesFolder_; }
     void setFolders(std::filesystem::path documents, std::filesystem::path caches);
 
-    // Loads the state files "ZQLOGINRESULT" and "ZQAPPLICATIONINFORMATION". The login result is replaced also
-    // with nothing. Answers whether both are present now.
-    bool restoreSession();
-    // Writes both state files; a write that fails is ignored. The process stops when the catalogue or the
-    // login result is absent.
-    void storeSession() const;
-
 private:
     AppSingleton();
 

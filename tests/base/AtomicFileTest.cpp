@@ -2,7 +2,7 @@
 
 #include "base/BackgroundFileWriter.h"
 #include "support/LogCapture.h"
-#include "support/ScratchFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -37,7 +37,7 @@ void limitFileSize(rlim_t bytes) {
 }
 
 TEST(AtomicFile, WritesReplacesReadsMovesAndRemoves) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const std::string content = std::string("uno\0dos", 7) + std::string(200000, 'x');
     ASSERT_TRUE(atomic_file::write(folder / "a", "old"));
     ASSERT_TRUE(atomic_file::write(folder / "a", content));
@@ -56,7 +56,7 @@ TEST(AtomicFile, WritesReplacesReadsMovesAndRemoves) {
 }
 
 TEST(AtomicFile, CreateLeavesAnExistingFileAlone) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     EXPECT_TRUE(atomic_file::create(folder / "a", "first"));
     EXPECT_FALSE(atomic_file::create(folder / "a", "second"));
     EXPECT_EQ(folder.content("a"), "first");
@@ -64,7 +64,7 @@ TEST(AtomicFile, CreateLeavesAnExistingFileAlone) {
 }
 
 TEST(AtomicFile, KeepsTheOldContentWhenTheDiskIsFull) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     folder.put("a", "old");
     const int status = inChild([&] {
         limitFileSize(1000);
@@ -79,7 +79,7 @@ TEST(AtomicFile, KeepsTheOldContentWhenTheDiskIsFull) {
 }
 
 TEST(AtomicFile, KeepsTheOldContentWhenTheFolderIsReadOnly) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     folder.put("a", "old");
     std::filesystem::permissions(folder.path(), std::filesystem::perms(0555));
     const int status = inChild([&] {
@@ -94,7 +94,7 @@ TEST(AtomicFile, KeepsTheOldContentWhenTheFolderIsReadOnly) {
 }
 
 TEST(AtomicFile, ReadsOnlyRegularFiles) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     EXPECT_FALSE(atomic_file::read(folder / "absent"));
     EXPECT_EQ(atomic_file::read(folder.path()).error().reason, "not a regular file");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
@@ -117,7 +117,7 @@ TEST(AtomicFile, NamesThatLeaveTheFolderAreRefused) {
 }
 
 TEST(AtomicFile, TheSweepTakesTheTemporariesOfTheDeadOnly) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const pid_t dead = ::fork();
     if (dead == 0)
         ::_exit(0);
@@ -133,7 +133,7 @@ TEST(AtomicFile, TheSweepTakesTheTemporariesOfTheDeadOnly) {
 }
 
 TEST(AtomicFile, FoldersAreMadeWithTheirParents) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     EXPECT_TRUE(atomic_file::makeFolder(folder / "a/b/c"));
     EXPECT_TRUE(atomic_file::makeFolder(folder / "a/b/c"));
     struct stat status {};
@@ -145,7 +145,7 @@ TEST(AtomicFile, FoldersAreMadeWithTheirParents) {
 }
 
 TEST(BackgroundFileWriter, TheLatestWishForAPathStandsAndPathsDoNotMix) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     {
         BackgroundFileWriter writer;
         for (int i = 0; i <= 300; ++i) {
@@ -165,7 +165,7 @@ TEST(BackgroundFileWriter, TheLatestWishForAPathStandsAndPathsDoNotMix) {
 }
 
 TEST(BackgroundFileWriter, RemovesWhatAFileReplacesOnlyOnceItStands) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     folder.put("recovery", "x");
     std::vector<BackgroundFileWriter::Failure> failures;
     BackgroundFileWriter writer(

@@ -43,6 +43,11 @@ TEST(RequestRetrier, LeavesTheSecondOfTwoExpiredRequestsUnanswered) {
     const Outcome& second = rig.start();
     ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 2; }));
     rig.server.release();
+    // The repair's login waits until both answers are in.
+    rig.server.hold();
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 1; }));
+    waitFor([] { return false; }, 200);
+    rig.server.release();
     ASSERT_TRUE(waitFor([&] { return first.ended() || second.ended(); }));
     const Outcome& third = rig.start();
     ASSERT_TRUE(waitFor([&] { return third.ended(); }));

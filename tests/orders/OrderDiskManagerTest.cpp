@@ -3,7 +3,7 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "support/LogCapture.h"
-#include "support/ScratchFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -33,7 +33,7 @@ public:
         return found;
     }
 
-    ScratchFolder folder;
+    TemporaryFolder folder;
     const OrderDiskManager disk{folder.path()};
 };
 

@@ -11,6 +11,7 @@
 #include "orders/OrderDiskManager.h"
 #include "shell/AppSingleton.h"
 #include "shell/StateFile.h"
+#include "shell/services/SessionStore.h"
 #include "support/DeviceFakes.h"
 #include "support/FakeServices.h"
 #include "support/TemporaryFolder.h"
@@ -35,7 +36,8 @@ protected:
     static constexpr Int knownBrand = 11, knownFormat = 110, ownBrand = -1;
 
     TemporaryFolder folder;
-    AppSingleton& session = AppSingleton::shared();
+    AppSingleton& session = openSession(folder);
+    SessionStore sessions{session};
     FakeServices network;
     CountingSync sync;
     AlertPresenter alerts;
@@ -47,10 +49,9 @@ protected:
     FakeReverseGeocoder geocoder;
     ReverseLocationManager location{locationService, geocoder};
     OrderDiskManager orders{folder.path()};
-    WizardServices services{network, orders, sync, alerts, urls, clock, downloader, photos, &location};
+    WizardServices services{network, orders, sessions, sync, alerts, urls, clock, downloader, photos, &location};
 
     void SetUp() override {
-        session.setFolders(folder.path(), folder / "caches");
         session.loginResult = LoginResult{};
         session.resettingBrochure = false;
         session.isSectionDigital = false;
@@ -123,6 +124,10 @@ protected:
     [[nodiscard]] std::string alert() const { return (alerts.title() + " | " + alerts.text()).toStdString(); }
 
 private:
+    static AppSingleton& openSession(const TemporaryFolder& folder) {
+        AppSingleton::shared().setFolders(folder.path(), folder / "caches");
+        return AppSingleton::shared();
+    }
     static Product product(Int id, Int property) {
         Product made;
         made.id = id;

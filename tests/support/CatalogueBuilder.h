@@ -41,7 +41,8 @@ struct CatalogueBuilder {
         added.id = id;
         added.name = std::move(name);
         added.applicationFather = family;
-        added.category.emplace().segmentId = id + 1000;
+        added.category = Product::Category();
+        added.category->segmentId = id + 1000;
         added.category->typologyId = id + 2000;
         return *this;
     }
@@ -80,33 +81,43 @@ struct CatalogueBuilder {
 
 private:
     void addBrochures() {
+        const HashedResource picture{"drawn", Url{"http://server.example/drawn.png"}, 3};
         auto& all = information.brochures.emplace();
         for (const auto kind : kinds) {
             auto& type = all.types.emplace_back();
             type.id = kind;
             type.applicationFather =
                 isWine(kind) ? ApplicationFather::orderWine : ApplicationFather::orderBeer;
-            auto& parameters = type.parameters.emplace();
+            auto& parameters = type.parameters.emplace(Brochures::Type::Parameters());
             parameters.isHighlightable = kind == BrochureType::beer || kind == BrochureType::menu;
             parameters.checkUnitsNumber = parameters.multiPrices = true;
             parameters.minimumOrderQuantity = 5;
             parameters.maximumOrderQuantity = 50;
             auto& style = all.styles.emplace_back();
             style.id = style.typeId = styleOf(kind);
+            style.firstImage = style.secondImage = style.thumbImage = picture;
         }
         all.styles.front().logotypeIdentifiers = {1, 2, 3, 4};
         for (Int id = 1; id <= 4; ++id)
-            all.logos.emplace_back().id = id;
+            all.logos.push_back({id, 0, 0, "", 0, picture});
         all.languages = {{1, "Castellano", "es", "", 1, {}}, {2, "Català", "ca", "", 2, {}}};
         all.prices = {
             {PriceType::main, "Barra"}, {PriceType::terrace, "Terraza"}, {PriceType::night, "Noche"}};
-        all.orderSheets.emplace_back().id = 1;
-        all.pennantBrands.emplace_back().id = 1;
-        all.brandQrs.emplace_back().id = 1;
+        auto& sheet = all.orderSheets.emplace_back();
+        sheet.id = 1;
+        sheet.image = picture;
+        auto& pennant = all.pennantBrands.emplace_back();
+        pennant.id = 1;
+        pennant.imageThumb = pennant.imageSample = pennant.imageBrand = picture;
+        auto& qr = all.brandQrs.emplace_back();
+        qr.id = 1;
+        qr.image = qr.imageTaco = picture;
         all.menuFormatVisualize = {{1, "Detalle", 1}, {2, "Lista", 2}};
         all.menuWineFormatVisualize = {{1, "Bodega", 1}};
-        all.blackboardFormats.emplace_back().id = 1;
-        all.blackboardFormats.back().numberOfSelectableBrands = {2, 4};
+        auto& board = all.blackboardFormats.emplace_back();
+        board.id = 1;
+        board.imageSelected = board.imageUnselected = picture;
+        board.numberOfSelectableBrands = {2, 4};
         all.blackboardTypes.emplace_back().id = 1;
         all.drinks = {{1,
                        "Refrescos",

@@ -3,6 +3,7 @@
 #include "brochures/engine/TemporalBrochure.h"
 #include "orders/OrderDiskManager.h"
 #include "shell/AppSingleton.h"
+#include "shell/services/SessionStore.h"
 #include "tour/Tour.h"
 
 #include <QFile>
@@ -23,7 +24,7 @@ int checkKilledDraft(const QString& folder, const QString& documents) {
 
     auto& session = AppSingleton::shared();
     session.setFolders(documents.toStdString(), documents.toStdString() + "-caches");
-    if (!session.restoreSession()) {
+    if (!SessionStore(session).restoreSession()) {
         std::fputs("the session did not come back\n", stderr);
         return 1;
     }

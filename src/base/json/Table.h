@@ -337,7 +337,8 @@ bool readField(Element element, Record& out, Context& context) {
             member.reset();
             return true;
         }
-        return read(member.emplace()) || context.within(field.key);
+        // Not an empty emplace: clang holds a nested record with default values for not constructible there.
+        return read(member.emplace(typename Member::value_type())) || context.within(field.key);
     } else if constexpr (field.presence == Presence::OrTrue) {
         member = true;
         return element.is_null() || read(member) || context.within(field.key);

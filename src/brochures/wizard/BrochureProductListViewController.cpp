@@ -7,6 +7,7 @@
 #include "brochures/wizard/StepSupport.h"
 #include "device/AlertPresenter.h"
 #include "shell/AppSingleton.h"
+#include "shell/services/SessionStore.h"
 
 #include <QtConcurrent>
 
@@ -28,7 +29,8 @@ QString labelOf(std::optional<Int> limit) {
 BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services,
                                                                      QObject* parent)
     : WizardStepViewController(parent)
-    , alerts_(services.alerts) {}
+    , alerts_(services.alerts)
+    , sessions_(services.sessions) {}
 
 BrochureProductListViewController::~BrochureProductListViewController() = default;
 
@@ -204,7 +206,7 @@ void BrochureProductListViewController::addBrand() {
     brands_.setBrands(catalogue_, family_);
     runCounter();
     autosave(actualOrder_);
-    storeCatalogueInBackground(former);
+    sessions_.storeCatalogueInBackground(former);
 }
 
 QString BrochureProductListViewController::minimumProductsSelectedLabel() const {

@@ -98,6 +98,7 @@ private:
     void addBrand();
 
     AlertPresenter& alerts_;
+    SessionStore& sessions_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     BrandListModel brands_;

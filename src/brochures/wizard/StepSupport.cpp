@@ -1,14 +1,10 @@
 #include "brochures/wizard/StepSupport.h"
 
-#include "base/BackgroundFileWriter.h"
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "catalogue/Catalogue.h"
 #include "shell/AppSingleton.h"
-#include "shell/StateFile.h"
-
-#include <QThreadPool>
 
 namespace kavor {
 
@@ -38,18 +34,6 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
     if (draft == BrochureIntermediateData::temporalBrochure() && AppSingleton::shared().brochureType())
         TemporalBrochure::shared().write(*draft);
-}
-
-void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former) {
-    const AppSingleton& session = AppSingleton::shared();
-    if (session.documentsFolder().empty())
-        return;
-    QThreadPool::globalInstance()->start(
-        [former = std::move(former), catalogue = session.applicationInformation,
-         path = session.documentsFolder() / std::string(state_file::applicationInformation)] {
-            if (auto encoded = json::encode(catalogue->information()))
-                BackgroundFileWriter::shared().write(path, std::move(*encoded));
-        });
 }
 
 } // namespace kavor

@@ -26,10 +26,6 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 // longer the shared one, and outside a brochure section.
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
 
-// Stores the session's catalogue after a brand was added by hand, in the background, so that the brand
-// outlives the process even when that ends without warning. The former catalogue is let go there too.
-void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former);
-
 inline QString fromUtf8(const std::string& utf8) {
     return QString::fromStdString(utf8);
 }

@@ -17,12 +17,14 @@ class PhotoPicker;
 class PlainDownloader;
 class ReverseLocationManager;
 class ServiceOperations;
+class SessionStore;
 class UrlOpener;
 
 // What the steps of the wizard work with. Everything outlives the wizard.
 struct WizardServices {
     ServiceOperations& network;
     OrderDiskManager& orders;
+    SessionStore& sessions;
     OrderSync& sync;
     AlertPresenter& alerts;
     UrlOpener& urls;

@@ -68,6 +68,13 @@ void SessionStore::storeInBackground() {
         run([this, login = *session_.loginResult] { writeLoginResult(login); });
 }
 
+void SessionStore::storeCatalogueInBackground(std::shared_ptr<const Catalogue> former) {
+    run([this, catalogue = session_.applicationInformation, former = std::move(former)] {
+        if (catalogue)
+            writeCatalogue(catalogue);
+    });
+}
+
 SessionStore::Session SessionStore::load() {
     const auto loginFile = folder_ / std::string(state_file::loginResult);
     if (const auto identity = Identity::of(loginFile); !loginResult_ || loginResult_->identity != identity)

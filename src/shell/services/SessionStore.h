@@ -34,6 +34,10 @@ public:
     void storeSession();
     // Writes what is present as it is now; returns at once.
     void storeInBackground();
+    // Writes the catalogue as it is now, after a brand was added by hand, so that the brand outlives the
+    // process even when that ends without warning; returns at once. The former catalogue is let go in the
+    // worker too.
+    void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former);
     // Waits for all that was begun.
     void flush();
 

@@ -6,7 +6,7 @@
 #include "shell/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/JsonData.h"
-#include "support/ScratchFolder.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ public:
         return JsonData::of(json::encodePretty(order).value()).text(true);
     }
 
-    ScratchFolder folder;
+    TemporaryFolder folder;
     CatalogueBuilder catalogue;
 };
 
