@@ -72,11 +72,11 @@ std::string_view typeName(plist_t node) {
     }
 }
 
+// Not plist_get_string_val: that ends the process over a string with a zero byte.
 std::string text(plist_t node) {
-    char* value = nullptr;
-    plist_get_string_val(node, &value);
-    const std::unique_ptr<char, decltype(&std::free)> owner(value, &std::free);
-    return value != nullptr ? value : "";
+    std::uint64_t length = 0;
+    const char* value = plist_get_string_ptr(node, &length);
+    return value != nullptr ? std::string(value, length) : std::string();
 }
 
 } // namespace
@@ -122,6 +122,8 @@ tl::expected<NetworkConfiguration, std::string> NetworkConfiguration::decode(con
         if (plist_get_node_type(node) != PLIST_STRING)
             return fault(std::string("urls.") + key, "expected string, found " + std::string(typeName(node)));
         configuration.urls.*member = text(node);
+        if ((configuration.urls.*member).find('\0') != std::string::npos)
+            return fault(std::string("urls.") + key, "expected text, found a zero byte in it");
     }
     return configuration;
 }
