@@ -128,7 +128,9 @@ tl::expected<std::string, Failure> read(const std::filesystem::path& path) {
         return tl::unexpected(failure(path, errno));
     if (!S_ISREG(status.st_mode))
         return tl::unexpected(Failure{path, "not a regular file"});
-    std::string content(static_cast<std::size_t>(status.st_size), '\0');
+    std::string content;
+    content.reserve(static_cast<std::size_t>(status.st_size) + roomBehind);
+    content.resize(static_cast<std::size_t>(status.st_size));
     std::size_t filled = 0;
     while (filled < content.size()) {
         const auto count = ::read(descriptor.number(), content.data() + filled, content.size() - filled);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -24,6 +25,9 @@ Done write(const std::filesystem::path& path, std::string_view content);
 
 // Like write, but fails without touching anything when the path exists.
 Done create(const std::filesystem::path& path, std::string_view content);
+
+// How much room a content that was read has behind it, for parsers that read a little too far.
+inline constexpr std::size_t roomBehind = 64;
 
 // The whole content of a regular file.
 tl::expected<std::string, Failure> read(const std::filesystem::path& path);

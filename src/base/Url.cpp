@@ -8,14 +8,11 @@ namespace kavor {
 
 namespace {
 
-// Not 0 when eight bytes hold a control character, a blank, or the first byte (C2) of a control character in
-// UTF-8.
-std::uint64_t unreadableIn(std::uint64_t bytes) {
+// Not 0 when eight bytes hold one that is no visible ASCII character.
+std::uint64_t unusualIn(std::uint64_t bytes) {
     constexpr std::uint64_t each = 0x0101010101010101U;
     constexpr std::uint64_t high = each * 0x80;
-    const auto anyZero = [](std::uint64_t value) { return (value - each) & ~value & high; };
-    const std::uint64_t below = (bytes - each * 0x21) & ~bytes & high;
-    return below | anyZero(bytes ^ (each * 0x7F)) | anyZero(bytes ^ (each * 0xC2));
+    return ((bytes - each * 0x21) | (bytes + each) | bytes) & high; // below 0x21, 0x7F, above 0x7F
 }
 
 // Catalogues hold a hundred thousand addresses, nearly all of them plain.
@@ -28,9 +25,9 @@ bool isPlain(std::string_view text) {
         return bytes;
     };
     const std::size_t last = text.size() - sizeof(std::uint64_t);
-    std::uint64_t found = unreadableIn(wordAt(last));
+    std::uint64_t found = unusualIn(wordAt(last));
     for (std::size_t i = 0; i < last; i += sizeof(std::uint64_t))
-        found |= unreadableIn(wordAt(i));
+        found |= unusualIn(wordAt(i));
     return found == 0;
 }
 
@@ -63,15 +60,8 @@ std::string_view portOf(std::string_view authority) {
     return colon == std::string_view::npos ? std::string_view() : authority.substr(colon + 1, i - colon - 1);
 }
 
-} // namespace
-
-bool Url::isValid(std::string_view text) {
-    if (text.empty() || !(isPlain(text) || isReadable(text)))
-        return false;
-    const auto scheme = text.find("://");
-    if (scheme == std::string_view::npos)
-        return true;
-    const std::string_view port = portOf(text.substr(scheme + 3));
+bool hasValidPort(std::string_view authority) {
+    const std::string_view port = portOf(authority);
     if (port.size() > 5 ||
         !std::all_of(port.begin(), port.end(), [](char c) { return c >= '0' && c <= '9'; }))
         return false;
@@ -79,6 +69,28 @@ bool Url::isValid(std::string_view text) {
     for (const char c : port)
         value = value * 10 + (c - '0');
     return value <= 65535;
+}
+
+} // namespace
+
+bool Url::isValid(std::string_view text) {
+    // The beginning of the last good address, to the slash behind the host: a catalogue's are all on one.
+    thread_local std::string knownOrigin;
+    if (!knownOrigin.empty() && text.starts_with(knownOrigin)) {
+        const std::string_view rest = text.substr(knownOrigin.size());
+        return isPlain(rest) || isReadable(rest);
+    }
+    if (text.empty() || !(isPlain(text) || isReadable(text)))
+        return false;
+    const auto scheme = text.find("://");
+    if (scheme == std::string_view::npos)
+        return true;
+    const std::size_t host = scheme + 3;
+    if (!hasValidPort(text.substr(host)))
+        return false;
+    if (const auto end = text.find_first_of("/?#", host); end != std::string_view::npos && text[end] == '/')
+        knownOrigin = text.substr(0, end + 1);
+    return true;
 }
 
 } // namespace kavor

@@ -1,5 +1,6 @@
 #include "network/HttpSession.h"
 
+#include "base/json/Json.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "network/OneTimeBody.h"
@@ -12,6 +13,13 @@
 #include <utility>
 
 namespace kavor {
+
+namespace {
+
+// A length that a server only claims reserves no more than this.
+constexpr qint64 largestReservation = qint64(128) << 20U;
+
+} // namespace
 
 // One request on its way.
 class HttpExchange : public QObject {
@@ -137,8 +145,11 @@ void HttpExchange::watch() {
 }
 
 void HttpExchange::checkHead() {
-    if (exceedsLimit(reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong()))
+    const qint64 length = reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    if (exceedsLimit(length))
         failAsTooLarge();
+    else if (length > 0 && length <= largestReservation) // and room for a parser that reads on a little
+        body_.reserve(length + qsizetype(json::Source::padding));
 }
 
 void HttpExchange::collect() {

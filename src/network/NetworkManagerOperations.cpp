@@ -65,7 +65,7 @@ void addWhenSet(Parameters& parameters, const QString& key, const std::optional<
 }
 
 // The catalogue with its indexes, built where the answer is decoded.
-json::Decoded<std::shared_ptr<const Catalogue>> readCatalogue(std::string_view body) {
+json::Decoded<std::shared_ptr<const Catalogue>> readCatalogue(const json::Source& body) {
     auto information = json::decode<ApplicationInformation>(body);
     if (!information)
         return tl::unexpected(std::move(information.error()));

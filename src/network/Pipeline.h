@@ -43,7 +43,7 @@ struct PipelineRequest {
 QByteArray newIdempotencyKey();
 
 template <class Response>
-json::Decoded<Response> decodeBody(std::string_view body) {
+json::Decoded<Response> decodeBody(const json::Source& body) {
     return json::decode<Response>(body);
 }
 
@@ -56,7 +56,8 @@ NetworkManager::RequestPointer NetworkManager::prepare(const Operation& operatio
     if (operation.changesServer)
         request->idempotencyKey = newIdempotencyKey();
     request->decode = [response, read](const QByteArray& body) -> std::optional<json::Error> {
-        auto decoded = read(std::string_view(body.constData(), std::size_t(body.size())));
+        auto decoded = read(json::Source(std::string_view(body.constData(), std::size_t(body.size())),
+                                         std::size_t(body.capacity() - body.size())));
         if (!decoded)
             return std::move(decoded.error());
         response->emplace(std::move(*decoded));

@@ -58,65 +58,83 @@ bool isRefused(const std::string& document) {
     return !json::isWellFormed(document);
 }
 
+const std::string wellFormed[] = {"[]",
+                                  "{}",
+                                  " \t\r\n[ 1 , 2 ]\n",
+                                  "null",
+                                  "true",
+                                  "1",
+                                  "\"x\"",
+                                  "[[]   ]",
+                                  "{\"\":0}",
+                                  "{\"a\":1,\"a\":2}",
+                                  "[-0]",
+                                  "[0e1]",
+                                  "[1E+2]",
+                                  "[123e45]",
+                                  "[20e-1]",
+                                  "[-1]",
+                                  "[0.1]",
+                                  "[1.5e-7]",
+                                  "[123.456789]",
+                                  "[0e+1]",
+                                  "[1e-400]",
+                                  "[9223372036854775807]",
+                                  "[-9223372036854775808]",
+                                  "[18446744073709551615]",
+                                  R"(["\"\\\/\b\f\n\r\t"])",
+                                  R"(["\u0000"])",
+                                  R"(["\uD83C\uDF7A"])",
+                                  R"(["\u00e1\u20AC"])",
+                                  "[\"\x7f\"]",
+                                  "[\"\u2028\"]",
+                                  "[\"\xF4\x8F\xBF\xBF\"]",
+                                  "[\"new\u00a0line\"]",
+                                  "{\"\\u0061\":[]}"};
+
+const std::string malformed[] = {
+    // structure
+    "", " ", "[", "]", "{", "[1", "[1}", "{\"a\":1]", "[1,]", "[,1]", "[1,,2]", "[1 2]", "[\"a\" \"b\"]",
+    "[1]x", "[1][2]", "1 2", "{\"a\":1,}", "{,}", "{a:1}", "{'a':1}", "{\"a\" 1}", "{\"a\":}", "{\"a\"}",
+    "{1:1}", "{\"a\":1 \"b\":2}", "[1:2]", "{\"a\":\"b\":\"c\"}", "{}}", "[]]", "//c\n[]", "[1/*c*/]", "[\f]",
+    "[\u00a0]", "[1]\0"s, "\0"s, "[1\0]"s,
+    // words and numbers
+    "[nul]", "[True]", "[FALSE]", "[undefined]", "[NaN]", "[Infinity]", "[-Infinity]", "[01]", "[-01]",
+    "[+1]", "[.5]", "[1.]", "[1.e1]", "[-]", "[--1]", "[1e]", "[1e+]", "[1eE2]", "[0x1F]", "[1_000]",
+    "[1,000.]", "[- 1]", "[1e400]", "[-1e400]", "[18446744073709551616]", "[-9223372036854775809]",
+    "[\u0661]", "[1a]",
+    // texts
+    "\"", "[\"a]", "[\"\\\"]", "['a']", "[\"\t\"]", "[\"\n\"]", "[\"\0\"]"s, "[\"\\x41\"]", "[\"\\u12\"]",
+    "[\"\\u12G4\"]", "[\"\\U0041\"]", "[\"\\", "[\"\\uD800\"]", "[\"\\uDC00\"]", "[\"\\uD800\\u0041\"]",
+    "[\"\\uD800x\"]",
+    // bytes that are no UTF-8
+    "[\"\xFF\"]", "[\"\xC0\x80\"]", "[\"\xE0\x80\x80\"]", "[\"\xED\xA0\x80\"]", "[\"\xF4\x90\x80\x80\"]",
+    "[\"\xE2\x82\"]", "[\"\x80\"]", "[\"\xF8\x88\x80\x80\x80\"]", "\xFE\xFF[]", "[\xC3\xA9]"};
+
 TEST(JsonCorners, WellFormedTextsAreTaken) {
-    const std::string texts[] = {"[]",
-                                 "{}",
-                                 " \t\r\n[ 1 , 2 ]\n",
-                                 "null",
-                                 "true",
-                                 "1",
-                                 "\"x\"",
-                                 "[[]   ]",
-                                 "{\"\":0}",
-                                 "{\"a\":1,\"a\":2}",
-                                 "[-0]",
-                                 "[0e1]",
-                                 "[1E+2]",
-                                 "[123e45]",
-                                 "[20e-1]",
-                                 "[-1]",
-                                 "[0.1]",
-                                 "[1.5e-7]",
-                                 "[123.456789]",
-                                 "[0e+1]",
-                                 "[1e-400]",
-                                 "[9223372036854775807]",
-                                 "[-9223372036854775808]",
-                                 "[18446744073709551615]",
-                                 R"(["\"\\\/\b\f\n\r\t"])",
-                                 R"(["\u0000"])",
-                                 R"(["\uD83C\uDF7A"])",
-                                 R"(["\u00e1\u20AC"])",
-                                 "[\"\x7f\"]",
-                                 "[\"\u2028\"]",
-                                 "[\"\xF4\x8F\xBF\xBF\"]",
-                                 "[\"new\u00a0line\"]",
-                                 "{\"\\u0061\":[]}"};
-    for (const auto& text : texts)
+    for (const auto& text : wellFormed)
         EXPECT_TRUE(json::isWellFormed(text)) << text;
 }
 
 TEST(JsonCorners, AnythingElseIsRefused) {
-    const std::string texts[] = {
-        // structure
-        "", " ", "[", "]", "{", "[1", "[1}", "{\"a\":1]", "[1,]", "[,1]", "[1,,2]", "[1 2]", "[\"a\" \"b\"]",
-        "[1]x", "[1][2]", "1 2", "{\"a\":1,}", "{,}", "{a:1}", "{'a':1}", "{\"a\" 1}", "{\"a\":}", "{\"a\"}",
-        "{1:1}", "{\"a\":1 \"b\":2}", "[1:2]", "{\"a\":\"b\":\"c\"}", "{}}", "[]]", "//c\n[]", "[1/*c*/]",
-        "[\f]", "[\u00a0]", "[1]\0"s, "\0"s, "[1\0]"s,
-        // words and numbers
-        "[nul]", "[True]", "[FALSE]", "[undefined]", "[NaN]", "[Infinity]", "[-Infinity]", "[01]", "[-01]",
-        "[+1]", "[.5]", "[1.]", "[1.e1]", "[-]", "[--1]", "[1e]", "[1e+]", "[1eE2]", "[0x1F]", "[1_000]",
-        "[1,000.]", "[- 1]", "[1e400]", "[-1e400]", "[18446744073709551616]", "[-9223372036854775809]",
-        "[\u0661]", "[1a]",
-        // texts
-        "\"", "[\"a]", "[\"\\\"]", "['a']", "[\"\t\"]", "[\"\n\"]", "[\"\0\"]"s, "[\"\\x41\"]", "[\"\\u12\"]",
-        "[\"\\u12G4\"]", "[\"\\U0041\"]", "[\"\\", "[\"\\uD800\"]", "[\"\\uDC00\"]", "[\"\\uD800\\u0041\"]",
-        "[\"\\uD800x\"]",
-        // bytes that are no UTF-8
-        "[\"\xFF\"]", "[\"\xC0\x80\"]", "[\"\xE0\x80\x80\"]", "[\"\xED\xA0\x80\"]", "[\"\xF4\x90\x80\x80\"]",
-        "[\"\xE2\x82\"]", "[\"\x80\"]", "[\"\xF8\x88\x80\x80\x80\"]", "\xFE\xFF[]", "[\xC3\xA9]"};
-    for (const auto& text : texts)
+    for (const auto& text : malformed)
         EXPECT_TRUE(isRefused(text)) << text;
+}
+
+// Values that no member takes are checked as they are passed over, and no less strictly than the rest.
+TEST(JsonCorners, WhatIsPassedOverIsCheckedLikeAWholeDocument) {
+    const auto agree = [](const std::string& value) {
+        for (const std::string& text :
+             {R"({"id":7,"unknown":)" + value + "}", R"({"id":7,"unknown":[)" + value + "],\"note\":null}",
+              R"({"unknown":{"x":)" + value + "},\"id\":7}", R"({"id":7})" + value})
+            EXPECT_EQ(json::decode<Corner>(text).has_value(), json::isWellFormed(text)) << text.substr(0, 200);
+    };
+    for (const auto& text : wellFormed)
+        agree(text);
+    for (const auto& text : malformed)
+        agree(text);
+    for (std::size_t depth = 1015; depth < 1030; ++depth)
+        agree(std::string(depth, '[') + std::string(depth, ']'));
 }
 
 TEST(JsonCorners, NumbersKeepTheirLastDigit) {

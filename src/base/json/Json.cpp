@@ -3,42 +3,175 @@
 
 namespace kavor::json {
 
+struct Parser::Implementation {
+    ondemand::parser parser;
+    std::string copy; // of a document that has no room behind it
+};
+
 Parser::Parser()
     : implementation_(std::make_unique<Implementation>()) {}
 Parser::~Parser() = default;
 
-Decoded<Element> parse(std::string_view document, const Parser& parser) {
-    Element root;
-    const auto error = parser.implementation().parser.parse(document.data(), document.size()).get(root);
-    if (error != simdjson::SUCCESS)
-        return tl::unexpected(
-            Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)});
-    return root;
+namespace {
+
+// Parses the whole of a document without reading it; answers what is wrong with it, if anything is.
+std::optional<Error> malformation(const Source& document) {
+    simdjson::dom::parser parser;
+    const bool copy = document.readableBehind < Source::padding;
+    if (const auto error = parser.parse(document.text.data(), document.text.size(), copy).error())
+        return Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)};
+    return std::nullopt;
 }
 
-bool isWellFormed(std::string_view document) {
-    return parse(document, Parser()).has_value();
+bool isBlank(char c) {
+    return c == ' ' || c == '\n' || c == '\r' || c == '\t';
+}
+
+// A scalar is read as the only item of a list: the parser reads no root but lists and objects.
+bool isScalar(std::string_view document) {
+    const auto first = std::ranges::find_if_not(document, isBlank);
+    return first == document.end() || (*first != '{' && *first != '[');
+}
+
+std::optional<Error> readScalar(const Source& document, const Parser& parser, const RootReader& read) {
+    if (auto error = malformation(document))
+        return error;
+    const std::string list = "[" + std::string(document.text) + "]";
+    Context found;
+    static_cast<void>(readDocument(list, parser, [&](Element root, Context& context) {
+        return forEachItem(root, context,
+                           [&](Element item) { return read(item, found) || context.malformed(); });
+    }));
+    return found.error.reason.empty() ? std::nullopt : std::optional(std::move(found.error));
+}
+
+} // namespace
+
+std::optional<Error> readDocument(const Source& document, const Parser& parser, const RootReader& read) {
+    static_assert(Source::padding >= simdjson::SIMDJSON_PADDING);
+    if (isScalar(document.text))
+        return readScalar(document, parser, read);
+    auto& implementation = parser.implementation();
+    std::string_view text = document.text;
+    if (document.readableBehind < Source::padding) {
+        implementation.copy.reserve(text.size() + Source::padding);
+        implementation.copy.assign(text);
+        text = implementation.copy;
+    }
+    Context context;
+    ondemand::document opened;
+    ondemand::value root;
+    const bool good =
+        implementation.parser.iterate(simdjson::padded_string_view(text, text.size() + Source::padding))
+                .get(opened) == simdjson::SUCCESS &&
+        opened.get_value().get(root) == simdjson::SUCCESS && read(root, context) &&
+        opened.current_location().error() == simdjson::OUT_OF_BOUNDS; // nothing follows
+    if (good)
+        return std::nullopt;
+    // That a text is no document at all counts before a wrong value in it.
+    if (auto error = malformation(document))
+        return error;
+    return std::move(context.error);
+}
+
+bool isWellFormed(const Source& document) {
+    return !malformation(document);
 }
 
 std::string_view typeName(Element element) {
-    switch (element.type()) {
-    case simdjson::dom::element_type::ARRAY:
+    ondemand::json_type type{};
+    if (element.type().get(type) != simdjson::SUCCESS)
+        return "nothing";
+    switch (type) {
+    case ondemand::json_type::array:
         return "list";
-    case simdjson::dom::element_type::OBJECT:
+    case ondemand::json_type::object:
         return "object";
-    case simdjson::dom::element_type::INT64:
-    case simdjson::dom::element_type::UINT64:
-        return "integer";
-    case simdjson::dom::element_type::DOUBLE:
-        return "number";
-    case simdjson::dom::element_type::STRING:
+    case ondemand::json_type::number: {
+        ondemand::number_type number{};
+        const bool known = element.get_number_type().get(number) == simdjson::SUCCESS;
+        return known && number != ondemand::number_type::floating_point_number ? "integer" : "number";
+    }
+    case ondemand::json_type::string:
         return "string";
-    case simdjson::dom::element_type::BOOL:
+    case ondemand::json_type::boolean:
         return "boolean";
-    case simdjson::dom::element_type::NULL_VALUE:
+    case ondemand::json_type::null:
         return "null";
     }
     return "nothing";
+}
+
+bool readText(Element element, std::string_view& out) {
+    std::string_view token = element.raw_json_token();
+    if (token.empty() || token.front() != '"')
+        return false;
+    while (isBlank(token.back()))
+        token.remove_suffix(1);
+    if (token.size() < 2 || token.back() != '"')
+        return false;
+    token = token.substr(1, token.size() - 2);
+    if (token.find('\\') != std::string_view::npos)
+        return element.get(out) == simdjson::SUCCESS;
+    ondemand::raw_json_string passed;
+    out = token;
+    return element.get(passed) == simdjson::SUCCESS;
+}
+
+bool readKeyText(ondemand::field& field, std::string_view& out) {
+    const char* const begin = field.key().raw();
+    const char* end = begin;
+    while (*end != '"' && *end != '\\') // the parser has seen to it that the string ends
+        ++end;
+    if (*end == '\\')
+        return field.unescaped_key().get(out) == simdjson::SUCCESS;
+    out = {begin, static_cast<std::size_t>(end - begin)};
+    return true;
+}
+
+bool readUnusualNumber(Element element, double& out, Context& context) {
+    ondemand::number_type type{};
+    if (element.get_number_type().get(type) != simdjson::SUCCESS)
+        return context.malformed();
+    if (type == ondemand::number_type::floating_point_number)
+        return true;
+    std::int64_t integer = 0;
+    std::uint64_t large = 0;
+    if (element.get(integer) == simdjson::SUCCESS)
+        out = static_cast<double>(integer);
+    else if (element.get(large) == simdjson::SUCCESS)
+        out = static_cast<double>(large);
+    else
+        return context.malformed();
+    return true;
+}
+
+bool ignore(Element element, Context& context) {
+    ondemand::json_type type{};
+    if (element.type().get(type) != simdjson::SUCCESS)
+        return context.malformed();
+    switch (type) {
+    case ondemand::json_type::array:
+        return forEachItem(element, context, [&](Element item) { return ignore(item, context); });
+    case ondemand::json_type::object:
+        return forEachField(element, context, [&](ondemand::field& field) {
+            std::string_view key;
+            return readKeyText(field, key) ? ignore(field.value(), context) : context.malformed();
+        });
+    case ondemand::json_type::number: {
+        double number = 0;
+        return readValue(element, number, context);
+    }
+    case ondemand::json_type::string: {
+        std::string_view text;
+        return readText(element, text) || context.malformed();
+    }
+    case ondemand::json_type::boolean:
+        return element.get_bool().error() == simdjson::SUCCESS || context.malformed();
+    case ondemand::json_type::null:
+        return isNull(element) || context.malformed();
+    }
+    return context.malformed();
 }
 
 bool Context::expected(std::string_view what, Element found) {
@@ -58,13 +191,13 @@ bool Context::within(std::size_t index) {
 }
 
 bool refuseInteger(Element element, Context& context) {
-    if (element.type() == simdjson::dom::element_type::UINT64)
+    if (typeName(element) == "integer")
         return context.fail("integer out of range");
     return context.expected("integer", element);
 }
 
 bool refuseUnsigned(Element element, Context& context) {
-    if (element.type() == simdjson::dom::element_type::INT64)
+    if (typeName(element) == "integer")
         return context.fail("expected an integer of 0 or more");
     return context.expected("integer", element);
 }
@@ -77,7 +210,7 @@ bool readValue(Element element, Url& out, Context& context) {
 
 bool readValue(Element element, LocalDateTime& out, Context& context) {
     std::string_view text;
-    if (element.get(text) != simdjson::SUCCESS)
+    if (!readText(element, text))
         return context.expected("date", element);
     const auto date = LocalDateTime::parse(text);
     if (!date)

@@ -36,17 +36,38 @@ private:
     std::unique_ptr<Implementation> implementation_;
 };
 
+// The text of a document. Where as many bytes as the padding may be read behind it, whatever they hold, it is
+// parsed where it lies; else it is copied first.
+struct Source {
+    static constexpr std::size_t padding = 64;
+
+    std::string_view text;
+    std::size_t readableBehind = 0;
+
+    // Implicit: whoever has a text has a source.
+    Source(std::string_view document)
+        : text(document) {}
+    Source(const char* document)
+        : text(document) {}
+    Source(const std::string& document)
+        : text(document)
+        , readableBehind(document.capacity() - document.size()) {}
+    Source(std::string_view document, std::size_t behind)
+        : text(document)
+        , readableBehind(behind) {}
+};
+
 // Reads a whole document strictly: a missing required key, a wrong type or a value outside an enumeration's
 // table anywhere fails the document; unknown keys are ignored. The text is UTF-8.
 template <class T>
-Decoded<T> decode(std::string_view document, const Parser& parser);
+Decoded<T> decode(const Source& document, const Parser& parser);
 template <class T>
-Decoded<T> decode(std::string_view document) {
+Decoded<T> decode(const Source& document) {
     return decode<T>(document, Parser());
 }
 
 // Whether a text is a JSON document at all.
-bool isWellFormed(std::string_view document);
+bool isWellFormed(const Source& document);
 
 // Keys in the order of the record's table, no blanks; the form of the state files. Fails only for a number
 // that JSON cannot say (infinite or not a number).

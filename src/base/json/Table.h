@@ -14,6 +14,7 @@
 #include <concepts>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -37,7 +38,11 @@
 //   PriceType::table}; };
 namespace kavor::json {
 
-using Element = simdjson::dom::element;
+namespace ondemand = simdjson::ondemand;
+
+// A value of a document that is read from front to back: each value once, and none may be left out, for only
+// what is read is checked.
+using Element = ondemand::value&;
 
 // ---- Tables
 // -------------------------------------------------------------------------------------------------
@@ -99,13 +104,19 @@ struct Cases;
 
 // Carries the error up from the place where it was met; every level puts its step in front of the path.
 struct Context {
+    // The nesting at which a document is refused; a list or object without content does not count.
+    static constexpr int deepest = 1024;
+
     Error error;
     bool repeated = false; // the key just met was met before in its object
+    int depth = 0;
 
     bool fail(std::string reason) {
         error.reason = std::move(reason);
         return false;
     }
+    // The text is no JSON document. What is wrong with it is found out afterwards.
+    bool malformed() { return fail("malformed"); }
     bool expected(std::string_view what, Element found);
     bool within(std::string_view key);
     bool within(std::size_t index);
@@ -133,24 +144,76 @@ bool readRecord(Element element, Record& out, Context& context);
 // The faults of values; they answer false.
 bool refuseInteger(Element element, Context& context);
 bool refuseUnsigned(Element element, Context& context);
+// A number that was read as such, and may be an integer: -0 is 0 then, and 21 digits are too many.
+bool readUnusualNumber(Element element, double& out, Context& context);
+// Reads a value that no member takes, to the last letter.
+bool ignore(Element element, Context& context);
+// A string without its quotes; the view lives as long as the document and its parser.
+bool readText(Element element, std::string_view& out);
+// A key of which all is known but its end; false when it is no string.
+bool readKeyText(ondemand::field& field, std::string_view& out);
 
-inline bool readValue(Element element, std::int64_t& out, Context& context) {
+inline bool isNull(Element element) {
+    bool null = false;
+    return element.is_null().get(null) == simdjson::SUCCESS && null;
+}
+
+// Calls visit(item) for each item; false when the element is no list or a visit fails.
+template <class Visit>
+bool forEachItem(Element element, Context& context, Visit visit) {
+    auto array = element.get_array();
+    if (array.error() != simdjson::SUCCESS)
+        return context.expected("list", element);
+    ++context.depth;
+    for (auto each : array) {
+        if (each.error() != simdjson::SUCCESS || context.depth >= Context::deepest)
+            return context.malformed();
+        // No copy: written member by member and read in one piece, a copy would stall the processor.
+        ondemand::value&& item = std::move(each).value_unsafe();
+        if (!visit(item))
+            return false;
+    }
+    --context.depth;
+    return true;
+}
+
+// Calls visit(field) for each field; false when the element is no object or a visit fails.
+template <class Visit>
+bool forEachField(Element element, Context& context, Visit visit) {
+    auto object = element.get_object();
+    if (object.error() != simdjson::SUCCESS)
+        return context.expected("object", element);
+    ++context.depth;
+    for (auto each : object) {
+        if (each.error() != simdjson::SUCCESS || context.depth >= Context::deepest)
+            return context.malformed();
+        ondemand::field&& field = std::move(each).value_unsafe();
+        if (!visit(field))
+            return false;
+    }
+    --context.depth;
+    return true;
+}
+
+[[gnu::always_inline]] inline bool readValue(Element element, std::int64_t& out, Context& context) {
     return element.get(out) == simdjson::SUCCESS || refuseInteger(element, context);
 }
 inline bool readValue(Element element, std::uint64_t& out, Context& context) {
     return element.get(out) == simdjson::SUCCESS || refuseUnsigned(element, context);
 }
-inline bool readValue(Element element, double& out, Context& context) {
-    return element.get(out) == simdjson::SUCCESS || context.expected("number", element);
+[[gnu::always_inline]] inline bool readValue(Element element, double& out, Context& context) {
+    if (element.get(out) != simdjson::SUCCESS)
+        return context.expected("number", element);
+    return (out > 0 && out < 9e18) || readUnusualNumber(element, out, context);
 }
-inline bool readValue(Element element, bool& out, Context& context) {
+[[gnu::always_inline]] inline bool readValue(Element element, bool& out, Context& context) {
     return element.get(out) == simdjson::SUCCESS || context.expected("boolean", element);
 }
 inline bool readValue(Element element, std::string& out, Context& context) {
     std::string_view text;
-    if (element.get(text) != simdjson::SUCCESS)
+    if (!readText(element, text))
         return context.expected("string", element);
-    out.assign(text);
+    out = std::string(text);
     return true;
 }
 bool readValue(Element element, Url& out, Context& context);
@@ -185,32 +248,34 @@ bool readCase(Element element, Enumeration& out, Context& context) {
 
 template <class T>
 bool readList(Element element, std::vector<T>& out, Context& context) {
-    simdjson::dom::array array;
-    if (element.get(array) != simdjson::SUCCESS)
-        return context.expected("list", element);
+    // Lists of a kind are often of one length; where they are not, no more than a half stays unused.
+    thread_local std::size_t usual = 0;
     out.clear();
-    out.reserve(array.size());
-    for (const Element item : array) {
-        if (!readElement(item, out.emplace_back(), context))
-            return context.within(out.size() - 1);
-    }
-    return true;
+    out.reserve(usual);
+    const bool good = forEachItem(element, context, [&](Element item) {
+        return readElement(item, out.emplace_back(), context) || context.within(out.size() - 1);
+    });
+    usual = std::min<std::size_t>(out.size(), 64);
+    if (out.capacity() > out.size() + out.size() / 2)
+        out.shrink_to_fit();
+    return good;
 }
 
 template <class K, class V>
 bool readMap(Element element, std::map<K, V>& out, Context& context) {
-    simdjson::dom::object object;
-    if (element.get(object) != simdjson::SUCCESS)
-        return context.expected("object", element);
     out.clear();
-    for (const auto [key, value] : object) {
+    return forEachField(element, context, [&](ondemand::field& field) {
+        std::string_view key;
+        if (!readKeyText(field, key))
+            return context.malformed();
+        const std::string text(key);
         K name{};
         V read{};
-        if (!readKey(key, name, context) || !readElement(value, read, context))
-            return context.within(key);
+        if (!readKey(text, name, context) || !readElement(field.value(), read, context))
+            return context.within(text);
         out.insert_or_assign(std::move(name), std::move(read));
-    }
-    return true;
+        return true;
+    });
 }
 
 template <class T>
@@ -222,7 +287,7 @@ bool readElement(Element element, T& out, Context& context) {
     else if constexpr (std::is_enum_v<T>)
         return readCase(element, out, context);
     else if constexpr (IsOptional<T>::value) { // an element of a list that may be null
-        if (element.is_null()) {
+        if (isNull(element)) {
             out.reset();
             return true;
         }
@@ -261,6 +326,12 @@ inline bool sameKey(std::string_view a, std::string_view b) {
     return true;
 }
 
+// Whether a key in a document is this name. Reads no further than a name is long, which the padding behind a
+// document allows for.
+[[gnu::always_inline]] inline bool isKey(const char* raw, std::string_view name) {
+    return raw[name.size()] == '"' && sameKey({raw, name.size()}, name);
+}
+
 // The keys of a record with the ways to find them: by what followed the last key in earlier records of the
 // kind, or else by a hash. Documents repeat their order of keys, so one comparison usually does.
 template <class Record>
@@ -277,6 +348,9 @@ struct Keys {
     static constexpr auto names =
         std::apply([](const auto&... field) { return std::array<std::string_view, count>{field.key...}; },
                    Table<Record>::fields);
+    static_assert(std::ranges::all_of(names, [](std::string_view name) {
+        return name.size() < Source::padding && name.find_first_of("\"\\") == std::string_view::npos;
+    }));
     static constexpr auto presences =
         std::apply([](const auto&... field) { return std::array<Presence, count>{field.presence...}; },
                    Table<Record>::fields);
@@ -319,7 +393,7 @@ struct Keys {
 };
 
 template <class Record, std::size_t I>
-bool readField(Element element, Record& out, Context& context) {
+[[gnu::always_inline]] inline bool readField(Element element, Record& out, Context& context) {
     constexpr auto field = std::get<I>(Table<Record>::fields);
     auto& member = out.*field.member;
     using Member = std::remove_cvref_t<decltype(member)>;
@@ -331,17 +405,19 @@ bool readField(Element element, Record& out, Context& context) {
             return Codec::read(element, target, context);
     };
     if constexpr (field.presence == Presence::WriteOnly || field.presence == Presence::Ignored) {
-        return true;
+        return ignore(element, context);
     } else if constexpr (field.presence == Presence::Optional && IsOptional<Member>::value) {
-        if (element.is_null()) {
+        if (isNull(element)) {
             member.reset();
             return true;
         }
-        // Not an empty emplace: clang holds a nested record with default values for not constructible there.
-        return read(member.emplace(typename Member::value_type())) || context.within(field.key);
+        if constexpr (requires { member.emplace(); })
+            return read(member.emplace()) || context.within(field.key);
+        else // clang holds a nested record with default values for not constructible in its outer record
+            return read(member.emplace(typename Member::value_type())) || context.within(field.key);
     } else if constexpr (field.presence == Presence::OrTrue) {
         member = true;
-        return element.is_null() || read(member) || context.within(field.key);
+        return isNull(element) || read(member) || context.within(field.key);
     } else {
         if constexpr (requires { Table<Member>::fields; }) {
             if (context.repeated) // nothing of the former object stays
@@ -363,29 +439,31 @@ template <class Record>
 bool readRecord(Element element, Record& out, Context& context) {
     using K = Keys<Record>;
     static constexpr auto readers = fieldReaders<Record>(std::make_index_sequence<K::count>());
-    simdjson::dom::object object;
-    if (element.get(object) != simdjson::SUCCESS)
-        return context.expected("object", element);
     if constexpr (requires { Table<Record>::prepare(out); })
         Table<Record>::prepare(out);
     thread_local std::array<std::uint16_t, K::count + 1> successor{};
     auto& follow = successor;
     std::bitset<K::count> seen;
     std::size_t last = K::none;
-    for (const auto [key, value] : object) {
+    const bool good = forEachField(element, context, [&](ondemand::field& field) {
         std::size_t index = follow[last];
-        if (index >= K::count || !sameKey(K::names[index], key)) {
-            index = K::find(key);
+        if (index >= K::count || !isKey(field.key().raw(), K::names[index])) {
+            std::string_view key;
+            if (!readKeyText(field, key))
+                return context.malformed();
+            if (index >= K::count || !sameKey(key, K::names[index])) // it may have been escaped
+                index = K::find(key);
             if (index == K::none)
-                continue;
+                return ignore(field.value(), context);
             follow[last] = static_cast<std::uint16_t>(index);
         }
         last = index;
         context.repeated = seen.test(index);
         seen.set(index);
-        if (!readers[index](value, out, context))
-            return false;
-    }
+        return readers[index](field.value(), out, context);
+    });
+    if (!good)
+        return false;
     if (!seen.all()) {
         for (std::size_t i = 0; i < K::count; ++i) {
             if (!seen.test(i) && K::presences[i] == Presence::Required) {
@@ -526,22 +604,18 @@ bool writeElement(Writer& writer, const T& value) {
 // ---- The functions of Json.h
 // --------------------------------------------------------------------------------
 
-struct Parser::Implementation {
-    simdjson::dom::parser parser;
-};
-
-// Parses the text into the parser's own buffers; fails with the place of the first malformed token.
-Decoded<Element> parse(std::string_view document, const Parser& parser);
+// Reads one document through a reader that sees its root value; answers the document's fault, if it has one.
+using RootReader = std::function<bool(Element, Context&)>;
+std::optional<Error> readDocument(const Source& document, const Parser& parser, const RootReader& read);
 
 template <class T>
-Decoded<T> decode(std::string_view document, const Parser& parser) {
-    const auto root = parse(document, parser);
-    if (!root)
-        return tl::unexpected(root.error());
+Decoded<T> decode(const Source& document, const Parser& parser) {
     Decoded<T> result{T{}};
-    Context context;
-    if (!readElement(*root, *result, context))
-        return tl::unexpected(std::move(context.error));
+    const auto read = [&result](Element root, Context& context) {
+        return readElement(root, *result, context);
+    };
+    if (auto fault = readDocument(document, parser, read))
+        return tl::unexpected(std::move(*fault));
     return result;
 }
 
@@ -567,6 +641,6 @@ tl::expected<std::string, Error> encodePretty(const T& value) {
 
 // Instantiates the functions of Json.h for a type, at namespace scope outside kavor, next to its table.
 #define KAVOR_JSON_DOCUMENT(T)                                                                               \
-    template kavor::json::Decoded<T> kavor::json::decode<T>(std::string_view, const Parser&);                \
+    template kavor::json::Decoded<T> kavor::json::decode<T>(const kavor::json::Source&, const Parser&);      \
     template tl::expected<std::string, kavor::json::Error> kavor::json::encode<T>(const T&);                 \
     template tl::expected<std::string, kavor::json::Error> kavor::json::encodePretty<T>(const T&);

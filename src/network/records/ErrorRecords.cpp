@@ -31,8 +31,8 @@ struct Table<DemandBrandQrErrorResponse> {
 };
 
 // Any JSON document will do.
-inline bool readValue(Element, SimpleResponse&, Context&) {
-    return true;
+inline bool readValue(Element element, SimpleResponse&, Context& context) {
+    return ignore(element, context);
 }
 inline bool writeValue(Writer& writer, const SimpleResponse&) {
     writer.open('{');
