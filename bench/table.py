@@ -72,6 +72,7 @@ def filter_rows(results):
 def start_rows(result):
     if result:
         yield 'first frame of the dashboard: times an empty window', result['client_ms'] / result['empty_ms'], '<=', 1.5
+        yield 'first frame of the dashboard: times a window with a word', result['client_ms'] / result['word_ms'], None, 0
 
 
 def main():
@@ -82,18 +83,22 @@ def main():
     rows = [*catalogue_rows(catalogue), *fresh_rows(load(folder, 'fresh.json')), *draft_rows(draft),
             *filter_rows(load(folder, 'filter.json')), *start_rows(start)]
     rows = [row for row in rows if row[1] is not None]
-    missed = [name for name, value, sign, aim in rows if not (value >= aim if sign == '>=' else value <= aim)]
+    # A row without an aim only informs.
+    missed = [name for name, value, sign, aim in rows if sign and not (value >= aim if sign == '>=' else value <= aim)]
     if '--line' in sys.argv:
-        print(f'bench: {len(rows) - len(missed)} of {len(rows)} aims met' + ''.join(f'; missed: {name}' for name in missed))
+        aims = sum(1 for row in rows if row[2])
+        print(f'bench: {aims - len(missed)} of {aims} aims met' + ''.join(f'; missed: {name}' for name in missed))
         return bool(missed)
     width = max(len(name) for name, *_ in rows)
     for name, value, sign, aim in rows:
-        print(f'{name:<{width}}  {value:9.2f}  aim {sign} {aim:<5g} {"MISSED" if name in missed else "met"}')
+        verdict = f'aim {sign} {aim:<5g} {"MISSED" if name in missed else "met"}' if sign else ''
+        print(f'{name:<{width}}  {value:9.2f}  {verdict}'.rstrip())
     print('\nmilliseconds (medians)')
     for name, time in {**catalogue, **draft}.items():
         print(f'{name:<{width}}  {time:12.4f}')
     if start:
-        print(f'{"start: empty window, dashboard":<{width}}  {start["empty_ms"]:12.1f} {start["client_ms"]:.1f}')
+        times = ' '.join(f'{start[key]:.1f}' for key in ('word_ms', 'client_ms'))
+        print(f'{"start: empty window, window with a word, dashboard":<{width}}  {start["empty_ms"]:12.1f} {times}')
     return bool(missed)
 
 

@@ -102,7 +102,11 @@ struct KavorApplication::Parts {
         , application({session, *sessions, network, auth, defaults, notifications, localNotifications, push,
                        tasks, sync})
         , catalogue({session, network, resources, *sessions, defaults, clock})
-        , wizard{network, OrderDiskManager::shared(), *sessions, sync, alerts, urls, clock, downloader, photos,
+        , wizard{network,   OrderDiskManager::shared(),
+                 *sessions, sync,
+                 alerts,    urls,
+                 clock,     downloader,
+                 photos,    reachability,
                  &location}
         , root({application,
                 alerts,

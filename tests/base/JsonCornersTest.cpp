@@ -127,7 +127,8 @@ TEST(JsonCorners, WhatIsPassedOverIsCheckedLikeAWholeDocument) {
         for (const std::string& text :
              {R"({"id":7,"unknown":)" + value + "}", R"({"id":7,"unknown":[)" + value + "],\"note\":null}",
               R"({"unknown":{"x":)" + value + "},\"id\":7}", R"({"id":7})" + value})
-            EXPECT_EQ(json::decode<Corner>(text).has_value(), json::isWellFormed(text)) << text.substr(0, 200);
+            EXPECT_EQ(json::decode<Corner>(text).has_value(), json::isWellFormed(text))
+                << text.substr(0, 200);
     };
     for (const auto& text : wellFormed)
         agree(text);

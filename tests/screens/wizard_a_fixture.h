@@ -45,11 +45,13 @@ protected:
     ManualClock clock;
     PlainDownloader downloader;
     FakePhotoPicker photos;
+    FakeReachability reachability;
     FakeLocationService locationService;
     FakeReverseGeocoder geocoder;
     ReverseLocationManager location{locationService, geocoder};
     OrderDiskManager orders{folder.path()};
-    WizardServices services{network, orders, sessions, sync, alerts, urls, clock, downloader, photos, &location};
+    WizardServices services{network, orders,     sessions, sync,         alerts,   urls,
+                            clock,   downloader, photos,   reachability, &location};
 
     void SetUp() override {
         session.loginResult = LoginResult{};

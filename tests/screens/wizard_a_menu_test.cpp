@@ -101,6 +101,17 @@ TEST_F(MenuTest, LeavingAStepSavesItAndTheCopyExceptForTheSendStep) {
     EXPECT_EQ(temporaryCopy()->menu.customer.name, "Bar Olmo");
 }
 
+TEST_F(MenuTest, SaysSoAtOnceWhenTheNetworkGoes) {
+    Menu menu(services);
+    int told = 0;
+    QObject::connect(&menu, &Menu::offlineChanged, [&] { ++told; });
+    EXPECT_FALSE(menu.isOffline());
+    network.reachable = false;
+    reachability.set(false);
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(menu.isOffline());
+}
+
 TEST_F(MenuTest, ClosingSavesTheStepOnShowAlsoWhileAResetIsUnderWay) {
     Menu menu(services);
     bool closed = false;

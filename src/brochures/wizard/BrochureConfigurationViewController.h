@@ -29,7 +29,7 @@ public:
 
 // Step 0 of the wizard: the point of sale, the languages, the second price list and the form of the brochure.
 // Every change goes into the draft and its temporary copy at once; the texts when their field is left.
-class BrochureConfigurationViewController : public WizardStepViewController,
+class BrochureConfigurationViewController : public kavor::WizardStepViewController,
                                             public SerializeAutoSave,
                                             public SelectFormatDelegate {
     Q_OBJECT

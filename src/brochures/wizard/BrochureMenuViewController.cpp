@@ -9,6 +9,7 @@
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
+#include "device/Reachability.h"
 #include "network/ServiceOperations.h"
 #include "shell/AppSingleton.h"
 
@@ -87,6 +88,8 @@ BrochureMenuViewController::BrochureMenuViewController(const WizardServices& ser
     : QObject(parent)
     , services_(services)
     , visibleButtons_(entries.size(), true) {
+    connect(&services_.reachability, &Reachability::changed, this,
+            &BrochureMenuViewController::offlineChanged);
     viewDidLoad();
     viewDidAppear();
 }

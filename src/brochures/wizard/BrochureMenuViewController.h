@@ -32,7 +32,7 @@ class BrochureMenuViewController : public QObject {
     Q_PROPERTY(kavor::WizardStepViewController* activeViewController READ activeViewController NOTIFY
                    activeStepChanged)
     Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
-    Q_PROPERTY(bool offline READ isOffline NOTIFY activeStepChanged)
+    Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
     // The document on show over the wizard, null when there is none.
     Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
     // "Se ha recuperado la carta en curso" when the wizard opened with an unfinished menu, otherwise empty.
@@ -84,6 +84,7 @@ signals:
     void closed();
     void menuButtonsChanged();
     void activeStepChanged();
+    void offlineChanged();
     void subtitleChanged();
     void veilVisibleChanged();
     void previewChanged();

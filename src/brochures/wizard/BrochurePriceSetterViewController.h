@@ -28,7 +28,7 @@ public:
 
 // Step 4: the recommended retail prices of every selected format, its volume and its "new" mark, and the
 // format that is highlighted. Each change goes at once to the draft and to its temporary copy.
-class BrochurePriceSetterViewController : public WizardStepViewController,
+class BrochurePriceSetterViewController : public kavor::WizardStepViewController,
                                           public SerializeAutoSave,
                                           public SelectedCell {
     Q_OBJECT

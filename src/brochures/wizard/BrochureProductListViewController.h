@@ -17,7 +17,7 @@ class BrochureIntermediateData;
 
 // Step 2: the brands of the kind's family with their formats, which the user selects within the limits of the
 // kind.
-class BrochureProductListViewController : public WizardStepViewController,
+class BrochureProductListViewController : public kavor::WizardStepViewController,
                                           public SerializeAutoSave,
                                           private PriorityFilterDelegate {
     Q_OBJECT

@@ -22,7 +22,7 @@ struct RequestFailure;
 // Step 6 of the wizard: what the draft holds and lacks, the comment for support, and the ways out: to print,
 // a preview, or kept under a name and in the cloud. The one step that saves nothing of its own when it is
 // left.
-class BrochureSendViewController : public WizardStepViewController {
+class BrochureSendViewController : public kavor::WizardStepViewController {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the wizard")

@@ -14,7 +14,7 @@ namespace kavor {
 
 // Step 1: the graphic style, for the printed or for the online brochure (AppSingleton.isSectionDigital), with
 // its logos, the number of brochures, the attributes that the style asks for, and the QR material.
-class BrochureStyleSelectorViewController : public WizardStepViewController, public SerializeAutoSave {
+class BrochureStyleSelectorViewController : public kavor::WizardStepViewController, public SerializeAutoSave {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the wizard")

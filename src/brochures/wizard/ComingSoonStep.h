@@ -8,7 +8,7 @@
 namespace kavor {
 
 // Stands for a step that is still to come: says so and changes nothing in the draft.
-class ComingSoonStep : public WizardStepViewController, public SerializeAutoSave {
+class ComingSoonStep : public kavor::WizardStepViewController, public SerializeAutoSave {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the wizard")

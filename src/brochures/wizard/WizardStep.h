@@ -15,6 +15,7 @@ class LocationService;
 class OrderDiskManager;
 class PhotoPicker;
 class PlainDownloader;
+class Reachability;
 class ReverseLocationManager;
 class ServiceOperations;
 class SessionStore;
@@ -31,6 +32,7 @@ struct WizardServices {
     Clock& clock;
     PlainDownloader& downloader;
     PhotoPicker& photos;
+    Reachability& reachability;
     ReverseLocationManager* location = nullptr; // none on a device without location
 };
 
@@ -42,6 +44,7 @@ public:
 };
 
 // One step of the wizard. A step is made anew each time it is shown; its view binds to it as "controller".
+// Steps name it with its namespace, or the tools of QML lose sight of what they derive from.
 class WizardStepViewController : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
