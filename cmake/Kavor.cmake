@@ -2,7 +2,11 @@
 
 add_library(kavor_options INTERFACE)
 # One setting for all sources, also for those without optimisation: the parser's classes differ by it.
-target_compile_definitions(kavor_options INTERFACE SIMDJSON_DEVELOPMENT_CHECKS=$<BOOL:${KAVOR_SANITIZE}>)
+if(KAVOR_SANITIZE)
+  target_compile_definitions(kavor_options INTERFACE SIMDJSON_DEVELOPMENT_CHECKS=1)
+else()
+  target_compile_definitions(kavor_options INTERFACE SIMDJSON_DEVELOPMENT_CHECKS=0)
+endif()
 target_compile_options(kavor_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # GCC 12 sees overlaps in std::string's own operator+, and values of empty optionals read, that are not there.

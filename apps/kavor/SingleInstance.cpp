@@ -8,7 +8,7 @@ namespace kavor {
 namespace {
 
 constexpr int answerLimit = 2000; // milliseconds
-constexpr qint64 longestMessage = 64 * 1024;
+constexpr qint64 longestMessage = qint64(64) * 1024;
 
 QString nameFor(const QString& folder) {
     const auto digest = QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256).toHex();

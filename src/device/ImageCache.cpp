@@ -132,7 +132,7 @@ void ImageCache::load(const CachedResource& resource, const QSize& bounds, QObje
 }
 
 void ImageCache::decode(const CachedResource& resource, const QSize& bounds, bool mayFetchAgain,
-                        QObject* context, ImageCallback callback) {
+                        QObject* context, const ImageCallback& callback) {
     const auto withFile = [=, this, guard = QPointer<QObject>(context)](const std::optional<QString>& path) {
         if (!path) {
             callback(QImage());

@@ -66,7 +66,7 @@ private:
     void store(const QString& key, const QByteArray& body, bool lengthIsVerified);
     void finishFetch(const QString& key, const std::optional<QString>& path);
     void decode(const CachedResource& resource, const QSize& bounds, bool mayFetchAgain, QObject* context,
-                ImageCallback callback);
+                const ImageCallback& callback);
 
     QString folder_;
     PlainDownloader& downloader_;

@@ -9,15 +9,18 @@
 
 namespace kavor {
 
-QtLocationService::QtLocationService(QObject* parent)
-    : LocationService(parent)
-    , source_(QGeoPositionInfoSource::createDefaultSource(this)) {
-    if (source_)
-        source_->setPreferredPositioningMethods(QGeoPositionInfoSource::AllPositioningMethods);
+QGeoPositionInfoSource* QtLocationService::source() const {
+    if (!source_) {
+        source_ = QGeoPositionInfoSource::createDefaultSource(const_cast<QtLocationService*>(this));
+        if (*source_)
+            (*source_)->setPreferredPositioningMethods(QGeoPositionInfoSource::AllPositioningMethods);
+    }
+    return *source_;
 }
 
 bool QtLocationService::isAvailable() const {
-    return source_ && source_->supportedPositioningMethods() != QGeoPositionInfoSource::NoPositioningMethods;
+    return source() &&
+           source()->supportedPositioningMethods() != QGeoPositionInfoSource::NoPositioningMethods;
 }
 
 void QtLocationService::requestLocation(QObject* context, Callback callback) {
@@ -40,17 +43,17 @@ void QtLocationService::requestLocation(QObject* context, Callback callback) {
         return;
     }
     auto done = std::make_shared<bool>(false);
-    connect(source_, &QGeoPositionInfoSource::positionUpdated, request,
+    connect(source(), &QGeoPositionInfoSource::positionUpdated, request,
             [finish, done](const QGeoPositionInfo& info) {
                 if (!std::exchange(*done, true))
                     finish({Coordinate{info.coordinate().latitude(), info.coordinate().longitude()}, {}});
             });
-    connect(source_, &QGeoPositionInfoSource::errorOccurred, request,
+    connect(source(), &QGeoPositionInfoSource::errorOccurred, request,
             [finish, done](QGeoPositionInfoSource::Error error) {
                 if (!std::exchange(*done, true))
                     finish({std::nullopt, QStringLiteral("location error %1").arg(int(error))});
             });
-    source_->requestUpdate(timeout);
+    source()->requestUpdate(timeout);
 }
 
 } // namespace kavor

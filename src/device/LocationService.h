@@ -34,18 +34,22 @@ public:
     virtual void requestLocation(QObject* context, Callback callback) = 0;
 };
 
-// The position source of the system.
+// The position source of the system, looked for when it is first asked for: finding it takes longer than a
+// frame.
 class QtLocationService : public LocationService {
     Q_OBJECT
 public:
     static constexpr int timeout = 30'000; // milliseconds
 
-    explicit QtLocationService(QObject* parent = nullptr);
+    using LocationService::LocationService;
     [[nodiscard]] bool isAvailable() const override;
     void requestLocation(QObject* context, Callback callback) override;
 
 private:
-    QGeoPositionInfoSource* source_;
+    // nullptr on a device without a position source.
+    QGeoPositionInfoSource* source() const;
+
+    mutable std::optional<QGeoPositionInfoSource*> source_;
 };
 
 } // namespace kavor

@@ -14,7 +14,7 @@ namespace kavor {
 
 namespace {
 
-constexpr qsizetype longestBody = 1024 * 1024;
+constexpr qsizetype longestBody = qsizetype(1024) * 1024;
 const QByteArray blanked = "***";
 
 bool isSecretName(const QByteArray& name) {

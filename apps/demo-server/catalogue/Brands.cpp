@@ -179,6 +179,7 @@ std::vector<Format> makeFormats(const Brand& brand, const Servings& servings, Di
         chosen.erase(chosen.begin() + dice.below(int(chosen.size())));
     }
     std::vector<Format> formats;
+    formats.reserve(chosen.size());
     for (const Serving& serving : chosen) {
         formats.push_back(makeFormat(brand, serving, int(formats.size()) + 1, dice));
     }

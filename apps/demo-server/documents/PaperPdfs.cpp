@@ -125,7 +125,7 @@ QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
                member(sent, "message"), font);
     report.y() += 86;
     report.heading("Prendas");
-    const Json textile = catalogue.textile();
+    const Json& textile = catalogue.textile();
     int units = 0;
     for (const Json& line : sent["lines"]) {
         for (const Json& item : textile["textil"]) {

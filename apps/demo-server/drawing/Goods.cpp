@@ -266,7 +266,9 @@ void drawSheetStyle(QPainter& painter, const QRectF& area, const SheetStyle& sty
     drawFitted(painter, QRectF(50, 40, 644, 110), Qt::AlignCenter, style.name,
                theme.script ? face(Face::script, 90) : face(Face::title, 70, true));
     for (int module = 0; module < 4; ++module) {
-        const QRectF box(50 + (module % 2) * 330, 240 + (module / 2) * 380, 314, 350);
+        const int column = module % 2;
+        const int row = module / 2;
+        const QRectF box(50 + column * 330, 240 + row * 380, 314, 350);
         painter.setPen(QPen(colour(theme.accent), 3));
         painter.setBrush(mixed(colour(theme.paper), Qt::white, 0.6));
         painter.drawRoundedRect(box, 14, 14);

@@ -27,6 +27,7 @@ const auto& recordOf(const Records& records, int id) {
 
 std::vector<const Look*> looksAt(const Catalogue& catalogue, const std::vector<int>& places) {
     std::vector<const Look*> looks;
+    looks.reserve(places.size());
     for (const int place : places) {
         looks.push_back(&brandAt(catalogue.brands(), Family::beer, place).look);
     }

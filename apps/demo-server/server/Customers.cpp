@@ -153,6 +153,7 @@ Json optionalText(const std::string& text) {
 const std::vector<Bar>& bars() {
     static const std::vector<Bar> all = [] {
         std::vector<Bar> made;
+        made.reserve(barNames.size());
         for (int i = 0; i < int(barNames.size()); ++i) {
             made.push_back(makeBar(i));
         }
@@ -230,8 +231,11 @@ Json addressesFor(const std::string& direction) {
     const int first = dice.below(int(towns.size()));
     for (int i = 0; i < 3; ++i) {
         const Town& town = towns[size_t(first + i * 5) % towns.size()];
-        Json record = {{"full_address", street + (number.empty() ? "" : " " + number) + ", " +
-                                            town.postalCode + " " + town.name + ", " + town.province},
+        std::string address = street;
+        address.append(number.empty() ? "" : " ").append(number);
+        address.append(", ").append(town.postalCode).append(" ").append(town.name);
+        address.append(", ").append(town.province);
+        Json record = {{"full_address", address},
                        {"number", number.empty() ? Json(nullptr) : Json(number)},
                        {"address", street},
                        {"city", town.name},

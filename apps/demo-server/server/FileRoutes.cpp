@@ -75,15 +75,13 @@ void DemoServer::addFileRoutes() {
     route("GET", R"(/tutoriales/(\d{1,3})/token)", Access::open, [](const Call& call) {
         return Answer::text("tutorial-" + call.part(1), "text/plain; charset=utf-8");
     });
-    for (const auto& [path, title, sentence] :
-         {std::tuple{"/recuperar", "Recuperar la contraseña",
-                     "Escribe a soporte@kavor.example y te daremos otra."},
-          std::tuple{"/primera-vez", "Activar tu usuario", "Escribe a soporte@kavor.example para activarlo."},
-          std::tuple{"/actualizar", "Actualizar la aplicación",
-                     "Instala la última versión para seguir trabajando."}}) {
+    const auto plainPage = [this](const char* path, const char* title, const char* sentence) {
         route("GET", path, Access::open,
               [title, sentence](const Call&) { return Answer::page(plainHtml(title, {sentence})); });
-    }
+    };
+    plainPage("/recuperar", "Recuperar la contraseña", "Escribe a soporte@kavor.example y te daremos otra.");
+    plainPage("/primera-vez", "Activar tu usuario", "Escribe a soporte@kavor.example para activarlo.");
+    plainPage("/actualizar", "Actualizar la aplicación", "Instala la última versión para seguir trabajando.");
 }
 
 /// A document's PDF is made once and kept in the data folder.

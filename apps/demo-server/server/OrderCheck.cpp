@@ -273,7 +273,9 @@ void check(const Json& json, const Form& form, const std::string& path, Faults& 
     }
     for (const auto& [key, ignored] : json.items()) {
         if (!seen.contains(key)) {
-            faults[path.empty() ? key : path + "." + key].push_back("El dato no se conoce.");
+            std::string place = path;
+            place.append(path.empty() ? "" : ".").append(key);
+            faults[place].push_back("El dato no se conoce.");
         }
     }
 }

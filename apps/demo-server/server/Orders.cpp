@@ -146,7 +146,8 @@ std::string Orders::addDocument(const std::string& kind, const Json& body) {
     std::string name = randomHex(32);
     database_.run("INSERT INTO documents (name, kind, created, body) VALUES (?, ?, ?, ?)",
                   {name, kind, now(), body.dump()});
-    database_.run("DELETE FROM documents WHERE kind = 'preview' AND created < ?", {now() - 7 * 24 * 3600});
+    constexpr std::int64_t week = std::int64_t(7) * 24 * 3600;
+    database_.run("DELETE FROM documents WHERE kind = 'preview' AND created < ?", {now() - week});
     return name;
 }
 

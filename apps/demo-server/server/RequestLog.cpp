@@ -1,5 +1,7 @@
 #include "server/RequestLog.h"
 
+#include <algorithm>
+
 namespace kavor::demo {
 
 long RequestLog::add(Json entry) {
@@ -14,12 +16,10 @@ long RequestLog::add(Json entry) {
 
 void RequestLog::setStatus(long number, int status) {
     const std::lock_guard lock(mutex_);
-    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
-        if ((*entry)["number"] == number) {
-            (*entry)["status"] = status;
-            return;
-        }
-    }
+    const auto entry = std::find_if(entries_.rbegin(), entries_.rend(),
+                                    [&](const Json& each) { return each["number"] == number; });
+    if (entry != entries_.rend())
+        (*entry)["status"] = status;
 }
 
 Json RequestLog::all() {

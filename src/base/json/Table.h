@@ -169,7 +169,7 @@ bool forEachItem(Element element, Context& context, Visit visit) {
         if (each.error() != simdjson::SUCCESS || context.depth >= Context::deepest)
             return context.malformed();
         // No copy: written member by member and read in one piece, a copy would stall the processor.
-        ondemand::value&& item = std::move(each).value_unsafe();
+        ondemand::value&& item = std::move(each).value_unsafe(); // NOLINT(performance-move-const-arg)
         if (!visit(item))
             return false;
     }
@@ -187,7 +187,7 @@ bool forEachField(Element element, Context& context, Visit visit) {
     for (auto each : object) {
         if (each.error() != simdjson::SUCCESS || context.depth >= Context::deepest)
             return context.malformed();
-        ondemand::field&& field = std::move(each).value_unsafe();
+        ondemand::field&& field = std::move(each).value_unsafe(); // NOLINT(performance-move-const-arg)
         if (!visit(field))
             return false;
     }

@@ -98,6 +98,7 @@ template <class Record>
 BrochureConfigurationViewController::Options
 BrochureConfigurationViewController::sortedOptions(const std::vector<Record>& records) {
     std::vector<const Record*> sorted;
+    sorted.reserve(records.size());
     for (const Record& record : records)
         sorted.push_back(&record);
     std::ranges::stable_sort(sorted, {}, &Record::position);

@@ -6,8 +6,6 @@
 #include "shell/AppSingleton.h"
 #include "shell/screens/ResourceImages.h"
 
-#include <ranges>
-
 namespace kavor {
 
 BrochureStyleSelectorViewController::BrochureStyleSelectorViewController(const WizardServices& services,
@@ -61,9 +59,10 @@ void BrochureStyleSelectorViewController::readStyles() {
         if (const auto* format = context_.catalogue->blackboardFormat(*draft.selectedFormatIdentifier))
             formatType = format->typeId;
     }
-    const auto brands = std::views::keys(draft.selectedBrands);
-    brochureStyles_.setStyles(context_.catalogue->brochures().styles, context_.type->id, formatType,
-                              std::set<Int>(brands.begin(), brands.end()));
+    std::set<Int> brands;
+    for (const auto& [brand, formats] : draft.selectedBrands)
+        brands.insert(brand);
+    brochureStyles_.setStyles(context_.catalogue->brochures().styles, context_.type->id, formatType, brands);
 }
 
 void BrochureStyleSelectorViewController::selectStyle(int index) {

@@ -52,10 +52,11 @@ void HighlightZone::setRows(const std::vector<PriceRow>& rows) {
     else if (after > before)
         beginInsertRows({}, before + 1, after);
     highlightableProducts_ = std::move(wanted);
-    if (after < before)
+    if (after < before) {
         endRemoveRows();
-    else if (after > before)
+    } else if (after > before) {
         endInsertRows();
+    }
     emit dataChanged(index(0), index(after));
 }
 

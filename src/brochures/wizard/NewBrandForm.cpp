@@ -98,7 +98,7 @@ Product NewBrandForm::makeProduct(Int id) const {
     if (const std::string description = description_.trimmed().toStdString(); !description.empty())
         product.description = description;
     product.isSecondary = true;
-    product.category.emplace();
+    product.category = Product::Category();
     product.category->propertyId = addedByHandProperty;
     product.category->categoryLabel = typologies_.names.value(typology_).toStdString();
     product.category->segmentId = segments_.chosen(segment_);

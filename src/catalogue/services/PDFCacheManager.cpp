@@ -89,7 +89,7 @@ std::optional<std::filesystem::path> PDFCacheManager::folder() const {
 
 std::optional<QUrl> PDFCacheManager::localOrRemoteURL(const std::string& text) const {
     const auto cache = folder();
-    const auto url = webAddress(text);
+    auto url = webAddress(text);
     if (!cache || !url)
         return std::nullopt;
     evict(*cache);

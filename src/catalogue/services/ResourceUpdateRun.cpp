@@ -35,8 +35,8 @@ ResourceUpdateRun::ResourceUpdateRun(ImageCache& cache, FontUpdater& fonts, Noti
     , fonts_(fonts)
     , notifications_(notifications) {}
 
-void ResourceUpdateRun::start(const ApplicationInformation& catalogue, Progress progress) {
-    const auto launch = [this](Prefetcher* prefetcher) {
+void ResourceUpdateRun::start(const ApplicationInformation& catalogue, const Progress& progress) {
+    const auto launch = [](Prefetcher* prefetcher) {
         connect(prefetcher, &Prefetcher::finished, prefetcher, &QObject::deleteLater);
         prefetcher->setMaxConcurrentDownloads(concurrency);
         prefetcher->start();

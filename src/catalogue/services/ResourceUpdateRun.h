@@ -25,7 +25,7 @@ public:
                       QObject* parent = nullptr);
 
     // Starts a run over a catalogue, of which nothing is kept. Progress begins with 0 inside this call.
-    void start(const ApplicationInformation& catalogue, Progress progress);
+    void start(const ApplicationInformation& catalogue, const Progress& progress);
 
     // "Actualizando imágenes 3/12"
     [[nodiscard]] static QString label(int count, int total);
