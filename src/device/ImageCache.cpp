@@ -128,7 +128,7 @@ void ImageCache::load(const CachedResource& resource, const QSize& bounds, QObje
             Qt::QueuedConnection);
         return;
     }
-    decode(resource, bounds, isCached(resource.key), context, std::move(callback));
+    decode(resource, bounds, isCached(resource.key), context, callback);
 }
 
 void ImageCache::decode(const CachedResource& resource, const QSize& bounds, bool mayFetchAgain,

@@ -78,9 +78,9 @@ QThreadPool& PdfDocument::pool() {
     return shared;
 }
 
-int PdfRegistry::add(std::shared_ptr<PdfDocument> document) {
+int PdfRegistry::add(const std::shared_ptr<PdfDocument>& document) {
     QMutexLocker lock(&registry().mutex);
-    registry().documents.insert(++registry().lastId, std::move(document));
+    registry().documents.insert(++registry().lastId, document);
     return registry().lastId;
 }
 

@@ -39,7 +39,7 @@ private:
 // Open documents by number, shared between the models on the UI thread and the jobs of the pool.
 class PdfRegistry {
 public:
-    static int add(std::shared_ptr<PdfDocument> document);
+    static int add(const std::shared_ptr<PdfDocument>& document);
     static std::shared_ptr<PdfDocument> find(int id);
     // The last owner lets go on the pool's thread.
     static void remove(int id);
