@@ -41,13 +41,14 @@ Draft& openDraft(const benchmark::State& state) {
     draft.setSecondPrice(PriceType::terrace);
     draft.selectedNumberOfBrochures = Draft::MainAndSecondary{20, 20};
     draft.customerInformation.emplace().name = "Bar La Esquina";
-    const auto& products = catalogue.information().products;
+    // Of the kind's own family: brands of another are not carried along, and would make drafts unlike.
+    const auto products = catalogue.productsOfFamily(ApplicationFather::orderBeer);
     const std::size_t stride = std::max<std::size_t>(1, products.size() / wanted);
     for (std::size_t i = 0; i < products.size() && draft.selectedBrands.size() < wanted; i += stride) {
-        const auto& formats = products[i].productList;
-        for (std::size_t f = 0; products[i].category && f < formats.size() && f < 2; ++f) {
-            draft.setFormatSelected(true, formats[f].id, products[i].id);
-            draft.setPrice(PriceType::main, formats[f].id, products[i].id, 1000);
+        const Product& product = *products[i];
+        for (std::size_t f = 0; product.category && f < product.productList.size() && f < 2; ++f) {
+            draft.setFormatSelected(true, product.productList[f].id, product.id);
+            draft.setPrice(PriceType::main, product.productList[f].id, product.id, 1000);
         }
     }
     if (draft.selectedBrands.size() != wanted) {
