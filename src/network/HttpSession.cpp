@@ -1,6 +1,5 @@
 #include "network/HttpSession.h"
 
-#include "base/json/Json.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "network/OneTimeBody.h"
@@ -13,13 +12,6 @@
 #include <utility>
 
 namespace kavor {
-
-namespace {
-
-// A length that a server only claims reserves no more than this.
-constexpr qint64 largestReservation = qint64(128) << 20U;
-
-} // namespace
 
 // One request on its way.
 class HttpExchange : public QObject {
@@ -145,11 +137,8 @@ void HttpExchange::watch() {
 }
 
 void HttpExchange::checkHead() {
-    const qint64 length = reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong();
-    if (exceedsLimit(length))
+    if (exceedsLimit(reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong()))
         failAsTooLarge();
-    else if (length > 0 && length <= largestReservation) // and room for a parser that reads on a little
-        body_.reserve(length + qsizetype(json::Source::padding));
 }
 
 void HttpExchange::collect() {

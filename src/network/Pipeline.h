@@ -56,8 +56,7 @@ NetworkManager::RequestPointer NetworkManager::prepare(const Operation& operatio
     if (operation.changesServer)
         request->idempotencyKey = newIdempotencyKey();
     request->decode = [response, read](const QByteArray& body) -> std::optional<json::Error> {
-        auto decoded = read(json::Source(std::string_view(body.constData(), std::size_t(body.size())),
-                                         std::size_t(body.capacity() - body.size())));
+        auto decoded = read(std::string_view(body.constData(), std::size_t(body.size())));
         if (!decoded)
             return std::move(decoded.error());
         response->emplace(std::move(*decoded));

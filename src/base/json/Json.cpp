@@ -1,4 +1,5 @@
 #include "base/AppFormatter.h"
+#include "base/AtomicFile.h"
 #include "base/json/Table.h"
 
 namespace kavor::json {
@@ -48,7 +49,8 @@ std::optional<Error> readScalar(const Source& document, const Parser& parser, co
 } // namespace
 
 std::optional<Error> readDocument(const Source& document, const Parser& parser, const RootReader& read) {
-    static_assert(Source::padding >= simdjson::SIMDJSON_PADDING);
+    static_assert(Source::padding >= simdjson::SIMDJSON_PADDING &&
+                  atomic_file::roomBehind >= Source::padding);
     if (isScalar(document.text))
         return readScalar(document, parser, read);
     auto& implementation = parser.implementation();

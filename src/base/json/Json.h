@@ -52,9 +52,6 @@ struct Source {
     Source(const std::string& document)
         : text(document)
         , readableBehind(document.capacity() - document.size()) {}
-    Source(std::string_view document, std::size_t behind)
-        : text(document)
-        , readableBehind(behind) {}
 };
 
 // Reads a whole document strictly: a missing required key, a wrong type or a value outside an enumeration's
