@@ -82,10 +82,12 @@ bool Url::isValid(std::string_view text) {
     }
     if (text.empty() || !(isPlain(text) || isReadable(text)))
         return false;
-    const auto scheme = text.find("://");
-    if (scheme == std::string_view::npos)
+    // Two slashes name a host when they stand at the beginning or behind the scheme's colon.
+    const auto slash = text.find_first_of("/?#");
+    if (slash == std::string_view::npos || !text.substr(slash).starts_with("//") ||
+        (slash > 0 && text[slash - 1] != ':'))
         return true;
-    const std::size_t host = scheme + 3;
+    const std::size_t host = slash + 2;
     if (!hasValidPort(text.substr(host)))
         return false;
     if (const auto end = text.find_first_of("/?#", host); end != std::string_view::npos && text[end] == '/')

@@ -136,7 +136,6 @@ TEST(Json, RefusesTextsThatAreNoJson) {
                                     with("number", ".5"),
                                     with("price", "1."),
                                     with("price", "NaN"),
-                                    with("price", "1e999"),
                                     with("price", "0x1"),
                                     with("open", "True"),
                                     with("name", "'a'"),

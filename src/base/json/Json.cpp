@@ -15,23 +15,102 @@ Parser::~Parser() = default;
 
 namespace {
 
-// Parses the whole of a document without reading it; answers what is wrong with it, if anything is.
-std::optional<Error> malformation(const Source& document) {
-    simdjson::dom::parser parser;
-    const bool copy = document.readableBehind < Source::padding;
-    if (const auto error = parser.parse(document.text.data(), document.text.size(), copy).error())
-        return Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)};
-    return std::nullopt;
-}
-
 bool isBlank(char c) {
     return c == ' ' || c == '\n' || c == '\r' || c == '\t';
+}
+
+enum class Number {
+    None, // no number by JSON's grammar
+    Integer,
+    Fraction, // or with an exponent
+};
+
+// What a text is by the grammar alone: JSON sets no limit to the size of a number.
+Number numberKind(std::string_view text) {
+    std::size_t at = 0;
+    const auto digits = [&] {
+        const std::size_t from = at;
+        while (at < text.size() && text[at] >= '0' && text[at] <= '9')
+            ++at;
+        return at - from;
+    };
+    const auto take = [&](std::string_view any) {
+        const bool found = at < text.size() && any.find(text[at]) != std::string_view::npos;
+        at += found ? 1 : 0;
+        return found;
+    };
+    take("-");
+    const std::size_t first = at;
+    const std::size_t whole = digits();
+    if (whole == 0 || (whole > 1 && text[first] == '0'))
+        return Number::None;
+    Number kind = Number::Integer;
+    if (take(".")) {
+        kind = Number::Fraction;
+        if (digits() == 0)
+            return Number::None;
+    }
+    if (take("eE")) {
+        kind = Number::Fraction;
+        take("+-");
+        if (digits() == 0)
+            return Number::None;
+    }
+    return at == text.size() ? kind : Number::None;
+}
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+Number numberKind(Element element) {
+    return numberKind(trimmed(element.raw_json_token()));
 }
 
 // A scalar is read as the only item of a list: the parser reads no root but lists and objects.
 bool isScalar(std::string_view document) {
     const auto first = std::ranges::find_if_not(document, isBlank);
     return first == document.end() || (*first != '{' && *first != '[');
+}
+
+// Reads a list or object with the parser; answers whether the whole of it could be read. The context says why
+// not.
+bool readTree(const Source& document, const Parser& parser, const RootReader& read, Context& context) {
+    auto& implementation = parser.implementation();
+    std::string_view text = document.text;
+    if (document.readableBehind < Source::padding) {
+        implementation.copy.reserve(text.size() + Source::padding);
+        implementation.copy.assign(text);
+        text = implementation.copy;
+    }
+    ondemand::document opened;
+    ondemand::value root;
+    return implementation.parser.iterate(simdjson::padded_string_view(text, text.size() + Source::padding))
+                   .get(opened) == simdjson::SUCCESS &&
+           opened.get_value().get(root) == simdjson::SUCCESS && read(root, context) &&
+           opened.current_location().error() == simdjson::OUT_OF_BOUNDS; // nothing follows
+}
+
+// Parses the whole of a document; answers what is wrong with it, if anything is. The parser takes a number
+// that no machine type holds for a fault of the text, which it is not: then the document is walked.
+std::optional<Error> malformation(const Source& document) {
+    simdjson::dom::parser parser;
+    const bool copy = document.readableBehind < Source::padding;
+    const auto error = parser.parse(document.text.data(), document.text.size(), copy).error();
+    if (!error)
+        return std::nullopt;
+    if (error == simdjson::NUMBER_ERROR) {
+        Context context;
+        const bool good = isScalar(document.text) ? numberKind(trimmed(document.text)) != Number::None
+                                                  : readTree(document, Parser(), ignore, context);
+        if (good)
+            return std::nullopt;
+    }
+    return Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)};
 }
 
 std::optional<Error> readScalar(const Source& document, const Parser& parser, const RootReader& read) {
@@ -53,22 +132,8 @@ std::optional<Error> readDocument(const Source& document, const Parser& parser, 
                   atomic_file::roomBehind >= Source::padding);
     if (isScalar(document.text))
         return readScalar(document, parser, read);
-    auto& implementation = parser.implementation();
-    std::string_view text = document.text;
-    if (document.readableBehind < Source::padding) {
-        implementation.copy.reserve(text.size() + Source::padding);
-        implementation.copy.assign(text);
-        text = implementation.copy;
-    }
     Context context;
-    ondemand::document opened;
-    ondemand::value root;
-    const bool good =
-        implementation.parser.iterate(simdjson::padded_string_view(text, text.size() + Source::padding))
-                .get(opened) == simdjson::SUCCESS &&
-        opened.get_value().get(root) == simdjson::SUCCESS && read(root, context) &&
-        opened.current_location().error() == simdjson::OUT_OF_BOUNDS; // nothing follows
-    if (good)
+    if (readTree(document, parser, read, context))
         return std::nullopt;
     // That a text is no document at all counts before a wrong value in it.
     if (auto error = malformation(document))
@@ -89,11 +154,8 @@ std::string_view typeName(Element element) {
         return "list";
     case ondemand::json_type::object:
         return "object";
-    case ondemand::json_type::number: {
-        ondemand::number_type number{};
-        const bool known = element.get_number_type().get(number) == simdjson::SUCCESS;
-        return known && number != ondemand::number_type::floating_point_number ? "integer" : "number";
-    }
+    case ondemand::json_type::number:
+        return numberKind(element) == Number::Integer ? "integer" : "number";
     case ondemand::json_type::string:
         return "string";
     case ondemand::json_type::boolean:
@@ -131,21 +193,19 @@ bool readKeyText(ondemand::field& field, std::string_view& out) {
     return true;
 }
 
-bool readUnusualNumber(Element element, double& out, Context& context) {
-    ondemand::number_type type{};
-    if (element.get_number_type().get(type) != simdjson::SUCCESS)
-        return context.malformed();
-    if (type == ondemand::number_type::floating_point_number)
-        return true;
-    std::int64_t integer = 0;
-    std::uint64_t large = 0;
-    if (element.get(integer) == simdjson::SUCCESS)
-        out = static_cast<double>(integer);
-    else if (element.get(large) == simdjson::SUCCESS)
-        out = static_cast<double>(large);
-    else
-        return context.malformed();
+bool readNegativeZero(Element element, double& out) {
+    if (std::int64_t integer = 0; element.get(integer) == simdjson::SUCCESS)
+        out = 0;
     return true;
+}
+
+bool readLargeNumber(Element element, double& out, Context& context) {
+    if (numberKind(element) == Number::None)
+        return context.expected("number", element);
+    const std::string_view token = trimmed(element.raw_json_token());
+    const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), out);
+    return (error == std::errc() && end == token.data() + token.size()) ||
+           context.fail("number out of range");
 }
 
 bool ignore(Element element, Context& context) {
@@ -160,10 +220,8 @@ bool ignore(Element element, Context& context) {
             std::string_view key;
             return readKeyText(field, key) ? ignore(field.value(), context) : context.malformed();
         });
-    case ondemand::json_type::number: {
-        double number = 0;
-        return readValue(element, number, context);
-    }
+    case ondemand::json_type::number:
+        return numberKind(element) != Number::None || context.malformed(); // the parser passes over it
     case ondemand::json_type::string: {
         std::string_view text;
         return readText(element, text) || context.malformed();

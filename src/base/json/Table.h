@@ -144,8 +144,10 @@ bool readRecord(Element element, Record& out, Context& context);
 // The faults of values; they answer false.
 bool refuseInteger(Element element, Context& context);
 bool refuseUnsigned(Element element, Context& context);
-// A number that was read as such, and may be an integer: -0 is 0 then, and 21 digits are too many.
-bool readUnusualNumber(Element element, double& out, Context& context);
+// An integer -0 is 0, which is what it is in a document that is written again.
+bool readNegativeZero(Element element, double& out);
+// A number that the parser did not take, for example one of twenty digits.
+bool readLargeNumber(Element element, double& out, Context& context);
 // Reads a value that no member takes, to the last letter.
 bool ignore(Element element, Context& context);
 // A string without its quotes; the view lives as long as the document and its parser.
@@ -203,8 +205,8 @@ inline bool readValue(Element element, std::uint64_t& out, Context& context) {
 }
 [[gnu::always_inline]] inline bool readValue(Element element, double& out, Context& context) {
     if (element.get(out) != simdjson::SUCCESS)
-        return context.expected("number", element);
-    return (out > 0 && out < 9e18) || readUnusualNumber(element, out, context);
+        return readLargeNumber(element, out, context);
+    return out != 0 || !std::signbit(out) || readNegativeZero(element, out);
 }
 [[gnu::always_inline]] inline bool readValue(Element element, bool& out, Context& context) {
     return element.get(out) == simdjson::SUCCESS || context.expected("boolean", element);
@@ -248,15 +250,15 @@ bool readCase(Element element, Enumeration& out, Context& context) {
 
 template <class T>
 bool readList(Element element, std::vector<T>& out, Context& context) {
-    // Lists of a kind are often of one length; where they are not, no more than a half stays unused.
+    // Lists of a kind are often about as long; where they are not, no more than a half stays unused.
     thread_local std::size_t usual = 0;
     out.clear();
     out.reserve(usual);
     const bool good = forEachItem(element, context, [&](Element item) {
         return readElement(item, out.emplace_back(), context) || context.within(out.size() - 1);
     });
-    usual = std::min<std::size_t>(out.size(), 64);
-    if (out.capacity() > out.size() + out.size() / 2)
+    usual = std::min<std::size_t>(std::max(out.size(), usual - usual / 4), 64);
+    if (out.capacity() > out.size() * 2)
         out.shrink_to_fit();
     return good;
 }
@@ -427,40 +429,60 @@ template <class Record, std::size_t I>
     }
 }
 
-template <class Record>
-using FieldReader = bool (*)(Element, Record&, Context&);
+enum class FieldRead {
+    Failed,
+    Good,
+    OtherKey,
+};
 
-template <class Record, std::size_t... I>
-constexpr std::array<FieldReader<Record>, sizeof...(I)> fieldReaders(std::index_sequence<I...>) {
-    return {readField<Record, I>...};
+// Reads a field if it is the one that is expected next. Each has a function with its key built in, so that
+// the comparison, done for every field of a document, needs no look at a table.
+template <class Record, std::size_t I>
+FieldRead readExpectedField(ondemand::field& field, Record& out, Context& context) {
+    if (!isKey(field.key().raw(), Keys<Record>::names[I]))
+        return FieldRead::OtherKey;
+    return static_cast<FieldRead>(readField<Record, I>(field.value(), out, context));
 }
+
+template <class Record, class Sequence>
+struct FieldReaders;
+template <class Record, std::size_t... I>
+struct FieldReaders<Record, std::index_sequence<I...>> {
+    static constexpr std::array expected{readExpectedField<Record, I>...};
+    static constexpr std::array any{readField<Record, I>...};
+};
 
 template <class Record>
 bool readRecord(Element element, Record& out, Context& context) {
     using K = Keys<Record>;
-    static constexpr auto readers = fieldReaders<Record>(std::make_index_sequence<K::count>());
+    using Readers = FieldReaders<Record, std::make_index_sequence<K::count>>;
     if constexpr (requires { Table<Record>::prepare(out); })
         Table<Record>::prepare(out);
+    // Which field came after which in earlier records of the kind.
     thread_local std::array<std::uint16_t, K::count + 1> successor{};
     auto& follow = successor;
     std::bitset<K::count> seen;
     std::size_t last = K::none;
     const bool good = forEachField(element, context, [&](ondemand::field& field) {
         std::size_t index = follow[last];
-        if (index >= K::count || !isKey(field.key().raw(), K::names[index])) {
-            std::string_view key;
-            if (!readKeyText(field, key))
-                return context.malformed();
-            if (index >= K::count || !sameKey(key, K::names[index])) // it may have been escaped
-                index = K::find(key);
-            if (index == K::none)
-                return ignore(field.value(), context);
-            follow[last] = static_cast<std::uint16_t>(index);
+        context.repeated = seen.test(index);
+        const FieldRead read = Readers::expected[index](field, out, context);
+        if (read != FieldRead::OtherKey) {
+            seen.set(index);
+            last = index;
+            return read == FieldRead::Good;
         }
+        std::string_view key;
+        if (!readKeyText(field, key))
+            return context.malformed();
+        index = K::find(key);
+        if (index == K::none)
+            return ignore(field.value(), context);
+        follow[last] = static_cast<std::uint16_t>(index);
         last = index;
         context.repeated = seen.test(index);
         seen.set(index);
-        return readers[index](field.value(), out, context);
+        return Readers::any[index](field.value(), out, context);
     });
     if (!good)
         return false;
