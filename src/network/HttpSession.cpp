@@ -124,8 +124,11 @@ void HttpExchange::start() {
     if (request_.method == "GET") {
         reply_ = session_.reads_->get(networkRequest());
     } else {
+        // A manager of its own has no connection that an earlier request left behind: such a one may have
+        // gone stale, and a write is never sent a second time.
+        auto* connections = new QNetworkAccessManager(this);
         auto* body = new OneTimeBody(request_.body, this);
-        reply_ = session_.writes_->sendCustomRequest(networkRequest(), request_.method, body);
+        reply_ = connections->sendCustomRequest(networkRequest(), request_.method, body);
     }
     watch();
 }
@@ -218,8 +221,7 @@ HttpSession::HttpSession(SessionConfiguration configuration, Clock& clock, Reach
     , configuration_(std::move(configuration))
     , clock_(clock)
     , reachability_(reachability)
-    , reads_(new QNetworkAccessManager(this))
-    , writes_(new QNetworkAccessManager(this)) {
+    , reads_(new QNetworkAccessManager(this)) {
     connect(&reachability_, &Reachability::changed, this, [this] {
         for (HttpExchange* exchange : QList(exchanges_)) {
             if (!exchange->isStarted())

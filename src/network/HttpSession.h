@@ -70,9 +70,7 @@ private:
     SessionConfiguration configuration_;
     Clock& clock_;
     Reachability& reachability_;
-    // Anything but a GET gets a connection of its own, which can't have gone stale.
-    QNetworkAccessManager* reads_;
-    QNetworkAccessManager* writes_;
+    QNetworkAccessManager* reads_; // anything but a GET gets a connection of its own
     QList<HttpExchange*> exchanges_;
 };
 

@@ -7,6 +7,8 @@
 
 #include <QThread>
 
+#include <set>
+
 // What goes over the wire, and how a request ends when the wire misbehaves.
 namespace kavor {
 namespace {
@@ -34,6 +36,24 @@ TEST(HttpSession, SendsAnOrderOnceAlsoWhenAnotherConnectionStoodOpen) {
         EXPECT_EQ(order.failures, 1);
         EXPECT_EQ(rig.server.requestsTo(orderPath).size(), i);
     }
+}
+
+// A server may keep a connection open, or close it later without having said so.
+TEST(HttpSession, SendsEveryWriteOnAConnectionOfItsOwn) {
+    Rig rig(true);
+    rig.server.then(orderPath, A::empty(401));
+    rig.server.answer(orderPath, A::json("{}"));
+    rig.server.answer(loginPath, A::json(goodLogin));
+    for (int i = 1; i <= 2; ++i) {
+        Outcome order;
+        sendOrder(rig, order);
+        ASSERT_TRUE(waitFor([&] { return order.successes == 1; }));
+    }
+    std::set<int> connections;
+    for (const ScriptedRequest& request : rig.server.requests())
+        connections.insert(request.connection);
+    EXPECT_EQ(rig.server.requests().size(), 4);
+    EXPECT_EQ(connections.size(), 4U);
 }
 
 TEST(HttpSession, KeepsTheIdempotencyKeyOfAnOrderThroughItsRepeatsAndGivesTheNextItsOwn) {
