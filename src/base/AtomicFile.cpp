@@ -69,6 +69,20 @@ std::filesystem::path temporarySibling(const std::filesystem::path& path) {
                              std::to_string(counter.fetch_add(1)));
 }
 
+// The process that a temporary's name carries; nothing for any other name.
+std::optional<pid_t> writerOf(std::string_view name) {
+    if (!name.starts_with(temporaryPrefix))
+        return std::nullopt;
+    const char* const end = name.data() + name.size();
+    pid_t owner = 0;
+    const auto [dash, error] = std::from_chars(name.data() + temporaryPrefix.size(), end, owner);
+    if (error != std::errc() || owner <= 0 || dash == end || *dash != '-')
+        return std::nullopt;
+    unsigned number = 0;
+    const auto [read, fault] = std::from_chars(dash + 1, end, number);
+    return fault == std::errc() && read == end ? std::optional(owner) : std::nullopt;
+}
+
 tl::expected<std::filesystem::path, Failure> writeTemporary(const std::filesystem::path& path,
                                                             std::string_view content) {
     const auto temporary = temporarySibling(path);
@@ -181,13 +195,10 @@ Done makeFolder(const std::filesystem::path& folder) {
 void sweepTemporaries(const std::filesystem::path& folder) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-        const auto name = entry.path().filename().string();
-        if (!name.starts_with(temporaryPrefix))
+        const auto owner = writerOf(entry.path().filename().string());
+        if (!owner)
             continue;
-        pid_t owner = 0;
-        const char* begin = name.data() + temporaryPrefix.size();
-        std::from_chars(begin, name.data() + name.size(), owner);
-        const bool alive = owner > 0 && owner != ::getpid() && (::kill(owner, 0) == 0 || errno == EPERM);
+        const bool alive = *owner != ::getpid() && (::kill(*owner, 0) == 0 || errno == EPERM);
         if (!alive)
             ::unlink(entry.path().c_str());
     }

@@ -3,6 +3,7 @@
 #include "base/StopProcess.h"
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <unordered_map>
 
@@ -44,6 +45,7 @@ void appendFiles(std::vector<DraftOrderRow>& rows, const OrderDiskManager& order
         row.filename = OrderDiskManager::plainName(file.fileName);
         row.state = directory;
         row.date = file.modificationDate;
+        row.moment = file.modificationMoment;
         row.syncState =
             directory == DirectoryName::draft ? OrderSyncState::savedLocally : OrderSyncState::pendingToSend;
         rows.push_back(std::move(row));
@@ -57,6 +59,7 @@ DraftOrderRow cloudRow(const Order& order, SectionIdentifier section) {
     DraftOrderRow row;
     row.filename = *order.filename;
     row.date = order.date;
+    row.moment = {order.date.toTime(), 0};
     row.syncState = OrderSyncState::cloud;
     row.sectionIdentifier = section;
     return row;
@@ -71,6 +74,20 @@ std::unordered_map<Int, const Order*> byId(const std::optional<std::vector<Order
             index.try_emplace(order.id, &order);
     }
     return index;
+}
+
+// A row's state stands in its records too, for whoever holds only those.
+void placeStates(std::vector<DraftOrderRow>& rows) {
+    for (DraftOrderRow& row : rows) {
+        const auto place = [&row](auto& record) {
+            if (record)
+                record->syncState = row.syncState;
+        };
+        place(row.brochureOrder);
+        place(row.textileOrder);
+        place(row.brochureServerOrder);
+        place(row.textileServerOrder);
+    }
 }
 
 } // namespace
@@ -89,6 +106,7 @@ void DraftOrderRows::rebuildLocalRows(const OrderDiskManager& orders) {
     appendFiles<SaveBrochuresOrder>(draftsOrderList_, orders, DirectoryName::outbox);
     appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::draft);
     appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::outbox);
+    placeStates(draftsOrderList_);
     sortRows();
 }
 
@@ -106,6 +124,7 @@ void DraftOrderRows::applyAnswer(const OrderList& answer) {
     appendCloudRows(answer);
     mergeLocalRows(answer);
     dropDuplicates();
+    placeStates(draftsOrderList_);
     sortRows();
 }
 
@@ -190,7 +209,7 @@ void DraftOrderRows::sortSentOrders() {
 }
 
 void DraftOrderRows::sortRows() {
-    sortNewestFirst(draftsOrderList_);
+    std::ranges::stable_sort(draftsOrderList_, std::ranges::greater(), &DraftOrderRow::moment);
 }
 
 } // namespace kavor

@@ -19,6 +19,7 @@ struct DraftOrderRow {
     std::string filename;                                 // plain
     std::optional<OrderDiskManager::DirectoryName> state; // unset for a row that is only in the cloud
     LocalDateTime date;
+    OrderDiskManager::Moment moment; // of the date, for the order of the rows
     OrderSyncState syncState = OrderSyncState::savedLocally;
     SectionIdentifier sectionIdentifier;
 

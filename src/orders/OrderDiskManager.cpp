@@ -38,8 +38,11 @@ std::optional<std::filesystem::path> orderPath(const std::filesystem::path& fold
 
 } // namespace
 
-OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder)
-    : documents_(std::move(documentsFolder)) {
+OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder, Opening opening)
+    : documents_(std::move(documentsFolder))
+    , opening_(opening) {
+    if (opening_ == Opening::AsItStands)
+        return;
     for (const DirectoryName directory : allCases) {
         for (const std::string_view record : recordNames) {
             const auto path = folder(record, directory);
@@ -134,6 +137,8 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName dire
     const auto path = folder(Order::folderName, directory);
     std::error_code error;
     std::filesystem::directory_iterator entries(path, error);
+    if (opening_ == Opening::AsItStands && error == std::errc::no_such_file_or_directory)
+        return {};
     if (error)
         stopProcess("orders folder " + path.string() + ": " + error.message());
     std::vector<Listing> result;
@@ -146,8 +151,11 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName dire
             stopProcess("attributes of " + entry.path().string());
         // Not every file system keeps the moment of birth.
         const auto birth = (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime : status.stx_mtime;
-        result.push_back({name, directory, LocalDateTime::fromTime(birth.tv_sec),
-                          LocalDateTime::fromTime(status.stx_mtime.tv_sec)});
+        result.push_back({name,
+                          directory,
+                          LocalDateTime::fromTime(birth.tv_sec),
+                          LocalDateTime::fromTime(status.stx_mtime.tv_sec),
+                          {status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec}});
     }
     return result;
 }

@@ -6,6 +6,8 @@
 #include "textile/SaveTextileOrder.h"
 
 #include <array>
+#include <compare>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -24,15 +26,28 @@ public:
     static constexpr std::array allCases{DirectoryName::draft, DirectoryName::outbox};
     static constexpr std::string_view extension = "zvo";
 
+    struct Moment { // since the beginning of 1970
+        std::int64_t seconds = 0;
+        std::int64_t nanoseconds = 0;
+        auto operator<=>(const Moment&) const = default;
+    };
+
     struct Listing {
         std::string fileName; // with the extension
         DirectoryName directory = DirectoryName::draft;
         LocalDateTime creationDate;
         LocalDateTime modificationDate;
+        // Of the modification; finer than its date, and the same hour of an autumn night does not come twice.
+        Moment modificationMoment;
     };
 
-    // Makes the tree and sweeps what a dead writer left; the process stops when the tree can't be made.
-    explicit OrderDiskManager(std::filesystem::path documentsFolder);
+    // Whether the folders are the application's own, or others' that are only read: nothing changes there,
+    // and a missing one holds no files.
+    enum class Opening { AsOwner, AsItStands };
+
+    // As the owner, makes the tree and sweeps what a dead writer left; the process stops when the tree can't
+    // be made.
+    explicit OrderDiskManager(std::filesystem::path documentsFolder, Opening opening = Opening::AsOwner);
 
     // The instance over the application's documents folder, made on first use.
     static OrderDiskManager& shared();
@@ -66,6 +81,7 @@ private:
     [[nodiscard]] std::filesystem::path folder(std::string_view recordName, DirectoryName directory) const;
 
     std::filesystem::path documents_;
+    Opening opening_;
 };
 
 } // namespace kavor

@@ -125,10 +125,10 @@ TEST(AtomicFile, TheSweepTakesTheTemporariesOfTheDeadOnly) {
     const std::string living = ".tmp-" + std::to_string(::getppid()) + "-0";
     for (const std::string& name :
          {".tmp-" + std::to_string(dead) + "-3", ".tmp-" + std::to_string(::getpid()) + "-9",
-          std::string(".tmp-x"), living, std::string("a.zvo")})
+          std::string(".tmp-x"), std::string(".tmp-7-notes"), living, std::string("a.zvo")})
         folder.put(name, "x");
     atomic_file::sweepTemporaries(folder.path());
-    EXPECT_EQ(folder.names(), (Names{living, "a.zvo"}));
+    EXPECT_EQ(folder.names(), (Names{living, ".tmp-7-notes", ".tmp-x", "a.zvo"}));
     atomic_file::sweepTemporaries(folder / "absent");
 }
 

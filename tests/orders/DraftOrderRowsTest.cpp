@@ -77,6 +77,22 @@ TEST_F(DraftOrderRowsTest, ListsTheFilesOfTheDeviceNewestFirst) {
     EXPECT_EQ(rows.draftsOrderList()[2].sectionIdentifier.text(), "Textile(textil)");
 }
 
+TEST_F(DraftOrderRowsTest, TellsFilesOfOneSecondApart) {
+    using namespace std::chrono_literals;
+    const auto drafts = folder.path() / "orders/draft_orders/SaveBrochuresOrder";
+    const auto second =
+        std::chrono::floor<std::chrono::seconds>(std::filesystem::file_time_type::clock::now());
+    Lines expected;
+    for (int i = 0; i < 6; ++i) {
+        const std::string name = "orden " + std::to_string(i * 5 % 6);
+        brochure(name, DirectoryName::draft, 0);
+        std::filesystem::last_write_time(drafts / (name + ".zvo"), second + i * 100ms);
+        expected.insert(expected.begin(), name + " Guardado local");
+    }
+    rows.rebuildLocalRows(orders);
+    EXPECT_EQ(shown(rows), expected);
+}
+
 TEST_F(DraftOrderRowsTest, OneOrderInBothPlacesShowsOnceAsSynced) {
     brochure("Bar Nube", DirectoryName::draft, 5, 41);
     brochure("Sin servidor", DirectoryName::draft, 6, 99);
