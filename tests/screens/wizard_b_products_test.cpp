@@ -113,6 +113,24 @@ TEST(BrandList, ChangesItsRowsInFewStepsAndAlwaysShowsWhatPasses) {
     }
 }
 
+TEST(BrandList, SearchesTheNamesOfAnotherCatalogueToo) {
+    CatalogueBuilder former;
+    former.information.products.clear();
+    former.brand(1, "Roble").brand(2, "Encina").brand(3, "Haya");
+    CatalogueBuilder later;
+    later.information.products.clear();
+    later.brand(1, "Roble").brand(5, "Olmo").brand(3, "Haya").brand(-1, "Propia");
+    Model model;
+    model.setDraft(std::make_shared<BrochureIntermediateData>());
+    model.setBrands(former.take(), ApplicationFather::orderBeer);
+    model.setFilter({false, std::nullopt, "o"});
+    model.setBrands(later.take(), ApplicationFather::orderBeer);
+    std::vector<Int> shown;
+    for (int row = 0; row < model.count(); ++row)
+        shown.push_back(model.brandAt(row)->id);
+    EXPECT_EQ(shown, (std::vector<Int>{1, 5, -1}));
+}
+
 TEST_F(ProductStep, CountsBrandsOfTheFamilyAgainstTheLimits) {
     addBrands(5);
     auto& parameters = builder.parameters(BrochureType::beer);

@@ -292,7 +292,7 @@ private:
     [[nodiscard]] SaveBrochuresOrder::Menu menuOf(OrderRequestType save, bool validate) const;
     void loadReferences(const SaveBrochuresOrder::Menu& menu);
     void loadQuantities(const std::vector<SaveBrochuresOrder::OrderLine>& lines, bool languagesAccepted);
-    void loadBrand(const BeerBrand& brand, std::optional<Int> highlighted);
+    void loadBrand(Int identifier, const BeerBrand& brand, std::optional<Int> highlighted);
     void loadDrinks(const std::vector<DrinkCategory>& categories);
     void loadDrink(const DrinkCategory::OtherDrink& element, Int category);
 };

@@ -110,7 +110,17 @@ BrochureIntermediateData::beverageInfo(Int category, Int product, bool isCategor
     auto user = findRecord(beverageProductInformation, product, formatName);
     if (user == beverageProductInformation.end() && !base && !formatName)
         user = findRecord(beverageProductInformation, product);
-    return user == beverageProductInformation.end() ? base : merged(*user, base);
+    if (user == beverageProductInformation.end())
+        return base;
+    Beverage result = merged(*user, base);
+    // One record serves all categories of a product. Its name and place come from where it stands: a product
+    // that left this category is nameless in it, also while another category still has it.
+    if (product >= 1) {
+        const auto known = base ? base : catalogueProduct(category, product, std::nullopt);
+        result.name = known ? known->name : std::string();
+        result.position = known ? known->position : result.position;
+    }
+    return result;
 }
 
 bool BrochureIntermediateData::setBeverageSelected(bool on, const BeverageIdentifier& beverage,

@@ -46,8 +46,12 @@ void BrochureIntermediateData::loadOrder(const SaveBrochuresOrder& order) {
         if (menu.blackboardTypeId)
             setBlackboardType(menu.blackboardTypeId);
     }
-    for (const auto& brand : menu.beerBrands)
-        loadBrand(brand, menu.highlightedProductIdentifier);
+    for (std::size_t i = 0; i < menu.beerBrands.size(); ++i) {
+        const auto& brand = menu.beerBrands[i];
+        if (!brand.brand)
+            stopProcess("\"brand\" of an order's brand, menu.items[" + std::to_string(i) + "]");
+        loadBrand(*brand.brand, brand, menu.highlightedProductIdentifier);
+    }
     if (menu.otherDrinks)
         loadDrinks(*menu.otherDrinks);
     append(promotions, menu.promotions);
@@ -105,19 +109,18 @@ void BrochureIntermediateData::loadQuantities(const std::vector<SaveBrochuresOrd
         selectedNumberOfBrochures = MainAndSecondary{*main, secondary};
 }
 
-void BrochureIntermediateData::loadBrand(const BeerBrand& brand, std::optional<Int> highlighted) {
-    if (!brand.brand)
-        stopProcess("\"brand\" of an order's brand");
+void BrochureIntermediateData::loadBrand(Int identifier, const BeerBrand& brand,
+                                         std::optional<Int> highlighted) {
     for (const auto& beer : brand.beers) {
         if (!beer.id)
-            stopProcess("\"product\" of a format of brand " + std::to_string(*brand.brand));
-        setFormatSelected(true, *beer.id, *brand.brand);
-        setNewProduct(beer.isNew, *beer.id, *brand.brand);
-        setVolume(beer.volume, *beer.id, *brand.brand);
+            stopProcess("\"product\" of a format of brand " + std::to_string(identifier));
+        setFormatSelected(true, *beer.id, identifier);
+        setNewProduct(beer.isNew, *beer.id, identifier);
+        setVolume(beer.volume, *beer.id, identifier);
         if (highlighted)
-            setFormatHighlighted(true, *highlighted, *brand.brand);
+            setFormatHighlighted(true, *highlighted, identifier);
         for (const auto& price : beer.prices)
-            setPrice(priceTypeOf(price.id), *beer.id, *brand.brand, price.price);
+            setPrice(priceTypeOf(price.id), *beer.id, identifier, price.price);
     }
 }
 

@@ -136,8 +136,15 @@ std::vector<DrinkCategory> otherDrinksOf(const Draft& draft, BrochureType kind, 
     std::vector<DrinkCategory> result;
     if (kind != BrochureType::beverage && kind != BrochureType::menu)
         return result;
-    for (const auto& [category, products] : draft.selectedBeverages)
-        result.push_back(drinkCategoryOf(draft, category, products, save));
+    const auto& selected = draft.selectedBeverages;
+    // The user's own first, from -1 down: loading numbers them anew in the order in which they stand.
+    const auto firstOfCatalogue = selected.lower_bound(1);
+    for (auto own = firstOfCatalogue; own != selected.begin();) {
+        --own;
+        result.push_back(drinkCategoryOf(draft, own->first, own->second, save));
+    }
+    for (auto known = firstOfCatalogue; known != selected.end(); ++known)
+        result.push_back(drinkCategoryOf(draft, known->first, known->second, save));
     return result;
 }
 

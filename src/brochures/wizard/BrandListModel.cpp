@@ -20,14 +20,21 @@ constexpr int exactRuns = 48;
 
 void BrandListModel::setBrands(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family) {
     const auto products = catalogue->productsOfFamily(family);
+    // Brands are mostly added at the end: the names before them are folded already.
+    const auto isSame = [](const Product* former, const Product* now) {
+        return former->id == now->id && former->name == now->name;
+    };
+    const auto firstOther = std::ranges::mismatch(brands_, products, isSame).in1;
+    const bool onlyGrown = firstOther == brands_.end();
+    folded_.resize(std::size_t(firstOther - brands_.begin()));
     brands_.assign(products.begin(), products.end());
     catalogue_ = std::move(catalogue);
-    // Brands are only ever added at the end, so the folded names and the rows on show stay good.
-    folded_.resize(std::min(folded_.size(), brands_.size()));
     folded_.reserve(brands_.size());
     for (std::size_t i = folded_.size(); i < brands_.size(); ++i)
         folded_.push_back(text::sanitised(brands_[i]->name));
     show(filtered(false));
+    if (!onlyGrown && !visible_.empty())
+        emit dataChanged(index(0), index(count() - 1));
 }
 
 void BrandListModel::setDraft(std::shared_ptr<BrochureIntermediateData> draft) {

@@ -18,8 +18,9 @@ void VolumeEditorViewController::edit(const PriceRow& product, ChangeVolumeHandl
     possibleVolumes_.clear();
     // Without a minimum there is nothing to count from.
     if (product.isVolumeEditable && product.minimumVolume) {
-        for (Int volume = *product.minimumVolume; volume <= product.maximumVolume.value_or(maximumVolume);
-             ++volume)
+        const Int first = *product.minimumVolume;
+        const Int last = product.maximumVolume.value_or(maximumVolume);
+        for (Int volume = first; volume <= last && Int(possibleVolumes_.size()) < mostVolumes; ++volume)
             possibleVolumes_.push_back(volume);
     }
     const auto chosen =

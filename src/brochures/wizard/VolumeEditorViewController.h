@@ -32,6 +32,7 @@ public:
 
     // The upper end for a format that gives none.
     static constexpr Int maximumVolume = 999;
+    static constexpr Int mostVolumes = 10'000; // a picker cannot show a catalogue's slip of the key
 
     VolumeEditorViewController(const WizardServices& services, QObject* parent);
 

@@ -161,6 +161,40 @@ TEST_F(LoadOrder, DrinksFallOutStayNamelessOrTakeNewNumbers) {
     EXPECT_EQ(order.beverageInfo(1, 66, false, "Vaso")->price1, 1.0);
 }
 
+// Each loading numbers own categories anew, so the order in which they are written decides.
+TEST_F(LoadOrder, OwnCategoriesKeepTheirNumbersThroughEveryLoading) {
+    AppSingleton::shared().actualSection = SectionIdentifier::brochure(BrochureType::beverage);
+    Draft::replaceTemporalBrochure();
+    for (const char* name : {"Zumos", "Batidos", "Infusiones"})
+        draft().addBeverageCategory(name);
+    draft().setBeverageSelected(true, {.identifier = 1, .isCategory = true}, 1);
+    const auto drinks = [] { return draft().makeOrder(OrderRequestType::saveCloud, false).menu.otherDrinks; };
+    const auto first = drinks();
+    ASSERT_EQ(first->size(), 4U);
+    const auto order = draft().makeOrder(OrderRequestType::saveCloud, false);
+    Draft::replaceTemporalBrochure();
+    draft().loadOrder(order);
+    EXPECT_EQ(drinks(), first);
+    EXPECT_EQ(draft().beverageInfo(-2, 0, true, {})->name, "Batidos");
+}
+
+// "Limonada" is of category 1 only: in category 2 it is what is left of a product that moved.
+TEST_F(LoadOrder, ADrinkIsNamelessWhereItLeftTheCategoryAndOnlyThere) {
+    const std::string here = R"({"category_id": 1, "category_position": 1, "other_products": [
+        {"product_format_id": 1, "product_format_position": 1, "sub_item_prices": [{"price_type": 1, "price": 2, "format_name": "Vaso"}]}]})";
+    std::string gone = here;
+    gone.replace(gone.find("\"category_id\": 1"), 16, "\"category_id\": 2");
+    for (const std::string& both : {here + "," + gone, gone + "," + here}) {
+        const auto& order =
+            load(document().set("menu.order_type", "2").set("menu.other_drinks", "[" + both + "]"));
+        for (const std::optional<std::string>& format :
+             {std::optional<std::string>(), std::optional<std::string>("Vaso")}) {
+            EXPECT_EQ(order.beverageInfo(1, 1, false, format)->name, "Limonada") << both;
+            EXPECT_EQ(order.beverageInfo(2, 1, false, format)->name, "") << both;
+        }
+    }
+}
+
 TEST_F(LoadOrder, WhoPrintsIsAskedAnewAndTheFileNameIsTheCallers) {
     draft().printedMyself = true;
     draft().loadOrder(read(document()));
