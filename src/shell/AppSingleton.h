@@ -22,6 +22,7 @@ public:
     std::optional<LoginResult> loginResult;
     std::optional<std::string> userEmail;
     std::optional<std::string> userPassword;
+    std::optional<std::string> storedAccount; // of the credential that the process started with
     std::optional<SectionIdentifier> actualSection;
     std::optional<ApplicationType> actualApplicationType;
     bool isSectionDigital = false;

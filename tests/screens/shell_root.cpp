@@ -80,6 +80,7 @@ TEST_F(Roots, TheAutomaticLoginRefreshesTheDashboardItShows) {
     QCoreApplication::processEvents();
     EXPECT_EQ(network.requests.userInformation.waiting(), 1);
     EXPECT_TRUE(root.welcome()->isProgressVeilShown());
+    EXPECT_EQ(root.welcome()->user(), QString::fromStdString(auth.readCredentials()->account));
 }
 
 TEST_F(Roots, TheOrdersOfANotificationLeadBackToWhereASessionBelongs) {

@@ -100,7 +100,10 @@ QString WelcomeViewController::versionLabel() const {
 }
 
 QString WelcomeViewController::user() const {
-    return QString::fromStdString(services_.session.userEmail.value_or(std::string()));
+    // Nobody typed a name when the stored credential opened the session.
+    const auto& session = services_.session;
+    const auto& account = session.userEmail ? session.userEmail : session.storedAccount;
+    return QString::fromStdString(account.value_or(std::string()));
 }
 
 bool WelcomeViewController::isOffline() const {

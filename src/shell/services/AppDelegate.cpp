@@ -89,6 +89,7 @@ void AppDelegate::loadIntoInitialViewController() {
         return;
     }
     services_.network.setAccessToken(QString::fromStdString(stored->token));
+    services_.session.storedAccount = stored->account;
     if (services_.network.isReachable())
         logInAutomatically({QString::fromStdString(stored->account), QString::fromStdString(stored->password),
                             std::nullopt});
