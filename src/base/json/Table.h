@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <array>
-#include <bitset>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <concepts>
@@ -181,7 +181,7 @@ bool forEachItem(Element element, Context& context, Visit visit) {
 
 // Calls visit(field) for each field; false when the element is no object or a visit fails.
 template <class Visit>
-bool forEachField(Element element, Context& context, Visit visit) {
+[[gnu::always_inline]] inline bool forEachField(Element element, Context& context, Visit visit) {
     auto object = element.get_object();
     if (object.error() != simdjson::SUCCESS)
         return context.expected("object", element);
@@ -301,7 +301,7 @@ bool readElement(Element element, T& out, Context& context) {
 }
 
 // Compares keys without a call: they are short, and there are millions of them.
-inline bool sameKey(std::string_view a, std::string_view b) {
+[[gnu::always_inline]] inline bool sameKey(std::string_view a, std::string_view b) {
     if (a.size() != b.size())
         return false;
     const std::size_t size = a.size();
@@ -353,9 +353,16 @@ struct Keys {
     static_assert(std::ranges::all_of(names, [](std::string_view name) {
         return name.size() < Source::padding && name.find_first_of("\"\\") == std::string_view::npos;
     }));
-    static constexpr auto presences =
-        std::apply([](const auto&... field) { return std::array<Presence, count>{field.presence...}; },
-                   Table<Record>::fields);
+    // A bit for each field that a document must have.
+    static_assert(count <= 64);
+    static constexpr std::uint64_t required = std::apply(
+        [](const auto&... field) {
+            std::uint64_t bits = 0;
+            std::uint64_t bit = 1;
+            ((bits |= field.presence == Presence::Required ? bit : 0, bit <<= 1U), ...);
+            return bits;
+        },
+        Table<Record>::fields);
 
     static constexpr std::size_t hash(std::string_view key) {
         std::uint32_t value = static_cast<std::uint32_t>(key.size()) * 0x9E3779B1U;
@@ -461,14 +468,14 @@ bool readRecord(Element element, Record& out, Context& context) {
     // Which field came after which in earlier records of the kind.
     thread_local std::array<std::uint16_t, K::count + 1> successor{};
     auto& follow = successor;
-    std::bitset<K::count> seen;
+    std::uint64_t seen = 0; // a bit for each field
     std::size_t last = K::none;
-    const bool good = forEachField(element, context, [&](ondemand::field& field) {
+    const auto readNext = [&](ondemand::field & field) __attribute__((always_inline)) {
         std::size_t index = follow[last];
-        context.repeated = seen.test(index);
+        context.repeated = (seen >> index & 1U) != 0;
         const FieldRead read = Readers::expected[index](field, out, context);
-        if (read != FieldRead::OtherKey) {
-            seen.set(index);
+        if (read != FieldRead::OtherKey) [[likely]] {
+            seen |= std::uint64_t(1) << index;
             last = index;
             return read == FieldRead::Good;
         }
@@ -480,19 +487,15 @@ bool readRecord(Element element, Record& out, Context& context) {
             return ignore(field.value(), context);
         follow[last] = static_cast<std::uint16_t>(index);
         last = index;
-        context.repeated = seen.test(index);
-        seen.set(index);
+        context.repeated = (seen >> index & 1U) != 0;
+        seen |= std::uint64_t(1) << index;
         return Readers::any[index](field.value(), out, context);
-    });
-    if (!good)
+    };
+    if (!forEachField(element, context, readNext))
         return false;
-    if (!seen.all()) {
-        for (std::size_t i = 0; i < K::count; ++i) {
-            if (!seen.test(i) && K::presences[i] == Presence::Required) {
-                context.fail("missing");
-                return context.within(K::names[i]);
-            }
-        }
+    if (const std::uint64_t missing = K::required & ~seen; missing != 0) {
+        context.fail("missing");
+        return context.within(K::names[std::size_t(std::countr_zero(missing))]);
     }
     return true;
 }
