@@ -13,8 +13,10 @@ namespace kavor::ctl {
 // The exit statuses of the program.
 inline constexpr int fine = 0;
 inline constexpr int orderHasMessages = 1;
+inline constexpr int requestFailed = 1;
 inline constexpr int unreadableInput = 2;
 inline constexpr int wrongUsage = 64;
+inline constexpr int unwritableOutput = 74;
 
 // Ends a command with an exit status and a line for stderr.
 class CommandFailure : public std::runtime_error {
@@ -38,7 +40,7 @@ struct CommandContext {
     int status = fine;
 };
 
-// The whole of a file; a CommandFailure with "FILE: reason" when it cannot be read.
+// The whole of a file, or of a pipe to its end; a CommandFailure with "FILE: reason" when it cannot be read.
 std::string readText(const std::filesystem::path& file);
 
 // Decodes a file strictly; a CommandFailure with "FILE: path.in.document: reason" when it does not decode.
@@ -49,6 +51,9 @@ Record readRecord(const std::filesystem::path& file) {
         throw CommandFailure(unreadableInput, file.string() + ": " + record.error().text());
     return std::move(*record);
 }
+
+// A text for a JSON document: bytes that are no UTF-8, as file names may hold, become U+FFFD.
+std::string utf8Text(const std::string& bytes);
 
 // A record as a pretty document with a line feed at its end.
 template <class Record>

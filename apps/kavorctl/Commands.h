@@ -13,6 +13,11 @@ void addCatalogueCommands(CLI::App& program, CommandContext& context);
 void addOrderCommands(CLI::App& program, CommandContext& context);
 void addOrderListCommands(CLI::App& program, CommandContext& context);
 void addSessionCommands(CLI::App& program, CommandContext& context);
+void addSyncCommand(CLI::App& program, CommandContext& context);
+
+// Commands that need the server, each added to its group.
+void addCatalogueFetch(CLI::App& group, CommandContext& context);
+void addOrderSend(CLI::App& group, CommandContext& context);
 
 // Runs the program; answers its exit status.
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);

@@ -1,22 +1,17 @@
 #include "OnlineSession.h"
 
+#include "Password.h"
 #include "base/AtomicFile.h"
 #include "base/NotificationCenter.h"
-#include "shell/AppSingleton.h"
+#include "base/StopProcess.h"
+#include "shell/StateFile.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
 
-#include <termios.h>
-#include <unistd.h>
-
-#include <iostream>
-
 namespace kavor::ctl {
 
 namespace {
-
-constexpr int requestFailed = 1;
 
 std::filesystem::path standardFolder(QStandardPaths::StandardLocation location) {
     return (QStandardPaths::writableLocation(location) + QStringLiteral("/kavor")).toStdString();
@@ -49,6 +44,14 @@ NetworkConfiguration loadConfiguration(const CommandContext& context) {
 
 } // namespace
 
+void CatalogueNetwork::appInformation(Completion<std::shared_ptr<const Catalogue>> done) {
+    done.failure = [this, failed = done.failure](const RequestFailure& failure) {
+        catalogueFailure = failure;
+        failed(failure);
+    };
+    NetworkManager::appInformation(std::move(done));
+}
+
 OnlineSession::OnlineSession(const CommandContext& context)
     : OnlineSession(context, loadConfiguration(context)) {}
 
@@ -63,63 +66,58 @@ OnlineSession::OnlineSession(const CommandContext& context, const NetworkConfigu
     , images(session.cachesFolder() / "Images", downloader)
     , fontUpdater(session.cachesFolder(), downloader, fonts)
     , resources(images, fontUpdater, NotificationCenter::shared())
-    , catalogue({session, network, resources, sessions, defaults, clock}) {
+    , catalogue({session, network, resources, sessions, defaults, clock})
+    , err_(context.err) {
     sessions.restoreSession();
 }
 
-void OnlineSession::requireLogin() {
-    const auto stored = auth.readCredentials();
-    if (!stored || stored->password.empty())
-        throw CommandFailure(requestFailed, "Nadie ha iniciado sesión: kavorctl login");
-    network.setAccessToken(QString::fromStdString(stored->token));
+OnlineSession::~OnlineSession() {
+    const std::string token = network.accessToken().toStdString();
+    // Another process may have logged in or out meanwhile.
+    if (!credential_ || credential_->token == token || auth.readCredentials() != credential_)
+        return;
+    auth.updateCredentials(credential_->account, credential_->password, token);
 }
 
-void OnlineSession::logIn(const QString& account, const QString& password) {
-    const auto answer =
-        await<LoginResult>(QStringLiteral("Incidencia"), [&](const Completion<LoginResult>& done) {
-            network.login({account, password, std::nullopt}, done);
+void OnlineSession::requireNetwork() const {
+    if (!network.isReachable())
+        throw CommandFailure(requestFailed, "No hay conexión a internet.");
+}
+
+void OnlineSession::requireLogin() {
+    credential_ = auth.readCredentials();
+    if (!credential_ || credential_->password.empty())
+        throw CommandFailure(requestFailed, "Nadie ha iniciado sesión: kavorctl login");
+    network.setAccessToken(QString::fromStdString(credential_->token));
+}
+
+void OnlineSession::logIn(const std::string& account) {
+    const std::string password = readPassword(err_);
+    const auto answer = await<LoginResult>(
+        {QStringLiteral("Iniciando sesión"), QStringLiteral("Incidencia")},
+        [&](const Completion<LoginResult>& done) {
+            network.login({QString::fromStdString(account), QString::fromStdString(password), std::nullopt},
+                          done);
         });
     if (!answer.token)
-        throw CommandFailure(requestFailed, "Incidencia: the answer brings no token");
+        stopProcess("token in the login answer");
     network.setAccessToken(QString::fromStdString(*answer.token));
-    const auto keep = auth.readCredentials() ? &AuthManager::updateCredentials : &AuthManager::addCredentials;
-    (auth.*keep)(account.toStdString(), password.toStdString(), *answer.token);
+    keepCredential({account, password, *answer.token});
     defaults.setBoolean(QLatin1String(default_key::loadIntoInitialViewController), true);
     session.loginResult = answer;
     sessions.storeInBackground();
     sessions.flush();
+    if (!isStored(state_file::loginResult, answer))
+        throw CommandFailure(requestFailed, "kavorctl: the login answer could not be stored");
 }
 
-void OnlineSession::fail(const QString& title, const RequestFailure& failure) {
-    QString text = failure.error.localizedDescription;
-    if (failure.error.updateNeeded)
-        text = failure.error.updateNeeded->errorMessage;
-    else if (failure.messages && !failure.messages->isEmpty())
-        text = failure.messages->join(QLatin1Char('\n'));
-    const QString reason = failure.error.status != 0 ? QStringLiteral("HTTP %1").arg(failure.error.status)
-                                                     : failure.error.localizedDescription;
-    throw CommandFailure(requestFailed, (title + QStringLiteral(": ") + text + QStringLiteral(" (") + reason +
-                                         QLatin1Char(')'))
-                                            .toStdString());
-}
-
-std::string readPassword(std::ostream& prompt) {
-    const bool terminal = ::isatty(STDIN_FILENO) != 0;
-    termios former{};
-    if (terminal) {
-        prompt << "Contraseña: " << std::flush;
-        ::tcgetattr(STDIN_FILENO, &former);
-        termios silent = former;
-        silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        ::tcsetattr(STDIN_FILENO, TCSANOW, &silent);
-    }
-    std::string password;
-    std::getline(std::cin, password);
-    if (terminal) {
-        ::tcsetattr(STDIN_FILENO, TCSANOW, &former);
-        prompt << '\n';
-    }
-    return password;
+// The store's answer to a change is not handed on, so what it holds is read again.
+void OnlineSession::keepCredential(const StoredCredentials& credential) {
+    const auto keep = auth.readCredentials() ? &AuthManager::updateCredentials : &AuthManager::addCredentials;
+    (auth.*keep)(credential.account, credential.password, credential.token);
+    if (auth.readCredentials() != credential)
+        throw CommandFailure(requestFailed, "kavorctl: the credential could not be stored");
+    credential_ = credential;
 }
 
 } // namespace kavor::ctl

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "CommandContext.h"
+#include "Progress.h"
+#include "RequestFailures.h"
 #include "catalogue/services/FontUpdater.h"
 #include "catalogue/services/ResourceUpdateRun.h"
 #include "device/Clock.h"
@@ -13,6 +14,7 @@
 #include "network/AuthManager.h"
 #include "network/NetworkManager.h"
 #include "orders/OrderDiskManager.h"
+#include "shell/AppSingleton.h"
 #include "shell/LoginResult.h"
 #include "shell/services/CatalogueUpdate.h"
 #include "shell/services/SessionStore.h"
@@ -33,12 +35,31 @@ public:
     [[nodiscard]] std::optional<QFont> font(const QString&, int) const override { return std::nullopt; }
 };
 
+// Remembers why the catalogue did not come; the run that asks for it hands on no more than the messages.
+class CatalogueNetwork : public NetworkManager {
+public:
+    using NetworkManager::NetworkManager;
+    void appInformation(Completion<std::shared_ptr<const Catalogue>> done) override;
+
+    std::optional<RequestFailure> catalogueFailure;
+};
+
+// What a request shows: while it takes long, and in front of the reason when it failed.
+struct RequestTexts {
+    QString waiting;
+    QString failed;
+};
+
 // The client's session and its way to the server without a window: the same documents folder, credential and
 // engine. Needs a QCoreApplication.
 class OnlineSession {
 public:
     // Opens the documents folder; a CommandFailure when the property list or the folder can't be had.
     explicit OnlineSession(const CommandContext& context);
+    OnlineSession(const OnlineSession&) = delete;
+    OnlineSession& operator=(const OnlineSession&) = delete;
+    // Keeps the token that a repair brought, for the next process.
+    ~OnlineSession();
 
     AppSingleton& session;
     SystemClock clock;
@@ -46,7 +67,7 @@ public:
     FileUserDefaults defaults;
     std::unique_ptr<KeychainStore> keychain;
     AuthManager auth;
-    NetworkManager network;
+    CatalogueNetwork network;
     OrderDiskManager orders;
     SessionStore sessions;
     PlainDownloader downloader;
@@ -56,17 +77,28 @@ public:
     ResourceUpdateRun resources;
     CatalogueUpdate catalogue;
 
+    // A CommandFailure without a network. To be asked before anything is sent.
+    void requireNetwork() const;
     // Takes the stored token; a CommandFailure when nobody is logged in.
     void requireLogin();
-    // Logs in and keeps the credential; a CommandFailure with the server's word.
-    void logIn(const QString& account, const QString& password);
+    // Asks for the password, logs in and keeps the credential; a CommandFailure with the server's word, or
+    // when something did not reach the disk.
+    void logIn(const std::string& account);
+    // Whether a state file holds exactly this record.
+    template <class Record>
+    [[nodiscard]] bool isStored(std::string_view stateFile, const Record& record) const {
+        const auto wanted = json::encode(record);
+        const auto found = atomic_file::read(session.documentsFolder() / std::string(stateFile));
+        return wanted && found && *wanted == *found;
+    }
 
-    // Runs a request to its end: the record, or a CommandFailure with the title and the first message.
+    // Runs a request to its end: the record, or a CommandFailure.
     template <class Response, class Start>
-    Response await(const QString& title, Start start) {
+    Response await(const RequestTexts& texts, Start start) {
         std::optional<Response> response;
         std::optional<RequestFailure> failure;
         QEventLoop loop;
+        std::optional<Progress> progress(std::in_place, err_, texts.waiting);
         start(Completion<Response>(
             &loop,
             [&](const Response& answer) {
@@ -79,17 +111,18 @@ public:
             }));
         while (!response && !failure)
             loop.exec();
+        progress.reset();
         if (failure)
-            fail(title, *failure);
+            throw requestFailure(texts.failed, *failure);
         return std::move(*response);
     }
 
 private:
     OnlineSession(const CommandContext& context, const NetworkConfiguration& configuration);
-    [[noreturn]] static void fail(const QString& title, const RequestFailure& failure);
-};
+    void keepCredential(const StoredCredentials& credential);
 
-// A password without an echo from the terminal, or the first line of standard input.
-std::string readPassword(std::ostream& prompt);
+    std::ostream& err_;
+    std::optional<StoredCredentials> credential_; // as the device's store holds it
+};
 
 } // namespace kavor::ctl

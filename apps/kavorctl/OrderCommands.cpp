@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "OptionValues.h"
 #include "OrderInputs.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/RetrievedOrder.h"
@@ -22,22 +23,16 @@ void printMessages(CommandContext& context, const std::vector<std::string>& mess
 CLI::App* addCommand(CLI::App& group, const Inputs& inputs, const std::string& name,
                      const std::string& help) {
     CLI::App* command = group.add_subcommand(name, help);
-    command->add_option("FILE", inputs->order, "an order document")->required();
+    withValue(command->add_option("FILE", inputs->order, "an order document"))->required();
     return command;
 }
 
 void needCatalogue(CLI::App* command, const Inputs& inputs) {
-    command->add_option("--catalogue", inputs->catalogue, "a catalogue document")->required();
+    withValue(command->add_option("--catalogue", inputs->catalogue, "a catalogue document"))->required();
 }
 
 void needLogin(CLI::App* command, const Inputs& inputs) {
-    command->add_option("--login", inputs->login, "a login answer")->required();
-}
-
-void offerSave(CLI::App* command, const Inputs& inputs) {
-    command->add_option("--save", inputs->save, "what the server is to do with the order")
-        ->required()
-        ->check(CLI::IsMember({"print", "preview", "cloud"}));
+    withValue(command->add_option("--login", inputs->login, "a login answer"))->required();
 }
 
 } // namespace
@@ -53,7 +48,9 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
     CLI::App* check = addCommand(group, inputs, "check", "what keeps the order from being sent, one a line");
     needCatalogue(check, inputs);
     needLogin(check, inputs);
-    check->callback([&context, inputs] { printMessages(context, openDraft(*inputs)->validationErrors()); });
+    check->callback([&context, inputs] {
+        printMessages(context, openDraft(*inputs, BrochureKind::Required)->validationErrors());
+    });
 
     CLI::App* warnings = addCommand(group, inputs, "warnings", "prices that look too high, one a line");
     needCatalogue(warnings, inputs);
@@ -64,19 +61,20 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
         addCommand(group, inputs, "rebuild", "fills a draft and prints its order without validation");
     needCatalogue(rebuild, inputs);
     needLogin(rebuild, inputs);
-    offerSave(rebuild, inputs);
+    addSaveOption(*rebuild, inputs->save);
     rebuild->callback([&context, inputs] {
         context.out << prettyText(openDraft(*inputs)->makeOrder(requestType(inputs->save), false));
     });
 
     CLI::App* convert =
         addCommand(group, inputs, "from-answer", "the order document of the server's answer for one order");
-    convert->add_option("--row", inputs->row, "the id of the order's row in the order list")->required();
+    withValue(convert->add_option("--row", inputs->row, "the id of the order's row in the order list"))
+        ->required();
     needCatalogue(convert, inputs);
     convert->callback([&context, inputs] {
+        const Int row = rowIdentifier(inputs->row);
         openSession(*inputs);
-        context.out << prettyText(
-            orderOf(inputs->row, readRecord<RetrieveBrochureOrderListResponse>(inputs->order)));
+        context.out << prettyText(orderOf(row, readRecord<RetrieveBrochureOrderListResponse>(inputs->order)));
     });
 
     CLI::App* show = addCommand(group, inputs, "show", "a summary to read");
@@ -85,6 +83,8 @@ void addOrderCommands(CLI::App& program, CommandContext& context) {
         openSession(*inputs);
         context.out << summaryOf(readRecord<SaveBrochuresOrder>(inputs->order));
     });
+
+    addOrderSend(group, context);
 }
 
 } // namespace kavor::ctl

@@ -18,17 +18,25 @@ struct OrderInputs {
     std::string catalogue;
     std::string login;
     std::string save = "cloud";
-    Int row = 0;
+    std::string row;
 };
 
 // Makes the catalogue (and the login answer, when a file is named) those of the session.
 void openSession(const OrderInputs& inputs);
 
+// The number of a row, in decimal digits; wrong usage when it is none.
+Int rowIdentifier(const std::string& row);
+
 // The number behind "print", "preview" and "cloud".
 OrderRequestType requestType(const std::string& save);
 
-// Fills a new shared draft from the order file, in the brochure section of its "order_type".
-std::shared_ptr<BrochureIntermediateData> openDraft(const OrderInputs& inputs);
+// Whether a command can do without the order's kind in the catalogue.
+enum class BrochureKind { Optional, Required };
+
+// Fills a new shared draft from the order file, in the brochure section of its "order_type". A required kind
+// that the catalogue lacks stops the process, named, before anything else misses it.
+std::shared_ptr<BrochureIntermediateData> openDraft(const OrderInputs& inputs,
+                                                    BrochureKind kind = BrochureKind::Optional);
 
 // A summary for a reader, in Spanish: bar, languages, copies, style, brands with formats and prices. Needs
 // the session's catalogue.

@@ -5,13 +5,14 @@
 
 namespace kavor::ctl {
 
-// A row as "orders merge --json" and "orders list --json" write it.
+// A row in JSON. A draft has a "syncState", an order sent has the server's "state" instead.
 struct RowRecord {
-    std::string filename;
-    std::string syncState;
+    std::optional<std::string> filename;
+    std::optional<std::string> syncState;
     std::string section;
     std::string date;
     std::optional<Int> serverId;
+    std::optional<std::string> state;
 };
 
 } // namespace kavor::ctl
@@ -21,9 +22,10 @@ namespace kavor::json {
 template <>
 struct Table<ctl::RowRecord> {
     using R = ctl::RowRecord;
-    static constexpr auto fields = std::tuple{
-        required("filename", &R::filename), required("syncState", &R::syncState),
-        required("section", &R::section), required("date", &R::date), optional("serverId", &R::serverId)};
+    static constexpr auto fields =
+        std::tuple{optional("filename", &R::filename), optional("syncState", &R::syncState),
+                   required("section", &R::section),   required("date", &R::date),
+                   optional("serverId", &R::serverId), optional("state", &R::state)};
 };
 
 } // namespace kavor::json
@@ -46,28 +48,47 @@ std::string stateName(OrderSyncState state) {
     return "";
 }
 
-} // namespace
+RowRecord recordOf(const DraftOrderRow& row) {
+    return {utf8Text(row.filename), stateName(row.syncState), row.sectionIdentifier.text(),
+            row.date.text(),        row.serverId(),           std::nullopt};
+}
 
-void printRows(CommandContext& context, const DraftOrderRows& rows) {
+RowRecord recordOf(const OrderList::Order& order) {
+    return {order.filename,    std::nullopt, SectionIdentifier::brochure(order.typeId).text(),
+            order.date.text(), order.id,     order.state};
+}
+
+void printJson(std::ostream& out, const DraftOrderRows& rows, JsonRows jsonRows) {
     std::vector<RowRecord> records;
     for (const DraftOrderRow& row : rows.draftsOrderList())
-        records.push_back({row.filename, stateName(row.syncState), row.sectionIdentifier.text(),
-                           row.date.text(), row.serverId()});
-    if (context.json) {
-        context.out << prettyText(records);
-        return;
+        records.push_back(recordOf(row));
+    if (jsonRows == JsonRows::DraftsAndSent) {
+        for (const OrderList::Order& order : rows.sentBrochureOrders())
+            records.push_back(recordOf(order));
     }
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        context.out << records[i].date << "  " << label(rows.draftsOrderList()[i].syncState) << "  "
-                    << records[i].section << "  "
-                    << (records[i].filename.empty() ? "(Sin nombre)" : records[i].filename);
-        if (records[i].serverId)
-            context.out << "  #" << *records[i].serverId;
-        context.out << '\n';
+    out << prettyText(records);
+}
+
+void printText(std::ostream& out, const DraftOrderRows& rows) {
+    for (const DraftOrderRow& row : rows.draftsOrderList()) {
+        out << row.date.text() << "  " << label(row.syncState) << "  " << row.sectionIdentifier.text() << "  "
+            << (row.filename.empty() ? "(Sin nombre)" : row.filename);
+        if (row.serverId())
+            out << "  #" << *row.serverId();
+        out << '\n';
     }
     for (const OrderList::Order& order : rows.sentBrochureOrders())
-        context.out << order.date.text() << "  " << order.state << "  " << order.type << "  "
-                    << order.pdv.value_or("(Sin especificar)") << "  #" << order.id << '\n';
+        out << order.date.text() << "  " << order.state << "  " << order.type << "  "
+            << order.pdv.value_or("(Sin especificar)") << "  #" << order.id << '\n';
+}
+
+} // namespace
+
+void printRows(CommandContext& context, const DraftOrderRows& rows, JsonRows jsonRows) {
+    if (context.json)
+        printJson(context.out, rows, jsonRows);
+    else
+        printText(context.out, rows);
 }
 
 } // namespace kavor::ctl

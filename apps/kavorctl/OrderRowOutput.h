@@ -8,8 +8,11 @@ class DraftOrderRows;
 
 namespace kavor::ctl {
 
-// Prints the drafts, newest first: as a JSON list, or a line each with the state's Spanish text, then the
-// orders sent.
-void printRows(CommandContext& context, const DraftOrderRows& rows);
+// Which rows the JSON form holds; the text form holds all.
+enum class JsonRows { Drafts, DraftsAndSent };
+
+// Prints the drafts, newest first, then the orders sent: as a JSON list, or a line each with the state's
+// Spanish text.
+void printRows(CommandContext& context, const DraftOrderRows& rows, JsonRows jsonRows);
 
 } // namespace kavor::ctl

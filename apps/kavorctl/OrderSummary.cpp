@@ -2,6 +2,7 @@
 #include "base/AppFormatter.h"
 #include "shell/AppSingleton.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace kavor::ctl {
@@ -36,6 +37,19 @@ void writeCustomer(std::ostream& out, const Customer& customer) {
     line(out, "Población", code.empty() || place.empty() ? code + place : code + " " + place);
 }
 
+// One brand is highlighted: the last that holds the format.
+const Menu::BeerBrand* highlightedBrand(const Menu& menu) {
+    const Menu::BeerBrand* last = nullptr;
+    for (const auto& brand : menu.beerBrands) {
+        const auto holds = [&](const auto& beer) {
+            return beer.id && beer.id == menu.highlightedProductIdentifier;
+        };
+        if (std::ranges::any_of(brand.beers, holds))
+            last = &brand;
+    }
+    return last;
+}
+
 void writeBrand(std::ostream& out, const Catalogue& catalogue, const Menu::BeerBrand& brand,
                 std::optional<Int> highlighted) {
     const Product* product = brand.brand ? catalogue.product(*brand.brand) : nullptr;
@@ -56,17 +70,30 @@ void writeBrand(std::ostream& out, const Catalogue& catalogue, const Menu::BeerB
     }
 }
 
+// One of the catalogue's drinks may stand in a category of the user's own: then any category may know it.
+std::string drinkName(const Catalogue& catalogue, const Brochures::Drink* category, Int identifier) {
+    const auto nameIn = [&](const Brochures::Drink& drink) -> std::string {
+        const auto found = std::ranges::find(drink.products, identifier, &Brochures::Drink::Product::id);
+        return found == drink.products.end() ? "" : found->name;
+    };
+    if (category != nullptr)
+        return nameIn(*category);
+    if (identifier < 1 || !catalogue.information().brochures)
+        return "";
+    for (const auto& drink : catalogue.brochures().drinks) {
+        if (std::string name = nameIn(drink); !name.empty())
+            return name;
+    }
+    return "";
+}
+
 void writeDrinks(std::ostream& out, const Catalogue& catalogue, const Menu::OtherDrinkCategory& category) {
     const auto* drink = category.id ? catalogue.drink(*category.id) : nullptr;
     out << "- " << category.name.value_or(nameOf(drink)) << '\n';
     for (const auto& element : category.elements) {
         std::string name = element.name.value_or("");
-        if (drink != nullptr && name.empty()) {
-            for (const auto& product : drink->products) {
-                if (product.id == element.id)
-                    name = product.name;
-            }
-        }
+        if (name.empty())
+            name = drinkName(catalogue, drink, element.id);
         out << "    " << (name.empty() ? "(sin nombre)" : name);
         for (const auto& price : element.prices) {
             out << ", " << price.formatName.value_or("");
@@ -103,8 +130,10 @@ std::string summaryOf(const SaveBrochuresOrder& order) {
         line(out, "Comandero", nameOf(catalogue.orderSheet(*menu.orderSheetIdentifier)));
     if (!menu.beerBrands.empty())
         out << "Marcas:\n";
+    const Menu::BeerBrand* const highlighted = highlightedBrand(menu);
     for (const auto& brand : menu.beerBrands)
-        writeBrand(out, catalogue, brand, menu.highlightedProductIdentifier);
+        writeBrand(out, catalogue, brand,
+                   &brand == highlighted ? menu.highlightedProductIdentifier : std::nullopt);
     if (menu.otherDrinks && !menu.otherDrinks->empty()) {
         out << "Otras bebidas:\n";
         for (const auto& category : *menu.otherDrinks)

@@ -1,5 +1,4 @@
-#include "Commands.h"
-
+#include "RunCommand.h"
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
@@ -9,18 +8,19 @@
 #include "support/CatalogueBuilder.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
-#include <sstream>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <fstream>
+#include <map>
+#include <thread>
 
 namespace kavor {
 namespace {
-
-struct Outcome {
-    int status = 0;
-    std::string out;
-    std::string err;
-};
 
 class CommandsTest : public ::testing::Test {
 protected:
@@ -37,16 +37,6 @@ protected:
         AppSingleton::shared().setFolders(folder.path(), folder.path());
     }
 
-    static Outcome kavorctl(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), "kavorctl");
-        std::vector<const char*> argv;
-        for (const auto& argument : arguments)
-            argv.push_back(argument.c_str());
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = ctl::run(static_cast<int>(argv.size()), argv.data(), out, err);
-        return {status, out.str(), err.str()};
-    }
     std::vector<std::string> withSession(std::vector<std::string> arguments) const {
         arguments.insert(arguments.end(), {"--catalogue", catalogue, "--login", loginFile});
         return arguments;
@@ -75,6 +65,7 @@ protected:
             const auto juice = draft->addBeverageProduct("Naranja", own);
             EXPECT_TRUE(draft->setBeverageFormatSelected(true, "Vaso", *juice, own));
             EXPECT_TRUE(draft->setBeveragePrice(2.5, false, "Vaso", *juice, own));
+            draft->addBeverageCategory("Batidos");
         }
         if (kind == BrochureType::chalkboard) {
             EXPECT_TRUE(draft->setBlackboardFormat(1));
@@ -116,9 +107,56 @@ TEST_F(CommandsTest, NamesTheFileAndThePlaceOfAFault) {
     const Outcome missing = kavorctl({"catalogue", "check", "/nirgendwo.json"});
     EXPECT_EQ(missing.status, ctl::unreadableInput);
     EXPECT_EQ(missing.err, "/nirgendwo.json: No such file or directory\n");
-    EXPECT_EQ(kavorctl({"order", "rebuild", file}).status, ctl::wrongUsage);
-    EXPECT_EQ(kavorctl({}).status, ctl::wrongUsage);
+}
+
+TEST_F(CommandsTest, NamesTheWordThatIsWrong) {
+    const std::vector<std::pair<std::vector<std::string>, std::string>> table{
+        {{"nonsense"}, "nonsense"},
+        {{"orders", "nonsense"}, "nonsense"},
+        {{"--nonsense", "order", "decode", file}, "--nonsense"},
+        {{"orders", "merge", "--nonsense"}, "--nonsense"},
+        {{"logout", "nonsense"}, "nonsense"},
+        {{"order", "rebuild", file}, "--catalogue"},
+        {{"--documents", "", "logout"}, "--documents"},
+        {{"--documents=", "logout"}, "--documents"},
+        {{"--configuration", "--json", "logout"}, "--configuration"},
+        {{"orders", "merge", "--local", "--answer", "a", "--catalogue", "c"}, "--local"},
+        {{"catalogue", "check", ""}, "FILE"},
+        {{"login", ""}, "ACCOUNT"},
+        {{"order", "from-answer", "", "--row", "1", "--catalogue", "c"}, "FILE"},
+        {{}, "subcommand"}};
+    for (const auto& [arguments, word] : table) {
+        const Outcome outcome = kavorctl(arguments);
+        EXPECT_EQ(outcome.status, ctl::wrongUsage) << word;
+        EXPECT_NE(outcome.err.find(word), std::string::npos) << word << " in " << outcome.err;
+    }
     EXPECT_EQ(kavorctl({"--help"}).status, ctl::fine);
+}
+
+TEST_F(CommandsTest, NamesWhatACatalogueLacksForTheRules) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // the application object has threads
+    put(file, *json::encodePretty(fullOrder(BrochureType::beer)));
+    auto information = *json::decode<ApplicationInformation>(contentOf(catalogue));
+    std::erase_if(information.brochures->types,
+                  [](const auto& type) { return type.id == BrochureType::beer; });
+    put(catalogue, *json::encode(information));
+    EXPECT_EXIT(kavorctl(withSession({"order", "check", file})), ::testing::ExitedWithCode(70),
+                "brochure type 1\n");
+    information.brochures.reset();
+    put(catalogue, *json::encode(information));
+    EXPECT_EXIT(kavorctl(withSession({"order", "check", file})), ::testing::ExitedWithCode(70),
+                "brochure catalogue\n");
+}
+
+TEST_F(CommandsTest, ReadsADocumentFromAPipeAndRefusesAFolder) {
+    put(file, *json::encodePretty(fullOrder(BrochureType::beer)));
+    const Outcome expected = kavorctl({"order", "decode", file});
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::thread writer([&] { std::ofstream(pipe) << contentOf(file); });
+    EXPECT_EQ(kavorctl({"order", "decode", pipe}).out, expected.out);
+    writer.join();
+    EXPECT_EQ(kavorctl({"order", "decode", folder.path()}).status, ctl::unreadableInput);
 }
 
 TEST_F(CommandsTest, ShowsAnOrderToAReader) {
@@ -134,6 +172,31 @@ TEST_F(CommandsTest, CountsAndEncodesTheCatalogueAgain) {
     const Outcome counts = kavorctl({"catalogue", "check", catalogue});
     EXPECT_NE(counts.out.find("productos 3\nproductos.productlist 5\n"), std::string::npos) << counts.out;
     EXPECT_TRUE(kavorctl({"catalogue", "encode", catalogue}).out == contentOf(catalogue) + "\n");
+}
+
+// Sums up the records of each list of records in a document, by the list's place.
+void countLists(const QJsonValue& value, const QString& place, std::map<QString, qsizetype>& counts) {
+    for (const QJsonValue& item : value.toArray())
+        countLists(item, place, counts);
+    const QJsonObject object = value.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const QString name = place.isEmpty() ? member.key() : place + '.' + member.key();
+        if (member->isArray() && member->toArray().first().isObject())
+            counts[name] += member->toArray().size();
+        countLists(*member, name, counts);
+    }
+}
+
+TEST_F(CommandsTest, CountsEveryListOfRecords) {
+    const std::string document = KAVOR_TEST_DATA "/catalogue.json";
+    std::map<QString, qsizetype> expected;
+    countLists(QJsonDocument::fromJson(QByteArray::fromStdString(contentOf(document))).object(), {},
+               expected);
+    ASSERT_GT(expected.size(), 50U);
+    const Outcome outcome = kavorctl({"--json", "catalogue", "check", document});
+    const auto found = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
+    for (const auto& [kind, count] : expected)
+        EXPECT_EQ(found[kind].toInteger(-1), count) << kind.toStdString();
 }
 
 TEST_F(CommandsTest, MergesAFolderWithAStoredAnswer) {
@@ -161,6 +224,27 @@ TEST_F(CommandsTest, MergesAFolderWithAStoredAnswer) {
                                "    \"section\": \"Brochure(chalkboard)\",\n    \"serverId\": 9"),
               std::string::npos)
         << outcome.out;
+}
+
+TEST_F(CommandsTest, MergingChangesNothingInTheFolder) {
+    const std::string answer = folder / "answer.json";
+    put(answer, R"({"resumen":{}})");
+    const std::string local = folder / "local";
+    const std::vector<std::string> merge{"orders",  "merge", "--json",      "--answer", answer,
+                                         "--local", local,   "--catalogue", catalogue};
+    const Outcome missing = kavorctl(merge);
+    EXPECT_EQ(missing.status, ctl::unreadableInput);
+    EXPECT_EQ(missing.err, local + "/orders: No such file or directory\n");
+    EXPECT_FALSE(std::filesystem::exists(local));
+
+    const auto drafts = folder / "local/orders/draft_orders/SaveBrochuresOrder";
+    const std::string document = *json::encodePretty(fullOrder(BrochureType::beer));
+    put(drafts / "a\xff.zvo", document); // a name of other bytes than UTF-8
+    put(drafts / ".tmp-0-0", "left by a dead writer");
+    const Outcome outcome = kavorctl(merge);
+    EXPECT_NE(outcome.out.find("\"filename\": \"a\uFFFD\""), std::string::npos) << outcome.out << outcome.err;
+    EXPECT_TRUE(std::filesystem::exists(drafts / ".tmp-0-0"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "local/orders/outbox_orders"));
 }
 
 } // namespace

@@ -1,0 +1,158 @@
+#include "RunCommand.h"
+#include "orders/OrderDiskManager.h"
+#include "support/LogCapture.h"
+#include "support/ScriptedServer.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+namespace kavor {
+namespace {
+
+// Standard input with this text, while it lives.
+class TypedInput {
+public:
+    explicit TypedInput(const std::string& text)
+        : text_(text)
+        , former_(std::cin.rdbuf(text_.rdbuf())) {
+        std::cin.clear();
+    }
+    TypedInput(const TypedInput&) = delete;
+    TypedInput& operator=(const TypedInput&) = delete;
+    ~TypedInput() { std::cin.rdbuf(former_); }
+
+private:
+    std::istringstream text_;
+    std::streambuf* former_;
+};
+
+class OnlineCommandsTest : public ::testing::Test {
+protected:
+    OnlineCommandsTest() {
+        qputenv("KAVOR_KEYCHAIN", "file");
+        QByteArray configuration = QByteArray::fromStdString(
+            contentOf(KAVOR_TEST_DATA "/../../apps/kavor/NetworkConfiguration.plist"));
+        configuration.replace("http://127.0.0.1:8480", server.address().toUtf8());
+        folder.put("conf.plist", configuration.toStdString());
+        server.answer("/api/login", ScriptedAnswer::json(R"({"msg":"ok","token":"T1"})"));
+    }
+    ~OnlineCommandsTest() override {
+        qunsetenv("KAVOR_OFFLINE");
+        qunsetenv("KAVOR_KEYCHAIN");
+    }
+
+    [[nodiscard]] Outcome online(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.end(),
+                         {"--configuration", folder / "conf.plist", "--documents", documents});
+        return kavorctl(arguments);
+    }
+    [[nodiscard]] Outcome logIn(const std::string& typed = "secreta\n") const {
+        const TypedInput input(typed);
+        return online({"login", "ana"});
+    }
+    void putDraft(const std::string& name) const {
+        SaveBrochuresOrder order;
+        order.filename = name;
+        ASSERT_TRUE(OrderDiskManager(documents).create(order, OrderDiskManager::DirectoryName::draft, name));
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path documents = folder / "documents";
+    ScriptedServer server;
+    LogCapture log;
+};
+
+const QByteArray listPath = "/api/orders/list";
+
+TEST_F(OnlineCommandsTest, LogsInWithThePasswordOfTheFirstLine) {
+    EXPECT_EQ(logIn("secreta\r\nno\n").status, ctl::fine);
+    EXPECT_EQ(server.requestsTo("/api/login").value(0).body, "login=ana&password=secreta");
+}
+
+TEST_F(OnlineCommandsTest, SendsNothingWithoutPasswordOrNetwork) {
+    for (const char* typed : {"", "\n", "\r\n"})
+        EXPECT_EQ(logIn(typed).status, ctl::wrongUsage);
+    folder.put("order.json", R"({"save":3,"order_lines":[],"menu":{}})");
+    put(documents / "UserDefaults", "{}");
+    putDraft("Local");
+    qputenv("KAVOR_OFFLINE", "1");
+    EXPECT_EQ(logIn().err, "No hay conexión a internet.\n");
+    EXPECT_EQ(online({"catalogue", "fetch"}).err, "No hay conexión a internet.\n");
+    EXPECT_EQ(online({"catalogue", "fetch"}).status, ctl::requestFailed);
+    const Outcome list = online({"orders", "list"});
+    EXPECT_NE(list.out.find("  Local\n"), std::string::npos) << list.out;
+    EXPECT_EQ(list.status, ctl::fine);
+    EXPECT_TRUE(server.requests().isEmpty());
+}
+
+TEST_F(OnlineCommandsTest, TellsWhyARequestFailedAndStillListsTheDevice) {
+    putDraft("Local");
+    EXPECT_NE(online({"orders", "list"}).out.find("  Local\n"), std::string::npos); // nobody is logged in
+    ASSERT_EQ(logIn().status, ctl::fine);
+    const std::vector<std::pair<ScriptedAnswer, std::string>> table{
+        {ScriptedAnswer::json(R"({"msg":"roto"})", 500), ": roto (HTTP 500)\n"},
+        {ScriptedAnswer::json(R"({"msg":"m","errors":{}})", 422), "(código 422). (HTTP 422)\n"},
+        {ScriptedAnswer::json(R"({"msg":"Nueva","update_link":"https://kavor.example/v"})", 505),
+         ": Nueva (HTTP 505)\nhttps://kavor.example/v\n"},
+        {ScriptedAnswer::json("{"), "(No se ha podido leer la respuesta del servidor.)\n"},
+        {ScriptedAnswer::cut(R"({"resumen":{}})", 5), "(Se ha perdido la conexión con el servidor.)\n"}};
+    for (const auto& [answer, reason] : table) {
+        server.answer(listPath, answer);
+        server.answer("/api/catalogue", answer);
+        const Outcome list = online({"orders", "list"});
+        EXPECT_NE(list.out.find("  Local\n"), std::string::npos) << list.out;
+        for (const Outcome& outcome : {list, online({"catalogue", "fetch"})}) {
+            EXPECT_EQ(outcome.status, ctl::requestFailed);
+            EXPECT_TRUE(outcome.err.ends_with(reason)) << outcome.err;
+        }
+    }
+}
+
+TEST_F(OnlineCommandsTest, ListsTheOrdersSentWithTheServersState) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    const QByteArray answer = R"({"resumen":{},"pedidos":[
+        {"id":9,"fecha":"02-03-2020 10:11:12","can_demand_qr":false,"tipo":"x","tipoId":5,"estado":"En curso",
+         "estadoId":5,"token":"t"}]})";
+    server.answer(listPath, ScriptedAnswer::json(answer));
+    const Outcome list = online({"orders", "list", "--json"});
+    EXPECT_EQ(list.out, "[\n  {\n    \"date\": \"02-03-2020 10:11:12\",\n"
+                        "    \"section\": \"Brochure(chalkboard)\",\n    \"serverId\": 9,\n"
+                        "    \"state\": \"En curso\"\n  }\n]\n");
+}
+
+TEST_F(OnlineCommandsTest, KeepsTheTokenOfARepairForTheNextProcess) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    server.answer("/api/login", ScriptedAnswer::json(R"({"msg":"ok","token":"T2"})"));
+    server.then(listPath, ScriptedAnswer::json("{}", 401));
+    server.answer(listPath, ScriptedAnswer::json(R"({"resumen":{}})"));
+    EXPECT_EQ(online({"orders", "list"}).status, ctl::fine);
+    EXPECT_EQ(online({"orders", "list"}).status, ctl::fine);
+    const auto asked = server.requestsTo(listPath);
+    ASSERT_EQ(asked.size(), 3);
+    EXPECT_EQ(asked[2].header("authorization"), "Bearer T2");
+    EXPECT_EQ(server.requestsTo("/api/login").size(), 2);
+}
+
+// A folder in a file's place refuses the write, whoever runs the tests.
+TEST_F(OnlineCommandsTest, FailsWhenWhatItStoresDoesNotReachTheDisk) {
+    std::filesystem::create_directories(documents / "ZQLOGINRESULT/x");
+    EXPECT_EQ(logIn().status, ctl::requestFailed);
+    std::filesystem::remove_all(documents / "ZQLOGINRESULT");
+    ASSERT_EQ(logIn().status, ctl::fine);
+
+    server.answer("/api/catalogue", ScriptedAnswer::json(QByteArray::fromStdString(
+                                        contentOf(KAVOR_TEST_DATA "/catalogue.json"))));
+    std::filesystem::create_directories(documents / "ZQAPPLICATIONINFORMATION/x");
+    const Outcome fetch = online({"catalogue", "fetch"});
+    EXPECT_EQ(fetch.status, ctl::requestFailed);
+    EXPECT_EQ(fetch.err, "kavorctl: the catalogue could not be stored\n");
+
+    std::filesystem::remove_all(documents / ".keychain");
+    put(documents / ".keychain", "");
+    EXPECT_EQ(logIn().status, ctl::requestFailed);
+}
+
+} // namespace
+} // namespace kavor
