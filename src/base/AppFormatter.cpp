@@ -100,6 +100,21 @@ std::string AppFormatter::negativeFormatter(double value) const {
 std::string AppFormatter::machineNumberFormatter(double value) const {
     char buffer[400];
     const double size = std::fabs(value);
+    // Most numbers are prices: a decimal of at most fifteen digits that reads as the value is its shortest
+    // form.
+    const double hundredths = std::round(size * 100);
+    if (hundredths < 1e15 && hundredths / 100 == size && !(size == 0 && std::signbit(value))) {
+        const auto whole = static_cast<std::uint64_t>(hundredths);
+        char* at = buffer;
+        if (value < 0)
+            *at++ = '-';
+        at = std::to_chars(at, buffer + sizeof buffer, whole / 100).ptr;
+        *at++ = '.';
+        *at++ = static_cast<char>('0' + whole / 10 % 10);
+        if (whole % 10 != 0)
+            *at++ = static_cast<char>('0' + whole % 10);
+        return {buffer, at};
+    }
     const bool plain = size == 0 || (size >= 1e-5 && size < 1e16);
     const auto end = plain
                          ? std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
+#include <cmath>
+#include <random>
+
 namespace kavor {
 
 namespace {
@@ -170,7 +174,45 @@ TEST(JsonCorners, NumbersKeepTheirLastDigit) {
         EXPECT_EQ(reading<Corner>(R"({"inner":{"a":)" + std::string(large) + R"(},"id":1})"),
                   "inner.a: integer out of range");
     EXPECT_EQ(reading<Corner>(R"({"id":1,"prices":[1,1e400]})"), "prices[1]: number out of range");
+    EXPECT_EQ(
+        reading<Corner>(R"({"x":[1e400,{"y":-1e999}],"id":1,"prices":[123456789012345678901234567890,2]})"),
+        R"({"id":1,"prices":[1.2345678901234568e+29,2.0]})");
     EXPECT_EQ(reading<Corner>(R"({"id":1e400})"), "id: expected integer, found number");
+}
+
+// Prices are written by a short way of their own; it must write what the long one would.
+TEST(JsonCorners, PricesAreWrittenInTheirShortestForm) {
+    const auto shortest = [](double value) {
+        char buffer[400];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr;
+        const std::string text(buffer, end);
+        return text.find('.') == std::string::npos ? text + ".0" : text;
+    };
+    std::mt19937_64 dice(3);
+    for (int i = 0; i < 20'000; ++i) {
+        const auto hundredths = static_cast<double>(dice() >> (12 + i % 52));
+        for (const double value : {hundredths / 100, -hundredths / 100, hundredths / 1000, hundredths * 1.1,
+                                   std::nextafter(hundredths / 100, 0)}) {
+            const double size = std::fabs(value);
+            if (size == 0 || (size >= 1e-5 && size < 1e16)) {
+                EXPECT_EQ(json::encode(value).value(), shortest(value));
+            }
+        }
+    }
+}
+
+TEST(JsonCorners, WhatMustBeEscapedIsFoundAtEveryPlace) {
+    for (std::size_t size = 1; size < 20; ++size) {
+        for (std::size_t place = 0; place < size; ++place) {
+            for (const char special : {'"', '\\', '\n', '\x1f', '\0', ' ', '!', '\x7f', '\xc3'}) {
+                std::string text(size, 'a');
+                text[place] = special;
+                if (special == '\xc3')
+                    text.insert(place + 1, "\xb1");
+                EXPECT_EQ(json::decode<std::string>(json::encode(text).value()).value(), text);
+            }
+        }
+    }
 }
 
 TEST(JsonCorners, DepthCostsAnErrorAndNoMemory) {

@@ -199,13 +199,9 @@ bool readNegativeZero(Element element, double& out) {
     return true;
 }
 
-bool readLargeNumber(Element element, double& out, Context& context) {
-    if (numberKind(element) == Number::None)
-        return context.expected("number", element);
-    const std::string_view token = trimmed(element.raw_json_token());
-    const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), out);
-    return (error == std::errc() && end == token.data() + token.size()) ||
-           context.fail("number out of range");
+bool refuseNumber(Element element, Context& context) {
+    return numberKind(element) == Number::None ? context.expected("number", element)
+                                               : context.fail("number out of range");
 }
 
 bool ignore(Element element, Context& context) {
@@ -295,6 +291,35 @@ std::string keyText(std::int64_t key) {
     return std::to_string(key);
 }
 
+namespace {
+
+// Not 0 when one of eight bytes must be escaped in a text.
+std::uint64_t escapedIn(std::uint64_t bytes) {
+    constexpr std::uint64_t each = 0x0101010101010101U;
+    constexpr std::uint64_t high = each * 0x80;
+    const auto zeroIn = [](std::uint64_t word) { return (word - each) & ~word; };
+    return (((bytes - each * 0x20) & ~bytes) | zeroIn(bytes ^ each * '"') | zeroIn(bytes ^ each * '\\')) &
+           high;
+}
+
+// Whether a text of eight bytes or more holds nothing to escape.
+bool isPlain(std::string_view text) {
+    if (text.size() < sizeof(std::uint64_t))
+        return false;
+    const auto wordAt = [text](std::size_t place) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, text.data() + place, sizeof bytes);
+        return bytes;
+    };
+    const std::size_t last = text.size() - sizeof(std::uint64_t);
+    std::uint64_t found = escapedIn(wordAt(last));
+    for (std::size_t i = 0; i < last; i += sizeof(std::uint64_t))
+        found |= escapedIn(wordAt(i));
+    return found == 0;
+}
+
+} // namespace
+
 void Writer::newLine() {
     text_ += '\n';
     text_.append(static_cast<std::size_t>(depth_) * 2, ' ');
@@ -328,6 +353,11 @@ void Writer::key(std::string_view name) {
     text_ += pretty_ ? ": " : ":";
 }
 
+void Writer::quotedKey(std::string_view quoted) {
+    separate();
+    text_ += quoted;
+}
+
 void Writer::string(std::string_view value) {
     static constexpr auto special = [] {
         std::array<bool, 256> table{};
@@ -339,7 +369,7 @@ void Writer::string(std::string_view value) {
     static constexpr std::string_view digits = "0123456789abcdef";
     text_ += '"';
     std::size_t from = 0;
-    for (std::size_t i = 0; i < value.size(); ++i) {
+    for (std::size_t i = isPlain(value) ? value.size() : 0; i < value.size(); ++i) {
         const auto c = static_cast<unsigned char>(value[i]);
         if (!special[c])
             continue;

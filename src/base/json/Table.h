@@ -144,10 +144,9 @@ bool readRecord(Element element, Record& out, Context& context);
 // The faults of values; they answer false.
 bool refuseInteger(Element element, Context& context);
 bool refuseUnsigned(Element element, Context& context);
+bool refuseNumber(Element element, Context& context);
 // An integer -0 is 0, which is what it is in a document that is written again.
 bool readNegativeZero(Element element, double& out);
-// A number that the parser did not take, for example one of twenty digits.
-bool readLargeNumber(Element element, double& out, Context& context);
 // Reads a value that no member takes, to the last letter.
 bool ignore(Element element, Context& context);
 // A string without its quotes; the view lives as long as the document and its parser.
@@ -205,7 +204,7 @@ inline bool readValue(Element element, std::uint64_t& out, Context& context) {
 }
 [[gnu::always_inline]] inline bool readValue(Element element, double& out, Context& context) {
     if (element.get(out) != simdjson::SUCCESS)
-        return readLargeNumber(element, out, context);
+        return refuseNumber(element, context);
     return out != 0 || !std::signbit(out) || readNegativeZero(element, out);
 }
 [[gnu::always_inline]] inline bool readValue(Element element, bool& out, Context& context) {
@@ -516,6 +515,7 @@ public:
     void close(char bracket);
     void separate(); // before each element of a list and each key of an object
     void key(std::string_view name);
+    void quotedKey(std::string_view quoted); // with its quotes and colon, as it stands in the document
     void string(std::string_view value);
     void integer(std::int64_t value);
     void unsignedInteger(std::uint64_t value);
@@ -557,22 +557,39 @@ inline bool writeValue(Writer& writer, const LocalDateTime& value) {
 template <class T>
 bool writeElement(Writer& writer, const T& value);
 
+// A key of a record as it stands in a document, with the blank that follows it in a pretty one.
+template <class Record, std::size_t I>
+constexpr auto quotedKey = [] {
+    constexpr std::string_view name = Keys<Record>::names[I];
+    std::array<char, name.size() + 4> text{};
+    text.front() = '"';
+    std::copy(name.begin(), name.end(), text.begin() + 1);
+    text[name.size() + 1] = '"';
+    text[name.size() + 2] = ':';
+    text[name.size() + 3] = ' ';
+    return text;
+}();
+
 template <class Record, std::size_t I>
 bool writeField(Writer& writer, const Record& record) {
     constexpr auto field = std::get<I>(Table<Record>::fields);
     const auto& member = record.*field.member;
     using Member = std::remove_cvref_t<decltype(member)>;
     using Codec = decltype([]<class R, class M, class C>(const Field<R, M, C>&) { return C(); }(field));
+    const auto writeKey = [&writer] {
+        constexpr auto& key = quotedKey<Record, I>;
+        writer.quotedKey({key.data(), key.size() - (writer.pretty() ? 0 : 1)});
+    };
     if constexpr (!std::is_same_v<Codec, TypeCodec>) {
-        writer.key(field.key);
+        writeKey();
         return Codec::write(writer, member);
     } else if constexpr (IsOptional<Member>::value) {
         if (!member)
             return true;
-        writer.key(field.key);
+        writeKey();
         return writeElement(writer, *member);
     } else {
-        writer.key(field.key);
+        writeKey();
         return writeElement(writer, member);
     }
 }
