@@ -156,10 +156,14 @@ void freeRecords(benchmark::State& state) {
 void decodeNlohmann(benchmark::State& state) {
     const std::string& document = catalogueOfMegabytes(static_cast<std::size_t>(state.range(0)));
     for (auto _ : state) {
-        const auto root = nlohmann::json::parse(document);
+        auto root = nlohmann::json::parse(document);
         ApplicationInformation catalogue;
         must(readTyped<Nlohmann>(root, catalogue), "nlohmann decode");
         benchmark::DoNotOptimize(catalogue);
+        state.PauseTiming();
+        root = nullptr;
+        catalogue = ApplicationInformation();
+        state.ResumeTiming();
     }
     count(state, document);
 }
@@ -168,10 +172,14 @@ void decodeQt(benchmark::State& state) {
     const std::string& document = catalogueOfMegabytes(static_cast<std::size_t>(state.range(0)));
     const QByteArray bytes = QByteArray::fromStdString(document);
     for (auto _ : state) {
-        const QJsonValue root(QJsonDocument::fromJson(bytes).object());
+        QJsonValue root(QJsonDocument::fromJson(bytes).object());
         ApplicationInformation catalogue;
         must(readTyped<QtJson>(root, catalogue), "Qt decode");
         benchmark::DoNotOptimize(catalogue);
+        state.PauseTiming();
+        root = QJsonValue();
+        catalogue = ApplicationInformation();
+        state.ResumeTiming();
     }
     count(state, document);
 }

@@ -2,7 +2,7 @@
 
 add_library(kavor_options INTERFACE)
 # One setting for all sources, also for those without optimisation: the parser's classes differ by it.
-if(KAVOR_SANITIZE)
+if(KAVOR_SANITIZE OR KAVOR_FUZZERS)
   target_compile_definitions(kavor_options INTERFACE SIMDJSON_DEVELOPMENT_CHECKS=1)
 else()
   target_compile_definitions(kavor_options INTERFACE SIMDJSON_DEVELOPMENT_CHECKS=0)

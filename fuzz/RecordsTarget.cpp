@@ -87,7 +87,9 @@ bool orderList(std::string_view document) {
         rows.draftsOrderList().size() + rows.sentBrochureOrders().size() + rows.sentTextileOrders().size();
     if (shown != orders.size() + textiles.size())
         fail("every order of the answer is shown once");
-    if (!std::ranges::is_sorted(rows.draftsOrderList(), std::greater(), &DraftOrderRow::date))
+    if (!std::ranges::is_sorted(rows.draftsOrderList(), std::greater(), &DraftOrderRow::moment) ||
+        !std::ranges::is_sorted(rows.sentBrochureOrders(), std::greater(), &OrderList::Order::date) ||
+        !std::ranges::is_sorted(rows.sentTextileOrders(), std::greater(), &OrderList::OrderTextile::date))
         fail("the newest order comes first");
     return true;
 }

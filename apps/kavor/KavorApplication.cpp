@@ -6,6 +6,7 @@
 #include "base/StopProcess.h"
 #include "brochures/wizard/WizardStep.h"
 #include "catalogue/services/FontUpdater.h"
+#include "catalogue/services/PDFCacheManager.h"
 #include "catalogue/services/ResourceUpdateRun.h"
 #include "device/AlertPresenter.h"
 #include "device/AppLifecycle.h"
@@ -71,6 +72,7 @@ AppSingleton& openSession(const KavorOptions& options) {
     makeFolder(options.documents);
     makeFolder(options.caches);
     atomic_file::sweepTemporaries(options.documents);
+    atomic_file::sweepTemporaries(options.caches / PDFCacheManager::folderName);
     AppSingleton& session = AppSingleton::shared();
     session.version = KAVOR_VERSION;
     session.compilation = KAVOR_COMPILATION;
@@ -190,6 +192,10 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
     connect(&parts_->lifecycle, &AppLifecycle::enteredBackground, this,
             [] { BackgroundFileWriter::shared().flush(); });
     parts_->application.follow(parts_->lifecycle);
+    // A run writes the number of what it sent into the shared draft, which must not be another one in the
+    // making; and it needs somebody's token.
+    parts_->tasks.setGate(
+        [this] { return !parts_->session.actualSection && !parts_->network.accessToken().isEmpty(); });
     connect(&parts_->root, &RootController::windowClosed, this, [this] {
         rememberWindowSize();
         parts_->lifecycle.reportWindowClosed();
@@ -213,6 +219,7 @@ bool KavorApplication::start() {
     parts_->root.setWindow(parts_->window, !qEnvironmentVariableIsSet("KAVOR_NO_ANIMATION"));
     openWindow();
     parts_->application.didFinishLaunching();
+    parts_->sync.scheduleBrochureSync(); // a desktop never suspends a program, which would ask for it
     for (const QString& url : std::as_const(options_.urls))
         parts_->application.openUrl(url);
     return true;

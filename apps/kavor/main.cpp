@@ -28,6 +28,7 @@ std::unique_ptr<kavor::SessionStore> beginReadingEarly(int argc, char* argv[]) {
 
 int main(int argc, char* argv[]) {
     ::umask(S_IRWXG | S_IRWXO); // what the client writes is its user's alone
+    kavor::atomic_file::survivePassingTheSizeLimit();
     kavor::KavorApplication::prepareProcess();
     // A large catalogue is read while the application object and the window are made. The application object
     // takes arguments of its own out of the list, so only its reading of the command line counts.

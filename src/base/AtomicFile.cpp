@@ -17,7 +17,7 @@ namespace {
 constexpr std::string_view temporaryPrefix = ".tmp-";
 
 Failure failure(const std::filesystem::path& path, int error) {
-    return {path, std::strerror(error)};
+    return {path, std::strerror(error), error == ENOENT};
 }
 
 // A file descriptor that closes itself.
@@ -52,6 +52,7 @@ int writeAll(int descriptor, std::string_view content) {
     return 0;
 }
 
+// As well as the file system can: some know no flush of a folder.
 void flushFolder(const std::filesystem::path& folder) {
     const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.number() >= 0)
@@ -103,6 +104,10 @@ tl::expected<std::filesystem::path, Failure> writeTemporary(const std::filesyste
 }
 
 } // namespace
+
+void survivePassingTheSizeLimit() {
+    ::signal(SIGXFSZ, SIG_IGN);
+}
 
 std::string Failure::text() const {
     return path.string() + ": " + reason;
@@ -187,6 +192,7 @@ Done makeFolder(const std::filesystem::path& folder) {
     }
     if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
         return tl::unexpected(failure(folder, errno));
+    flushFolder(folderOf(folder));
     if (!std::filesystem::is_directory(folder, error))
         return tl::unexpected(Failure{folder, "not a folder"});
     return {};

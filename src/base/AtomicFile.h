@@ -15,10 +15,15 @@ namespace kavor::atomic_file {
 struct Failure {
     std::filesystem::path path;
     std::string reason;
+    bool isMissing = false; // there is no such file
     [[nodiscard]] std::string text() const;
 };
 
 using Done = tl::expected<void, Failure>;
+
+// Lets a write beyond the limit on the size of files fail, instead of ending the process. For the start of a
+// program.
+void survivePassingTheSizeLimit();
 
 // Writes to a temporary sibling, flushes it to disk, renames it over the path and flushes the folder.
 Done write(const std::filesystem::path& path, std::string_view content);

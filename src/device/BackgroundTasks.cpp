@@ -49,10 +49,11 @@ std::optional<QString> TimerBackgroundTasks::submit(const BackgroundRequest& req
     if (!handlers_.contains(request.identifier))
         return QStringLiteral("no handler is registered for ") + request.identifier;
     cancel(request.identifier);
-    auto delay = request.earliestBegin;
+    auto delay = std::max(request.earliestBegin, pace_.afterRequest);
     if (const auto last = lastRun_.find(request.identifier); last != lastRun_.end()) {
+        // A clock that was set back must not postpone the next run by as much.
         const std::chrono::milliseconds since(clock_.now().toMSecsSinceEpoch() - last->second);
-        delay = std::max(delay, pace_.betweenRuns - since);
+        delay = std::max(delay, pace_.betweenRuns - std::max(since, std::chrono::milliseconds(0)));
     }
     const quint64 timer =
         clock_.after(delay, this, [this, identifier = request.identifier] { becomeDue(identifier); });
@@ -84,6 +85,12 @@ void TimerBackgroundTasks::startIfPossible(const QString& identifier) {
         return;
     if (found->second.request.needsNetwork && !reachability_.isReachable())
         return;
+    if (gate_ && !gate_()) {
+        clock_.cancel(found->second.timer);
+        found->second.timer = clock_.after(pace_.atGate, this, [this, identifier] { becomeDue(identifier); });
+        return;
+    }
+    clock_.cancel(found->second.timer);
     pending_.erase(found);
     start(identifier);
 }

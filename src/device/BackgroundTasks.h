@@ -53,17 +53,23 @@ public:
     virtual void cancelAll() = 0;
 };
 
-// Background tasks by timer while the client runs. A run begins when its earliest moment has come, the
-// interval since the last run of the identifier is over and, where it asks for that, the network is there.
+// Background tasks by timer while the client runs. A run begins when its earliest moment and the pause after
+// the request have come, the interval since the last run of the identifier is over, where it asks for that
+// the network is there, and the gate lets it pass.
 class TimerBackgroundTasks : public QObject, public BackgroundTasks {
     Q_OBJECT
 public:
     struct Pace {
         std::chrono::milliseconds betweenRuns = std::chrono::minutes(15);
         std::chrono::milliseconds budget = std::chrono::minutes(3); // a run that takes longer expires
+        // The client is in front when it asks for a run, and may be sending the same things itself.
+        std::chrono::milliseconds afterRequest = std::chrono::minutes(4);
+        std::chrono::milliseconds atGate = std::chrono::seconds(30); // until a closed gate is asked again
     };
 
     TimerBackgroundTasks(Clock& clock, Reachability& reachability, Pace pace, QObject* parent = nullptr);
+    // Asked before each run: whether it may begin now. Open when never set.
+    void setGate(std::function<bool()> gate) { gate_ = std::move(gate); }
     void registerHandler(const QString& identifier, Handler handler) override;
     std::optional<QString> submit(const BackgroundRequest& request) override;
     void cancel(const QString& identifier) override;
@@ -83,6 +89,7 @@ private:
     Clock& clock_;
     Reachability& reachability_;
     Pace pace_;
+    std::function<bool()> gate_;
     std::map<QString, Handler> handlers_;
     std::map<QString, Pending> pending_;
     std::map<QString, qint64> lastRun_; // milliseconds since the epoch

@@ -24,6 +24,11 @@ FileKeychain::FileKeychain(std::filesystem::path file)
 
 template <typename Change>
 KeychainStatus FileKeychain::change(Change change) {
+    // What cannot be read must not be written over.
+    if (const auto content = atomic_file::read(file_); !content && !content.error().isMissing) {
+        logLine("Could not read the secrets: " + content.error().text());
+        return KeychainStatus::Unavailable;
+    }
     KeychainItems items = itemsIn(file_);
     const KeychainStatus status = change(items);
     if (status != KeychainStatus::Success)

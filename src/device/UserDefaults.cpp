@@ -12,8 +12,12 @@ namespace kavor {
 
 FileUserDefaults::FileUserDefaults(std::filesystem::path file)
     : file_(std::move(file)) {
-    if (const auto content = atomic_file::read(file_))
+    if (const auto content = atomic_file::read(file_)) {
         values_ = QJsonDocument::fromJson(QByteArray::fromStdString(*content)).object();
+    } else if (!content.error().isMissing) {
+        isReadable_ = false;
+        logLine("Could not read the settings: " + content.error().text());
+    }
 }
 
 bool FileUserDefaults::boolean(const QString& key) const {
@@ -57,6 +61,8 @@ void FileUserDefaults::set(const QString& key, const QJsonValue& value) {
 }
 
 void FileUserDefaults::save() const {
+    if (!isReadable_) // what could not be read must not be written over
+        return;
     auto done = atomic_file::makeFolder(file_.parent_path());
     if (done)
         done = atomic_file::write(file_, QJsonDocument(values_).toJson().toStdString());

@@ -48,6 +48,7 @@ private:
 
     std::filesystem::path file_;
     QJsonObject values_;
+    bool isReadable_ = true;
 };
 
 } // namespace kavor

@@ -33,7 +33,7 @@ int inChild(const std::function<bool()>& check) {
 void limitFileSize(rlim_t bytes) {
     const rlimit limit{bytes, bytes};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    ::signal(SIGXFSZ, SIG_IGN);
+    atomic_file::survivePassingTheSizeLimit();
 }
 
 TEST(AtomicFile, WritesReplacesReadsMovesAndRemoves) {

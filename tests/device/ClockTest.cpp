@@ -65,7 +65,7 @@ protected:
     const QString id = "com.Kavor.brochures";
     ManualClock clock;
     FakeReachability network;
-    TimerBackgroundTasks tasks{clock, network, {10min, 1min}};
+    TimerBackgroundTasks tasks{clock, network, {10min, 1min, 0s, 30s}};
     std::vector<std::shared_ptr<BackgroundTask>> runs;
 };
 
@@ -108,6 +108,31 @@ TEST_F(TimerBackgroundTasksTest, ExpiresARunThatTakesTooLongAndStartsNoOtherMean
     clock.advance(1s);
     EXPECT_TRUE(expired);
     EXPECT_TRUE(runs[0]->isComplete());
+}
+
+// Whoever asks for a run may be sending the same order at that moment.
+TEST_F(TimerBackgroundTasksTest, WaitsAfterARequestAndAtAClosedGate) {
+    TimerBackgroundTasks patient(clock, network, {10min, 1min, 4min, 30s});
+    patient.registerHandler(id,
+                            [this](const std::shared_ptr<BackgroundTask>& task) { runs.push_back(task); });
+    bool open = false;
+    patient.setGate([&open] { return open; });
+    patient.submit({id, true, 1s});
+    network.set(false);
+    network.set(true);
+    clock.advance(4min);
+    EXPECT_EQ(runs.size(), 0U) << "the gate is closed";
+    open = true;
+    clock.advance(29s);
+    EXPECT_EQ(runs.size(), 0U);
+    clock.advance(1s);
+    EXPECT_EQ(runs.size(), 1U);
+    runs[0]->complete(true);
+    patient.submit({id, true, 1s});
+    clock.advance(10min - 1s);
+    EXPECT_EQ(runs.size(), 1U);
+    clock.advance(1min);
+    EXPECT_EQ(runs.size(), 2U);
 }
 
 TEST_F(TimerBackgroundTasksTest, DropsCancelledRequestsAndRefusesUnknownIdentifiers) {

@@ -73,6 +73,18 @@ TEST(FileKeychain, AnswersThatItCannotStore) {
     EXPECT_EQ(log.lines().front().find("pa55word"), std::string::npos);
 }
 
+// What is there and cannot be read must still be there afterwards.
+TEST(FileStores, WriteOverNothingThatTheyCannotRead) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory_symlink("loop", folder / "loop");
+    LogCapture log;
+    FileKeychain store(folder / "loop");
+    EXPECT_EQ(store.add({key, "ana", "x"}), KeychainStatus::Unavailable);
+    FileUserDefaults defaults(folder / "loop");
+    defaults.setBoolean("flag", true);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "loop"));
+}
+
 TEST(MakeKeychain, TakesTheFileWhenAskedTo) {
     const TemporaryFolder folder;
     qputenv("KAVOR_KEYCHAIN", "file");
@@ -113,7 +125,7 @@ TEST(FileUserDefaults, LivesOnInMemoryWhenNothingCanBeReadOrWritten) {
     FileUserDefaults defaults(folder / "file/defaults.json");
     defaults.setBoolean("flag", true);
     EXPECT_TRUE(defaults.boolean("flag"));
-    EXPECT_EQ(log.startingWith("Could not save the settings"), 1);
+    EXPECT_EQ(log.startingWith("Could not read the settings"), 1);
 }
 
 } // namespace

@@ -205,7 +205,7 @@ int run(int argc, char** argv) {
     if (argc < 4)
         return 64;
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    ::signal(SIGXFSZ, SIG_IGN);
+    atomic_file::survivePassingTheSizeLimit();
     if (argc > 5) {
         const rlimit limit{std::strtoul(argv[5], nullptr, 10), std::strtoul(argv[5], nullptr, 10)};
         ::setrlimit(RLIMIT_FSIZE, &limit);

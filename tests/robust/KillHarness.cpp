@@ -15,6 +15,7 @@
 #include <map>
 #include <mutex>
 #include <random>
+#include <set>
 #include <sstream>
 #include <thread>
 
@@ -134,7 +135,7 @@ public:
 
 private:
     void follow(const std::string& told) {
-        const auto begun = [this](const auto& entry) { return entry.second.size() > 1; };
+        std::set<std::string> begun;
         std::istringstream lines(told);
         for (std::string line; std::getline(lines, line);) {
             const char sign = line.at(0);
@@ -142,6 +143,10 @@ private:
             const bool numbered = sign == '>' || sign == '=';
             const std::string key = line.substr(2, numbered ? last - 2 : std::string::npos);
             auto& values = expected_.try_emplace(key, std::vector<Int>{0}).first->second;
+            if (sign == '>')
+                begun.insert(key);
+            else
+                begun.erase(key);
             const Int stamp = numbered ? std::stoll(line.substr(last + 1)) : 0;
             if (sign == '>')
                 values.push_back(stamp);
@@ -153,7 +158,7 @@ private:
             report.failedWrites += sign == '!' || sign == '?' ? 1 : 0;
             stamp_ = std::max(stamp_, stamp + 1);
         }
-        report.duringAWrite += std::ranges::any_of(expected_, begun) ? 1 : 0;
+        report.duringAWrite += begun.empty() ? 0 : 1;
     }
 
     void fault(const std::string& text) {
@@ -169,6 +174,8 @@ private:
             else if (entry.is_regular_file() && key != recoveryCopyKey && !expected_.contains(key))
                 fault(key + " is a file that nobody wrote");
         }
+        if (std::filesystem::exists(documents_ / recoveryCopyKey) && !stampIn(documents_, recoveryCopyKey))
+            fault(recoveryCopyKey + " is torn");
         for (auto& [key, values] : expected_) {
             const auto found = stampIn(documents_, key);
             if (!found)

@@ -108,6 +108,16 @@ TEST_F(OrderSyncManagerTest, GoesBackToTheDefaultSessionOnFailureAndOnExpiry) {
     EXPECT_EQ(sessions.last(), QStringLiteral("default"));
 }
 
+TEST_F(OrderSyncManagerTest, ASecondUploadTakesTheExtensionOfTheFirst) {
+    saveInFront();
+    clock.advance(OrderSyncManager::extensionBudget - std::chrono::seconds(1));
+    saveInFront();
+    clock.advance(OrderSyncManager::extensionBudget - std::chrono::seconds(1));
+    EXPECT_FALSE(sessions.contains(QStringLiteral("default"))) << "the first's time is nobody's any more";
+    clock.advance(std::chrono::seconds(1));
+    EXPECT_EQ(sessions.last(), QStringLiteral("default"));
+}
+
 TEST_F(OrderSyncManagerTest, AnOrderWithoutANameStopsTheProcessOnceItIsStored) {
     saveInFront();
     clock.advance(std::chrono::seconds(1));
@@ -147,7 +157,10 @@ TEST_F(OrderSyncManagerTest, ARunWithoutDraftsEndsOnlyByExpiryAndABrokenDraftSto
     std::optional<bool> outcome;
     auto task =
         tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [&](bool success) { outcome = success; });
-    EXPECT_TRUE(waitFor([&] { return !outcome; }));
+    bool answered = false;
+    QObject::connect(&manager, &OrderSyncManager::runAnswered, &manager, [&answered] { answered = true; });
+    EXPECT_TRUE(waitFor([&] { return answered; }));
+    EXPECT_FALSE(outcome.has_value());
     task->expire();
     EXPECT_EQ(outcome, false);
     put(folder / "orders/draft_orders/SaveBrochuresOrder/rota.zvo", "{");

@@ -87,6 +87,12 @@ bool readTree(const Source& document, const Parser& parser, const RootReader& re
         implementation.copy.assign(text);
         text = implementation.copy;
     }
+    // The parser counts one level more than a reader that refuses the deepest.
+    constexpr auto levels = static_cast<std::size_t>(Context::deepest) + 1;
+    if (implementation.parser.max_depth() < levels &&
+        implementation.parser.allocate(std::max(text.size(), implementation.parser.capacity()), levels) !=
+            simdjson::SUCCESS)
+        return context.malformed();
     ondemand::document opened;
     ondemand::value root;
     return implementation.parser.iterate(simdjson::padded_string_view(text, text.size() + Source::padding))
@@ -109,6 +115,7 @@ std::optional<Error> malformation(const Source& document) {
                                                   : readTree(document, Parser(), ignore, context);
         if (good)
             return std::nullopt;
+        return Error{"", "not a JSON document: a value is malformed"};
     }
     return Error{"", std::string("not a JSON document: ") + simdjson::error_message(error)};
 }
@@ -199,9 +206,17 @@ bool readNegativeZero(Element element, double& out) {
     return true;
 }
 
-bool refuseNumber(Element element, Context& context) {
-    return numberKind(element) == Number::None ? context.expected("number", element)
-                                               : context.fail("number out of range");
+bool readUnusualNumber(Element element, double& out, Context& context) {
+    if (numberKind(element) == Number::None)
+        return context.expected("number", element);
+    const std::string_view token = trimmed(element.raw_json_token());
+    const auto error = std::from_chars(token.data(), token.data() + token.size(), out).ec;
+    if (error == std::errc())
+        return true;
+    out = 0;
+    const bool isTiny =
+        token.find("e-") != std::string_view::npos || token.find("E-") != std::string_view::npos;
+    return isTiny || context.fail("number out of range");
 }
 
 bool ignore(Element element, Context& context) {
@@ -254,7 +269,8 @@ bool refuseInteger(Element element, Context& context) {
 
 bool refuseUnsigned(Element element, Context& context) {
     if (typeName(element) == "integer")
-        return context.fail("expected an integer of 0 or more");
+        return context.fail(element.is_negative() ? "expected an integer of 0 or more"
+                                                  : "integer out of range");
     return context.expected("integer", element);
 }
 

@@ -144,7 +144,8 @@ bool readRecord(Element element, Record& out, Context& context);
 // The faults of values; they answer false.
 bool refuseInteger(Element element, Context& context);
 bool refuseUnsigned(Element element, Context& context);
-bool refuseNumber(Element element, Context& context);
+// A number that the parser does not take, for example one with an exponent of twenty digits.
+bool readUnusualNumber(Element element, double& out, Context& context);
 // An integer -0 is 0, which is what it is in a document that is written again.
 bool readNegativeZero(Element element, double& out);
 // Reads a value that no member takes, to the last letter.
@@ -204,7 +205,7 @@ inline bool readValue(Element element, std::uint64_t& out, Context& context) {
 }
 [[gnu::always_inline]] inline bool readValue(Element element, double& out, Context& context) {
     if (element.get(out) != simdjson::SUCCESS)
-        return refuseNumber(element, context);
+        return readUnusualNumber(element, out, context);
     return out != 0 || !std::signbit(out) || readNegativeZero(element, out);
 }
 [[gnu::always_inline]] inline bool readValue(Element element, bool& out, Context& context) {

@@ -15,13 +15,14 @@ class PlainDownloader;
 // made for each use; its downloads go on when it is gone. Main thread only.
 class PDFCacheManager {
 public:
+    static constexpr auto folderName = "PDFCache";
     static constexpr int limitSizeInMegaBytes = 1024;
     static constexpr qint64 limitSizeInBytes = qint64(limitSizeInMegaBytes) * 1024 * 1024;
 
     // Makes the folder under the caches folder when it is not there. An empty caches folder means that the
     // device has none. The downloader outlives the downloads.
     PDFCacheManager(const std::filesystem::path& cachesFolder, PlainDownloader& downloader,
-                    const std::string& cacheFolder = "PDFCache", qint64 limitBytes = limitSizeInBytes);
+                    const std::string& cacheFolder = folderName, qint64 limitBytes = limitSizeInBytes);
 
     // The URL to show: the stored file, or the remote one while its download runs beside it. Nothing when the
     // folder is missing or the text is no web address. The key of the cache is the last path component alone:

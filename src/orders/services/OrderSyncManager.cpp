@@ -167,6 +167,8 @@ void OrderSyncManager::sendLocalNotification(const QString& title, const QString
 }
 
 void OrderSyncManager::beginExtension() {
+    // The extension of a former upload, which this one replaces, must not end this one's session.
+    services_.clock.cancel(backgroundTaskID_);
     backgroundTaskID_ = services_.clock.after(extensionBudget, this, [this] {
         logLine("background sync expired");
         backgroundTaskID_ = 0;
