@@ -106,7 +106,7 @@ BrochureIntermediateData::beverageInfo(Int category, Int product, bool isCategor
     }
     if (!selected->second.contains(product))
         return std::nullopt;
-    const auto base = catalogueProduct(category, product, formatName);
+    auto base = catalogueProduct(category, product, formatName);
     auto user = findRecord(beverageProductInformation, product, formatName);
     if (user == beverageProductInformation.end() && !base && !formatName)
         user = findRecord(beverageProductInformation, product);
