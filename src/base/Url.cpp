@@ -1,8 +1,9 @@
 #include "base/Url.h"
 
+#include "base/EightBytes.h"
+
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 namespace kavor {
 
@@ -17,18 +18,7 @@ std::uint64_t unusualIn(std::uint64_t bytes) {
 
 // Catalogues hold a hundred thousand addresses, nearly all of them plain.
 bool isPlain(std::string_view text) {
-    if (text.size() < sizeof(std::uint64_t))
-        return false;
-    const auto wordAt = [text](std::size_t place) {
-        std::uint64_t bytes = 0;
-        std::memcpy(&bytes, text.data() + place, sizeof bytes);
-        return bytes;
-    };
-    const std::size_t last = text.size() - sizeof(std::uint64_t);
-    std::uint64_t found = unusualIn(wordAt(last));
-    for (std::size_t i = 0; i < last; i += sizeof(std::uint64_t))
-        found |= unusualIn(wordAt(i));
-    return found == 0;
+    return isFreeOf(text, unusualIn);
 }
 
 bool isReadable(std::string_view text) {

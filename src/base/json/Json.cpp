@@ -1,5 +1,6 @@
 #include "base/AppFormatter.h"
 #include "base/AtomicFile.h"
+#include "base/EightBytes.h"
 #include "base/json/Table.h"
 
 namespace kavor::json {
@@ -320,18 +321,7 @@ std::uint64_t escapedIn(std::uint64_t bytes) {
 
 // Whether a text of eight bytes or more holds nothing to escape.
 bool isPlain(std::string_view text) {
-    if (text.size() < sizeof(std::uint64_t))
-        return false;
-    const auto wordAt = [text](std::size_t place) {
-        std::uint64_t bytes = 0;
-        std::memcpy(&bytes, text.data() + place, sizeof bytes);
-        return bytes;
-    };
-    const std::size_t last = text.size() - sizeof(std::uint64_t);
-    std::uint64_t found = escapedIn(wordAt(last));
-    for (std::size_t i = 0; i < last; i += sizeof(std::uint64_t))
-        found |= escapedIn(wordAt(i));
-    return found == 0;
+    return isFreeOf(text, escapedIn);
 }
 
 } // namespace
