@@ -2,8 +2,8 @@
 """Turns the results of the benches into ratios: table.py FOLDER [--line].
 
 FOLDER holds catalogue.json, draft.json and filter.json (Google Benchmark's form), fresh.json (a list of runs of
-fresh_decode) and start.json. Exit status 1 when an aim is
-missed that was met before, or a figure is not there.
+fresh_decode) and start.json. Exit status 1 when an aim is missed by more than is
+known of it, or a figure is not there.
 """
 import json
 import pathlib
@@ -71,14 +71,14 @@ def filter_rows(results):
     yield 'brand filter, 5,000 brands: worst keystroke, ms', worst, '<=', 4
 
 
-FIRST_FRAME = 'first frame of the dashboard: times an empty window'
+FIRST_FRAME = 'first frame of the dashboard: times '
 # Aims that are known to be missed: a figure beyond its bound is a step back, and only that fails the round.
-BOUNDS = {FIRST_FRAME: 4.5}
+BOUNDS = {FIRST_FRAME + 'an empty window': 4.5}
 
 
 def start_rows(result):
-    for name, below, sign in ((FIRST_FRAME, 'empty_ms', '<='), (f'{FIRST_FRAME[:-15]}a window with a word', 'word_ms', None)):
-        yield name, result['client_ms'] / result[below] if result else None, sign, 1.5
+    for window, below, sign in (('an empty window', 'empty_ms', '<='), ('a window with a word', 'word_ms', None)):
+        yield FIRST_FRAME + window, result['client_ms'] / result[below] if result else None, sign, 1.5
 
 
 def main():

@@ -10,8 +10,7 @@ namespace kavor {
 
 namespace {
 
-KeychainItems itemsIn(const std::filesystem::path& file) {
-    const auto content = atomic_file::read(file);
+KeychainItems itemsOf(const tl::expected<std::string, atomic_file::Failure>& content) {
     return content ? KeychainItems::decode(*content) : KeychainItems();
 }
 
@@ -25,11 +24,12 @@ FileKeychain::FileKeychain(std::filesystem::path file)
 template <typename Change>
 KeychainStatus FileKeychain::change(Change change) {
     // What cannot be read must not be written over.
-    if (const auto content = atomic_file::read(file_); !content && !content.error().isMissing) {
+    const auto content = atomic_file::read(file_);
+    if (!content && !content.error().isMissing) {
         logLine("Could not read the secrets: " + content.error().text());
         return KeychainStatus::Unavailable;
     }
-    KeychainItems items = itemsIn(file_);
+    KeychainItems items = itemsOf(content);
     const KeychainStatus status = change(items);
     if (status != KeychainStatus::Success)
         return status;
@@ -54,7 +54,7 @@ KeychainStatus FileKeychain::remove(const KeychainKey& key) {
 }
 
 std::optional<KeychainItem> FileKeychain::readOne(const KeychainKey& key) const {
-    return itemsIn(file_).readOne(key);
+    return itemsOf(atomic_file::read(file_)).readOne(key);
 }
 
 } // namespace kavor
