@@ -140,6 +140,9 @@ void decodeEscapes(benchmark::State& state) {
 void decodeReversed(benchmark::State& state) {
     decodeRecords(state, withKeysReversed(catalogueOfMegabytes(12)));
 }
+void decodeShuffled(benchmark::State& state) {
+    decodeRecords(state, withKeysShuffled(catalogueOfMegabytes(12)));
+}
 
 void freeRecords(benchmark::State& state) {
     const std::string& document = catalogueOfMegabytes(static_cast<std::size_t>(state.range(0)));
@@ -260,6 +263,7 @@ BENCHMARK(decode)->Arg(1)->Arg(12)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeIndented)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeEscapes)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeReversed)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeShuffled)->Unit(benchmark::kMillisecond);
 BENCHMARK(freeRecords)->Arg(12)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeNlohmann)->Arg(1)->Arg(12)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeQt)->Arg(1)->Arg(12)->Unit(benchmark::kMillisecond);

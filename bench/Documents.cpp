@@ -4,8 +4,10 @@
 
 #include <simdjson.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
+#include <random>
 #include <sstream>
 #include <vector>
 
@@ -13,22 +15,24 @@ namespace kavor::bench {
 
 namespace {
 
-// Writes a document again, with its keys in the opposite order where asked.
-void write(simdjson::dom::element element, bool reversed, std::string& out) {
+using Pairs = std::vector<simdjson::dom::key_value_pair>;
+
+// Writes a document again, with the keys of each object put in another order.
+template <class Order>
+void write(simdjson::dom::element element, const Order& order, std::string& out) {
     std::ostringstream scalar;
     switch (element.type()) {
     case simdjson::dom::element_type::OBJECT: {
-        std::vector<simdjson::dom::key_value_pair> pairs;
+        Pairs pairs;
         for (const auto pair : simdjson::dom::object(element))
             pairs.push_back(pair);
-        if (reversed)
-            pairs = {pairs.rbegin(), pairs.rend()};
+        order(pairs);
         out += '{';
         for (std::size_t i = 0; i < pairs.size(); ++i) {
             out += i > 0 ? ",\"" : "\"";
             out.append(pairs[i].key);
             out += "\":";
-            write(pairs[i].value, reversed, out);
+            write(pairs[i].value, order, out);
         }
         out += '}';
         return;
@@ -40,7 +44,7 @@ void write(simdjson::dom::element element, bool reversed, std::string& out) {
             if (!first)
                 out += ',';
             first = false;
-            write(item, reversed, out);
+            write(item, order, out);
         }
         out += ']';
         return;
@@ -49,6 +53,15 @@ void write(simdjson::dom::element element, bool reversed, std::string& out) {
         scalar << simdjson::minify(element);
         out += scalar.str();
     }
+}
+
+template <class Order>
+std::string withKeysIn(const Order& order, const std::string& document) {
+    std::string out;
+    out.reserve(document.size());
+    simdjson::dom::parser parser;
+    write(parser.parse(document), order, out);
+    return out;
 }
 
 } // namespace
@@ -143,11 +156,12 @@ std::string withEscapes(const std::string& document) {
 }
 
 std::string withKeysReversed(const std::string& document) {
-    simdjson::dom::parser parser;
-    std::string out;
-    out.reserve(document.size());
-    write(parser.parse(document), true, out);
-    return out;
+    return withKeysIn([](Pairs& pairs) { std::ranges::reverse(pairs); }, document);
+}
+
+std::string withKeysShuffled(const std::string& document) {
+    std::mt19937 random(7);
+    return withKeysIn([&random](Pairs& pairs) { std::ranges::shuffle(pairs, random); }, document);
 }
 
 } // namespace kavor::bench

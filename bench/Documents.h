@@ -14,5 +14,6 @@ std::string catalogueOfBrands(int brands);
 std::string indented(const std::string& document);
 std::string withEscapes(const std::string& document);      // every letter "e" of a text as an escape
 std::string withKeysReversed(const std::string& document); // the keys of every object in the opposite order
+std::string withKeysShuffled(const std::string& document); // in an order of its own for every object
 
 } // namespace kavor::bench

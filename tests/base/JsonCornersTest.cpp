@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <random>
@@ -237,6 +239,37 @@ TEST(JsonCorners, WhatIsPassedOverMustBeJsonToo) {
     EXPECT_EQ(reading<Corner>(R"({"id":7,"inner":{"b":2}})"), "inner.a: missing");
     for (const char* ignored : {"[1,]", "{\"a\"}", "nul", "\"\\x\"", "1.", "[[]"})
         EXPECT_FALSE(json::decode<Corner>(std::string(R"({"id":7,"unknown":)") + ignored + "}")) << ignored;
+}
+
+TEST(JsonCorners, KeysAreFoundInEveryOrderAndSpelling) {
+    std::mt19937 dice(11);
+    const auto one = [&dice](auto... choice) {
+        const std::array<std::string, sizeof...(choice)> all{choice...};
+        return all[dice() % all.size()];
+    };
+    for (int i = 0; i < 500; ++i) {
+        std::vector<std::string> fields;
+        const auto add = [&](const std::string& key, const std::string& value) {
+            fields.push_back('"' + key + '"' + one("", " ", "\n\t") + ":" + one("", " ") + value);
+        };
+        add(one("id", "id", "\\u0069d", "i\\u0064"), "7");
+        add(one("note", "note", "not\\u0065"), R"("\"id\":3")");
+        add(one("prices", "prices", "\\u0070rices"), "[1.5]");
+        add("inner", one(R"({"b":2,"a":1})", R"({"a":1,"b":2})", R"({"A":3,"b":2,"a":1})"));
+        // Names that are nearly one of the record's, in their first or last letters or their size.
+        for (const char* other : {"", "i", "idd", "Note", "notes", "price", "pricess", "in\\\"ner", "id\\\"",
+                                  "\\\\id", "note with much behind", "not\\u0066"}) {
+            if (dice() % 4 == 0)
+                add(other, one("null", "[{}]", R"("id")", "8"));
+        }
+        std::ranges::shuffle(fields, dice);
+        std::string document = "{";
+        for (const auto& field : fields)
+            document += (document.size() > 1 ? one(",", " , ") : "") + field;
+        EXPECT_EQ(reading<Corner>(document + "}"),
+                  R"({"id":7,"note":"\"id\":3","prices":[1.5],"inner":{"a":1,"b":2}})")
+            << document;
+    }
 }
 
 TEST(JsonCorners, OfARepeatedKeyTheLastCountsAndNothingOfTheOthers) {

@@ -191,14 +191,7 @@ bool readText(Element element, std::string_view& out) {
 }
 
 bool readKeyText(ondemand::field& field, std::string_view& out) {
-    const char* const begin = field.key().raw();
-    const char* end = begin;
-    while (*end != '"' && *end != '\\') // the parser has seen to it that the string ends
-        ++end;
-    if (*end == '\\')
-        return field.unescaped_key().get(out) == simdjson::SUCCESS;
-    out = {begin, static_cast<std::size_t>(end - begin)};
-    return true;
+    return field.unescaped_key().get(out) == simdjson::SUCCESS;
 }
 
 bool readNegativeZero(Element element, double& out) {

@@ -334,6 +334,19 @@ bool readElement(Element element, T& out, Context& context) {
     return raw[name.size()] == '"' && sameKey({raw, name.size()}, name);
 }
 
+// A key as it stands in the document, with its escapes if it has any; false when the document ends there.
+inline bool readRawKey(ondemand::field& field, std::string_view& out) {
+    const char* end = nullptr;
+    if (field.value().current_location().get(end) != simdjson::SUCCESS)
+        return false;
+    do // between a key and its value there are blanks and a colon only
+        --end;
+    while (*end != '"');
+    const char* const begin = field.key().raw();
+    out = {begin, static_cast<std::size_t>(end - begin)};
+    return true;
+}
+
 // The keys of a record with the ways to find them: by what followed the last key in earlier records of the
 // kind, or else by a hash. Documents repeat their order of keys, so one comparison usually does.
 template <class Record>
@@ -364,29 +377,51 @@ struct Keys {
         },
         Table<Record>::fields);
 
-    static constexpr std::size_t hash(std::string_view key) {
-        std::uint32_t value = static_cast<std::uint32_t>(key.size()) * 0x9E3779B1U;
-        for (const char c : key)
-            value = (value ^ static_cast<unsigned char>(c)) * 0x01000193U;
-        return (value ^ (value >> 15U)) & (slotCount - 1);
+    static constexpr std::size_t next(std::size_t slot) { return (slot + 1) & (slotCount - 1); }
+
+    // Of the first and the last eight bytes of a key and its size.
+    static constexpr std::size_t hash(std::uint64_t head, std::uint64_t tail, std::size_t size) {
+        const std::uint64_t value = (head ^ tail << 7U ^ tail >> 5U ^ size) * 0x9E3779B97F4A7C15U;
+        return std::size_t(value >> 40U) & (slotCount - 1);
+    }
+
+    // Of a key that stands in a document or in the parser's memory: eight bytes are there to read.
+    static std::size_t hash(std::string_view key) {
+        std::uint64_t head = 0;
+        std::uint64_t tail = 0;
+        std::memcpy(&head, key.data(), sizeof head);
+        if (key.size() < sizeof head) {
+            head &= (std::uint64_t(1) << key.size() * 8) - 1;
+            tail = head;
+        } else
+            std::memcpy(&tail, key.data() + key.size() - sizeof tail, sizeof tail);
+        return hash(head, tail, key.size());
     }
 
     static constexpr auto slots = [] {
         std::array<std::uint16_t, slotCount> table{};
         table.fill(static_cast<std::uint16_t>(none));
         for (std::size_t i = 0; i < count; ++i) {
-            std::size_t slot = hash(names[i]);
+            const std::string_view name = names[i];
+            const auto word = [name](std::size_t from) {
+                std::uint64_t bytes = 0;
+                for (std::size_t at = from; at < std::min(from + 8, name.size()); ++at)
+                    bytes |= std::uint64_t(static_cast<unsigned char>(name[at])) << (at - from) * 8;
+                return bytes;
+            };
+            std::size_t slot = hash(word(0), word(name.size() < 8 ? 0 : name.size() - 8), name.size());
             while (table[slot] != none)
-                slot = (slot + 1) & (slotCount - 1);
+                slot = next(slot);
             table[slot] = static_cast<std::uint16_t>(i);
         }
         return table;
     }();
+    static_assert(std::endian::native == std::endian::little);
 
     static std::size_t find(std::string_view key) {
         std::size_t slot = hash(key);
-        while (slots[slot] != none && !sameKey(names[slots[slot]], key))
-            slot = (slot + 1) & (slotCount - 1);
+        while (slots[slot] != none && names[slots[slot]] != key)
+            slot = next(slot);
         return slots[slot];
     }
 
@@ -459,6 +494,39 @@ struct FieldReaders<Record, std::index_sequence<I...>> {
     static constexpr std::array any{readField<Record, I>...};
 };
 
+// What became of a field: its index, or Keys::none when no member takes it; whether its value could be read.
+struct OtherField {
+    std::size_t index;
+    bool good;
+};
+
+// Reads a field that is not the expected one, or is written with escapes. Seen holds a bit for each field
+// met.
+template <class Record>
+[[gnu::always_inline]] inline OtherField readOtherField(ondemand::field& field, Record& out, Context& context,
+                                                        std::uint64_t seen, std::size_t expected) {
+    using K = Keys<Record>;
+    using Readers = FieldReaders<Record, std::make_index_sequence<K::count>>;
+    std::string_view key;
+    if (!readRawKey(field, key))
+        return {K::none, context.malformed()};
+    for (std::size_t slot = K::hash(key); K::slots[slot] != K::none; slot = K::next(slot)) {
+        const std::size_t index = K::slots[slot];
+        context.repeated = (seen >> index & 1U) != 0;
+        if (const auto read = Readers::expected[index](field, out, context); read != FieldRead::OtherKey)
+            return {index, read == FieldRead::Good};
+    }
+    if (key.find('\\') == std::string_view::npos)
+        return {K::none, ignore(field.value(), context)};
+    if (!readKeyText(field, key))
+        return {K::none, context.malformed()};
+    const std::size_t index = key == K::names[expected] ? expected : K::find(key);
+    if (index == K::none)
+        return {index, ignore(field.value(), context)};
+    context.repeated = (seen >> index & 1U) != 0;
+    return {index, Readers::any[index](field.value(), out, context)};
+}
+
 template <class Record>
 bool readRecord(Element element, Record& out, Context& context) {
     using K = Keys<Record>;
@@ -470,26 +538,26 @@ bool readRecord(Element element, Record& out, Context& context) {
     auto& follow = successor;
     std::uint64_t seen = 0; // a bit for each field
     std::size_t last = K::none;
+    int surprises = 0;
     const auto readNext = [&](ondemand::field & field) __attribute__((always_inline)) {
-        std::size_t index = follow[last];
-        context.repeated = (seen >> index & 1U) != 0;
-        const FieldRead read = Readers::expected[index](field, out, context);
-        if (read != FieldRead::OtherKey) [[likely]] {
-            seen |= std::uint64_t(1) << index;
-            last = index;
-            return read == FieldRead::Good;
+        const std::size_t expected = follow[last];
+        if (surprises < 2) [[likely]] { // else the keys of this record are in no order
+            context.repeated = (seen >> expected & 1U) != 0;
+            const FieldRead read = Readers::expected[expected](field, out, context);
+            if (read != FieldRead::OtherKey) [[likely]] {
+                seen |= std::uint64_t(1) << expected;
+                last = expected;
+                return read == FieldRead::Good;
+            }
+            ++surprises;
         }
-        std::string_view key;
-        if (!readKeyText(field, key))
-            return context.malformed();
-        index = K::find(key);
-        if (index == K::none)
-            return ignore(field.value(), context);
-        follow[last] = static_cast<std::uint16_t>(index);
-        last = index;
-        context.repeated = (seen >> index & 1U) != 0;
-        seen |= std::uint64_t(1) << index;
-        return Readers::any[index](field.value(), out, context);
+        const auto [index, good] = readOtherField(field, out, context, seen, expected);
+        if (index != K::none) {
+            seen |= std::uint64_t(1) << index;
+            follow[last] = static_cast<std::uint16_t>(index);
+            last = index;
+        }
+        return good;
     };
     if (!forEachField(element, context, readNext))
         return false;
