@@ -28,25 +28,29 @@ const Brochures::Drink::Product* findIn(const Brochures::Drink& drink, Int produ
     return found == drink.products.end() ? nullptr : &*found;
 }
 
+std::optional<Beverage> beverageOf(const Brochures::Drink::Product* product) {
+    if (!product)
+        return std::nullopt;
+    return Beverage{product->id,          false,           product->name,   product->position,
+                    product->description, product->price1, product->price2, product->formatName};
+}
+
+std::optional<Beverage> catalogueProductAnywhere(Int product, const std::optional<std::string>& formatName) {
+    for (const auto& each : catalogue().brochures().drinks) {
+        if (const auto* found = findIn(each, product, formatName))
+            return beverageOf(found);
+    }
+    return std::nullopt;
+}
+
 // The catalogue may list a product once per format. One of its products may stand in an own category too.
 std::optional<Beverage> catalogueProduct(Int category, Int product,
                                          const std::optional<std::string>& formatName) {
     if (product < 1)
         return std::nullopt;
-    const Brochures::Drink::Product* found = nullptr;
-    if (const auto* drink = catalogue().drink(category)) {
-        found = findIn(*drink, product, formatName);
-    } else {
-        for (const auto& each : catalogue().brochures().drinks) {
-            found = findIn(each, product, formatName);
-            if (found)
-                break;
-        }
-    }
-    if (!found)
-        return std::nullopt;
-    return Beverage{found->id,          false,         found->name,   found->position,
-                    found->description, found->price1, found->price2, found->formatName};
+    if (const auto* drink = catalogue().drink(category))
+        return beverageOf(findIn(*drink, product, formatName));
+    return catalogueProductAnywhere(product, formatName);
 }
 
 template <class List>
@@ -106,17 +110,21 @@ BrochureIntermediateData::beverageInfo(Int category, Int product, bool isCategor
     }
     if (!selected->second.contains(product))
         return std::nullopt;
-    auto base = catalogueProduct(category, product, formatName);
+    const auto here = catalogueProduct(category, product, formatName);
+    // The names of the formats serve all categories of a product, also those in which it has others.
+    const bool elsewhere = !here && formatName && product >= 1;
+    const auto base = elsewhere ? catalogueProductAnywhere(product, formatName) : here;
     auto user = findRecord(beverageProductInformation, product, formatName);
     if (user == beverageProductInformation.end() && !base && !formatName)
         user = findRecord(beverageProductInformation, product);
-    if (user == beverageProductInformation.end())
-        return base;
-    Beverage result = merged(*user, base);
+    const bool hasRecord = user != beverageProductInformation.end();
+    if (!hasRecord && !base)
+        return std::nullopt;
+    Beverage result = hasRecord ? merged(*user, base) : *base;
     // One record serves all categories of a product. Its name and place come from where it stands: a product
     // that left this category is nameless in it, also while another category still has it.
     if (product >= 1) {
-        const auto known = base ? base : catalogueProduct(category, product, std::nullopt);
+        const auto known = here ? here : catalogueProduct(category, product, std::nullopt);
         result.name = known ? known->name : std::string();
         result.position = known ? known->position : result.position;
     }

@@ -82,6 +82,20 @@ TEST_F(Drinks, AFormatOfTheUsersOwnKeepsTheProductsName) {
     EXPECT_TRUE(draft().selectedProductFormat.empty() && draft().beverageProductInformation.empty());
 }
 
+TEST_F(Drinks, FormatsOfOneCategoryStandInTheOthersOfTheProductToo) {
+    enter(BrochureType::menu);
+    catalogue.information.brochures->drinks.back().products.push_back(
+        {1, "Limonada", 5, 3.0, {}, {}, "Taza"});
+    useCatalogue();
+    draft().setBeverageSelected(true, {.identifier = 1, .formatName = "Vaso"}, 1);
+    EXPECT_TRUE(draft().setBeverageSelected(true, {.identifier = 1, .formatName = "Taza"}, 2));
+    EXPECT_EQ(product(1, 2, "Vaso"), (Beverage{1, false, "Limonada", 5, "Casera", 2.0, 2.5, "Vaso"}));
+    EXPECT_EQ(product(1, 1, "Taza"), (Beverage{1, false, "Limonada", 1, {}, 3.0, {}, "Taza"}));
+    EXPECT_EQ(product(1, 1, "Vaso"), (Beverage{1, false, "Limonada", 1, "Casera", 2.0, 2.5, "Vaso"}));
+    EXPECT_EQ(product(1, 2, "Taza")->price1, 3.0);
+    EXPECT_EQ(draft().makeOrder(OrderRequestType::saveCloud, false).menu.otherDrinks->size(), 2U);
+}
+
 TEST_F(Drinks, RemovingTakesTheUsersRecordsWithIt) {
     const Int own = draft().addBeverageCategory("Zumos");
     const Int juice = *draft().addBeverageProduct("Naranja", own);

@@ -180,17 +180,21 @@ TEST_F(LoadOrder, OwnCategoriesKeepTheirNumbersThroughEveryLoading) {
 
 // "Limonada" is of category 1 only: in category 2 it is what is left of a product that moved.
 TEST_F(LoadOrder, ADrinkIsNamelessWhereItLeftTheCategoryAndOnlyThere) {
-    const std::string here = R"({"category_id": 1, "category_position": 1, "other_products": [
-        {"product_format_id": 1, "product_format_position": 1, "sub_item_prices": [{"price_type": 1, "price": 2, "format_name": "Vaso"}]}]})";
-    std::string gone = here;
-    gone.replace(gone.find("\"category_id\": 1"), 16, "\"category_id\": 2");
-    for (const std::string& both : {here + "," + gone, gone + "," + here}) {
-        const auto& order =
-            load(document().set("menu.order_type", "2").set("menu.other_drinks", "[" + both + "]"));
-        for (const std::optional<std::string>& format :
-             {std::optional<std::string>(), std::optional<std::string>("Vaso")}) {
-            EXPECT_EQ(order.beverageInfo(1, 1, false, format)->name, "Limonada") << both;
-            EXPECT_EQ(order.beverageInfo(2, 1, false, format)->name, "") << both;
+    for (const std::string price : {"1", "2"}) { // of the first column; of one that isn't in use
+        const std::string here =
+            R"({"category_id": 1, "category_position": 1, "other_products": [
+                {"product_format_id": 1, "product_format_position": 1, "sub_item_prices": [{"price_type": )" +
+            price + R"(, "price": 2, "format_name": "Vaso"}]}]})";
+        std::string gone = here;
+        gone.replace(gone.find("\"category_id\": 1"), 16, "\"category_id\": 2");
+        for (const std::string& both : {here + "," + gone, gone + "," + here}) {
+            const auto& order =
+                load(document().set("menu.order_type", "2").set("menu.other_drinks", "[" + both + "]"));
+            for (const std::optional<std::string>& format :
+                 {std::optional<std::string>(), std::optional<std::string>("Vaso")}) {
+                EXPECT_EQ(order.beverageInfo(1, 1, false, format).value().name, "Limonada") << both;
+                EXPECT_EQ(order.beverageInfo(2, 1, false, format).value().name, "") << both;
+            }
         }
     }
 }
