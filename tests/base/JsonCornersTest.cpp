@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <random>
 
 namespace kavor {
@@ -29,9 +30,30 @@ struct Nest {
     Corner::Inner inner;
 };
 
+// Names as long as what is compared at a time, a letter more and less, and alike at both ends.
+struct Long {
+    Int seven = 0;
+    Int eight = 0;
+    Int nine = 0;
+    Int sixteen = 0;
+    Int alike = 0;
+    Int other = 0;
+    std::vector<Long> more;
+};
+
 } // namespace
 
 namespace json {
+template <>
+struct Table<Long> {
+    static constexpr auto fields = std::tuple{required("letters", &Long::seven),
+                                              required("lettersA", &Long::eight),
+                                              required("lettersAB", &Long::nine),
+                                              required("lettersABletters", &Long::sixteen),
+                                              required("lettersAB1lettersAB", &Long::alike),
+                                              required("lettersAB2lettersAB", &Long::other),
+                                              required("more", &Long::more)};
+};
 template <>
 struct Table<Corner::Inner> {
     static constexpr auto fields =
@@ -269,6 +291,48 @@ TEST(JsonCorners, KeysAreFoundInEveryOrderAndSpelling) {
         EXPECT_EQ(reading<Corner>(document + "}"),
                   R"({"id":7,"note":"\"id\":3","prices":[1.5],"inner":{"a":1,"b":2}})")
             << document;
+    }
+}
+
+TEST(JsonCorners, LongKeysAreToldApartByEveryLetter) {
+    std::mt19937 dice(12);
+    const std::function<std::string(int)> record = [&](int depth) {
+        std::vector<std::string> fields{
+            R"("letters":7)",
+            R"("lettersA":8)",
+            R"("lettersAB":9)",
+            R"("lettersABletters":16)",
+            R"("lettersAB1lettersAB":1)",
+            R"("lettersAB2lettersAB":2)",
+            R"("more":[)" + (depth > 0 ? record(depth - 1) + "," + record(depth - 1) : "") + "]"};
+        for (auto& field : fields) {
+            if (dice() % 3 == 0)
+                field.replace(field.find('e'), 1, "\\u0065");
+        }
+        // As long, and alike at both ends.
+        for (const char* other :
+             {R"("lettersAB3lettersAB":"3")", R"("lettersABLetters":null)", R"("lettersB":[])"}) {
+            if (dice() % 2 == 0)
+                fields.emplace_back(other);
+        }
+        std::ranges::shuffle(fields, dice);
+        std::string text = "{";
+        for (const auto& field : fields)
+            text += (text.size() > 1 ? "," : "") + field;
+        return text + "}";
+    };
+    const std::function<void(const Long&, int)> check = [&](const Long& read, int depth) {
+        EXPECT_EQ((std::array{read.seven, read.eight, read.nine, read.sixteen, read.alike, read.other}),
+                  (std::array<Int, 6>{7, 8, 9, 16, 1, 2}));
+        ASSERT_EQ(read.more.size(), depth > 0 ? 2U : 0U);
+        for (const auto& each : read.more)
+            check(each, depth - 1);
+    };
+    for (int i = 0; i < 100; ++i) {
+        const auto document = record(3);
+        const auto read = json::decode<Long>(document);
+        ASSERT_TRUE(read) << read.error().text() << document;
+        check(*read, 3);
     }
 }
 

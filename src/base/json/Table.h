@@ -152,7 +152,7 @@ bool readNegativeZero(Element element, double& out);
 bool ignore(Element element, Context& context);
 // A string without its quotes; the view lives as long as the document and its parser.
 bool readText(Element element, std::string_view& out);
-// A key of which all is known but its end; false when it is no string.
+// A key without its escapes; once for each key. The view lives as long as the parser.
 bool readKeyText(ondemand::field& field, std::string_view& out);
 
 inline bool isNull(Element element) {
