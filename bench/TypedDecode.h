@@ -3,7 +3,7 @@
 #include "base/json/Table.h"
 
 // A strict typed decode of the same records by the same tables over another library's document, as a
-// comparison. A Backend answers for its Value: isNull, readInteger, readUnsigned, readDouble, readBool,
+// comparison. A Backend answers for its Value: isNull, readInteger, readDouble, readBool,
 // readString, forEachItem, and find (a member by key, or nothing).
 namespace kavor::bench {
 

@@ -1,5 +1,7 @@
 #include "CommandContext.h"
 
+#include "base/json/Table.h"
+
 #include <QString>
 #include <QUtf8StringView>
 
@@ -39,6 +41,10 @@ std::string readText(const std::filesystem::path& file) {
 
 std::string utf8Text(const std::string& bytes) {
     return QUtf8StringView(bytes).isValidUtf8() ? bytes : QString::fromUtf8(bytes).toStdString();
+}
+
+std::string listText(const std::vector<std::string>& texts) {
+    return prettyText(texts);
 }
 
 } // namespace kavor::ctl

@@ -7,6 +7,7 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace kavor::ctl {
 
@@ -36,6 +37,7 @@ struct CommandContext {
     std::ostream& err;
     bool json = false;
     std::filesystem::path documents; // empty: the user's own
+    std::filesystem::path caches;    // empty: the user's own
     std::filesystem::path configuration;
     int status = fine;
 };
@@ -63,5 +65,8 @@ std::string prettyText(const Record& record) {
         throw CommandFailure(unreadableInput, text.error().text());
     return *text + "\n";
 }
+
+// A list of texts as a pretty document with a line feed at its end.
+std::string listText(const std::vector<std::string>& texts);
 
 } // namespace kavor::ctl

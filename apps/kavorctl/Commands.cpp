@@ -24,12 +24,14 @@ std::string faultOf(const CLI::App& program, const CLI::ParseError& error) {
 } // namespace
 
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
-    CommandContext context{out, err, false, {}, {}};
+    CommandContext context{out, err, false, {}, {}, {}};
     CLI::App program("Kavor's orders and catalogue without a window", "kavorctl");
     program.require_subcommand(1);
     program.fallthrough();
     withValue(
         program.add_option("--documents", context.documents, "the documents folder (default: the client's)"));
+    withValue(program.add_option("--caches", context.caches,
+                                 "the folder of pictures and fonts (default: the client's)"));
     withValue(program.add_option("--configuration", context.configuration,
                                  "the property list with the server's addresses"));
     program.add_flag("--json", context.json, "lists as JSON");
@@ -43,9 +45,9 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     try {
         program.parse(argc, argv);
     } catch (const CLI::CallForHelp& help) {
-        return program.exit(help, out, err);
+        program.exit(help, out, err);
     } catch (const CLI::CallForAllHelp& help) {
-        return program.exit(help, out, err);
+        program.exit(help, out, err);
     } catch (const CLI::ParseError& error) {
         return reportWrongUsage(err, faultOf(program, error));
     } catch (const CommandFailure& failure) {

@@ -23,8 +23,8 @@ AppSingleton& openFolders(const CommandContext& context) {
     session.compilation = "kavorctl";
     const auto documents =
         context.documents.empty() ? standardFolder(QStandardPaths::GenericDataLocation) : context.documents;
-    const auto caches = context.documents.empty() ? standardFolder(QStandardPaths::GenericCacheLocation)
-                                                  : context.documents / "caches";
+    const auto caches =
+        context.caches.empty() ? standardFolder(QStandardPaths::GenericCacheLocation) : context.caches;
     for (const auto& folder : {documents, caches}) {
         if (const auto made = atomic_file::makeFolder(folder); !made)
             throw CommandFailure(unreadableInput, made.error().text());

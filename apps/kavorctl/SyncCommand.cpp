@@ -5,6 +5,8 @@
 #include "device/LocalNotifications.h"
 #include "orders/services/OrderSyncManager.h"
 
+#include <QLockFile>
+
 #include <CLI/CLI.hpp>
 
 namespace kavor::ctl {
@@ -40,16 +42,39 @@ public:
     void cancelAll() override {}
 };
 
-void synchronise(const CommandContext& context) {
+// Whether a running client holds the folder. The lock is let go at once: the client may start at any time.
+bool isClientOpen(const std::filesystem::path& documents) {
+    QLockFile lock(QString::fromStdString((documents / "kavor.lock").string()));
+    lock.setStaleLockTime(0); // the owner's process decides, not the age
+    return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
+}
+
+void synchronise(CommandContext& context) {
     constexpr auto budget = TimerBackgroundTasks::Pace().budget;
     constexpr auto notificationDelay = std::chrono::milliseconds(1100); // each follows its answer by a second
     OnlineSession online(context);
+    if (isClientOpen(online.session.documentsFolder())) {
+        context.out << "Kavor está abierto y sincroniza él mismo.\n";
+        return;
+    }
     online.requireLogin();
+    online.requireNetwork();
     Progress progress(context.err, QStringLiteral("Sincronizando pedidos"));
     PrintedNotifications notifications(context.out, progress);
     NoBackgroundTasks tasks;
     OrderSyncManager manager({online.network, online.orders, notifications, NotificationCenter::shared(),
                               tasks, online.clock, [] {}, [] {}, [] {}});
+    const auto tell = [&](const std::string& line) {
+        context.status = requestFailed;
+        progress.around([&] { context.err << line << std::endl; });
+    };
+    QObject::connect(&manager, &OrderSyncManager::uploadFailed, &manager,
+                     [&](const QString& order, const RequestFailure& failure) {
+                         tell(requestFailure(order, failure).what());
+                     });
+    QObject::connect(&manager, &OrderSyncManager::identifierNotStored, &manager, [&](const QString& order) {
+        tell(order.toStdString() + ": sent, but its file could not be written: the next run sends it again");
+    });
     QEventLoop loop;
     const auto finish = [&] { online.clock.after(notificationDelay, &loop, [&loop] { loop.quit(); }); };
     QObject::connect(&manager, &OrderSyncManager::runAnswered, &loop, finish);
@@ -57,8 +82,7 @@ void synchronise(const CommandContext& context) {
         std::make_shared<BackgroundTask>(QLatin1String(OrderSyncManager::taskIdentifier), [](bool) {});
     // A draft whose token expired while another's was being repaired is never answered.
     online.clock.after(budget, &loop, [&] {
-        progress.around(
-            [&] { context.err << "kavorctl: the run expired before every draft was answered\n"; });
+        tell("kavorctl: the run expired before every draft was answered");
         task->expire();
         finish();
     });

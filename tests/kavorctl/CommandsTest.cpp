@@ -96,7 +96,13 @@ TEST_F(CommandsTest, ChecksAnOrderWithTheRulesOfTheClient) {
     EXPECT_EQ(bad.status, ctl::orderHasMessages);
     EXPECT_NE(bad.out.find("El email es obligatorio.\n"), std::string::npos) << bad.out;
     EXPECT_EQ(bad.out.back(), '\n');
+    const Outcome list = kavorctl(withSession({"order", "check", file, "--json"}));
+    std::string lines;
+    for (const auto& each : QJsonDocument::fromJson(QByteArray::fromStdString(list.out)).array())
+        lines += each.toString().toStdString() + "\n";
+    EXPECT_EQ(lines, bad.out);
     EXPECT_EQ(kavorctl(withSession({"order", "warnings", file})).status, ctl::fine);
+    EXPECT_EQ(kavorctl(withSession({"order", "warnings", file, "--json"})).out, "[]\n");
 }
 
 TEST_F(CommandsTest, NamesTheFileAndThePlaceOfAFault) {

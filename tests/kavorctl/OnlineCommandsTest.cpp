@@ -4,6 +4,8 @@
 #include "support/ScriptedServer.h"
 #include "support/TemporaryFolder.h"
 
+#include <QLockFile>
+
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -44,8 +46,8 @@ protected:
     }
 
     [[nodiscard]] Outcome online(std::vector<std::string> arguments) const {
-        arguments.insert(arguments.end(),
-                         {"--configuration", folder / "conf.plist", "--documents", documents});
+        arguments.insert(arguments.end(), {"--configuration", folder / "conf.plist", "--documents", documents,
+                                           "--caches", folder / "caches"});
         return kavorctl(arguments);
     }
     [[nodiscard]] Outcome logIn(const std::string& typed = "secreta\n") const {
@@ -133,6 +135,29 @@ TEST_F(OnlineCommandsTest, KeepsTheTokenOfARepairForTheNextProcess) {
     ASSERT_EQ(asked.size(), 3);
     EXPECT_EQ(asked[2].header("authorization"), "Bearer T2");
     EXPECT_EQ(server.requestsTo("/api/login").size(), 2);
+}
+
+TEST_F(OnlineCommandsTest, ARunSaysWhatWentUpAndWhatDidNot) {
+    putDraft("Uno");
+    EXPECT_EQ(online({"sync"}).status, ctl::requestFailed) << "nobody is logged in";
+    ASSERT_EQ(logIn().status, ctl::fine);
+    server.then("/api/orders", ScriptedAnswer::json(R"({"msg":"roto"})", 500));
+    const Outcome refused = online({"sync"});
+    EXPECT_EQ(refused.status, ctl::requestFailed);
+    EXPECT_EQ(refused.err, "Uno: roto (HTTP 500)\n");
+
+    server.answer("/api/orders", ScriptedAnswer::json(R"({"order_id":7})"));
+    QLockFile client(QString::fromStdString((documents / "kavor.lock").string()));
+    ASSERT_TRUE(client.tryLock());
+    EXPECT_EQ(online({"sync"}).out, "Kavor está abierto y sincroniza él mismo.\n");
+    EXPECT_EQ(server.requestsTo("/api/orders").size(), 1);
+    client.unlock();
+
+    const Outcome sent = online({"sync"});
+    EXPECT_EQ(sent.status, ctl::fine) << sent.err;
+    EXPECT_EQ(sent.out, "Pedido guardado: Su pedido Uno se ha sincronizado.\n");
+    EXPECT_EQ(online({"sync"}).out, "");
+    EXPECT_EQ(server.requestsTo("/api/orders").size(), 2);
 }
 
 // A folder in a file's place refuses the write, whoever runs the tests.

@@ -153,6 +153,33 @@ TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServ
     EXPECT_EQ(outcome, true) << "a run whose last order failed is over";
 }
 
+TEST_F(OrderSyncManagerTest, AnOrderWhoseNumberTheDiskRefusedIsNotSentAgainUntilItIsAnotherOne) {
+    draft("Bar Nube");
+    const auto file = folder.path() / "orders" / "draft_orders" / SaveBrochuresOrder::folderName / "Bar Nube.zvo";
+    int refused = 0;
+    QObject::connect(&manager, &OrderSyncManager::identifierNotStored, &manager, [&] { ++refused; });
+    auto& sent = services.requests.saveOrder.calls;
+    const auto run = [&] {
+        manager.handleBrochureSync(std::make_shared<BackgroundTask>(QString(), [](bool) {}));
+    };
+    run();
+    ASSERT_EQ(sent.size(), 1U);
+    std::filesystem::rename(file, folder.path() / "kept");
+    std::filesystem::create_directories(file / "x"); // refuses the write
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_EQ(refused, 1);
+    std::filesystem::remove_all(file);
+    std::filesystem::rename(folder.path() / "kept", file);
+
+    run();
+    EXPECT_EQ(sent.size(), 1U);
+    EXPECT_EQ(storedIdentifier("Bar Nube"), 77);
+    std::filesystem::remove(file);
+    draft("Bar Nube");
+    run();
+    EXPECT_EQ(sent.size(), 2U) << "a new draft of the same name";
+}
+
 TEST_F(OrderSyncManagerTest, ARunWithoutDraftsEndsOnlyByExpiryAndABrokenDraftStopsIt) {
     std::optional<bool> outcome;
     auto task =

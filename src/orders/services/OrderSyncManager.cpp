@@ -33,6 +33,12 @@ std::string bytesOf(const SaveBrochuresOrder& order) {
     return *text;
 }
 
+// The bytes of an order as its file gives it back: who prints is never read.
+std::string bytesAsRead(SaveBrochuresOrder order) {
+    order.printedMyself = false;
+    return bytesOf(order);
+}
+
 } // namespace
 
 struct OrderSyncManager::Run {
@@ -89,12 +95,33 @@ void OrderSyncManager::finishForegroundUpload(SaveBrochuresOrder order, Int orde
 }
 
 // The identifier also goes to the shared draft, whichever order that holds by now: the system has it so.
-void OrderSyncManager::storeIdentifier(SaveBrochuresOrder& order, Int orderId) {
+// False when the file could not take it.
+bool OrderSyncManager::storeIdentifier(SaveBrochuresOrder& order, Int orderId) {
+    const std::string sent = bytesAsRead(order);
     order.orderIdentifier = orderId;
     BrochureIntermediateData::temporalBrochure()->orderIdentifier = orderId;
     if (!order.filename)
         stopProcess("file name of the synchronised order");
-    services_.orders.update(order, OrderDiskManager::fileName(*order.filename), DirectoryName::draft);
+    const bool stored =
+        services_.orders.update(order, OrderDiskManager::fileName(*order.filename), DirectoryName::draft);
+    if (stored)
+        unstored_.erase(*order.filename);
+    else
+        unstored_[*order.filename] = {sent, orderId};
+    return stored;
+}
+
+// Whether the server has the order, which a full disk could not take down. The file gets its number now, if
+// it can; it is not sent a second time.
+bool OrderSyncManager::catchUp(const SaveBrochuresOrder& order) {
+    const auto found = unstored_.find(order.filename.value_or(""));
+    if (found == unstored_.end() || found->second.bytes != bytesAsRead(order))
+        return false;
+    SaveBrochuresOrder known = order;
+    known.orderIdentifier = found->second.orderId;
+    if (services_.orders.update(known, OrderDiskManager::fileName(*order.filename), DirectoryName::draft))
+        unstored_.erase(found);
+    return true;
 }
 
 void OrderSyncManager::scheduleBrochureSync() {
@@ -115,7 +142,7 @@ void OrderSyncManager::handleBrochureSync(const std::shared_ptr<BackgroundTask>&
         auto order = services_.orders.retrieve<SaveBrochuresOrder>(file.fileName, DirectoryName::draft);
         if (!order)
             stopProcess("draft " + file.fileName + " that can be read");
-        if (!order->orderIdentifier && taken.size() < ordersPerRun)
+        if (!order->orderIdentifier && taken.size() < ordersPerRun && !catchUp(*order))
             taken.push_back(std::move(*order));
     }
     const auto run = std::make_shared<Run>(Run{task, taken.empty() ? std::string() : bytesOf(taken.back())});
@@ -130,12 +157,16 @@ void OrderSyncManager::uploadOfRun(const SaveBrochuresOrder& order, const std::s
     const auto succeeded = [this, order, run](const SaveBrochuresOrderResponse& answer) {
         SaveBrochuresOrder sent = order;
         if (answer.orderId) {
-            storeIdentifier(sent, *answer.orderId);
+            if (!storeIdentifier(sent, *answer.orderId))
+                emit identifierNotStored(nameOf(sent));
             notifySynchronised(sent, {});
         }
         answeredOfRun(sent, run);
     };
-    const auto failed = [this, order, run](const RequestFailure&) { answeredOfRun(order, run); };
+    const auto failed = [this, order, run](const RequestFailure& failure) {
+        emit uploadFailed(nameOf(order), failure);
+        answeredOfRun(order, run);
+    };
     services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed));
 }
 

@@ -10,7 +10,9 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 
 namespace kavor {
 
@@ -19,6 +21,7 @@ class Clock;
 class LocalNotifications;
 class OrderDiskManager;
 class ServiceOperations;
+struct RequestFailure;
 
 // Brings brochure drafts to the server's cloud: the current draft when a save in front of the user could not,
 // and, in background runs, up to two files that never reached the server. Textile drafts, selling sheets and
@@ -57,6 +60,10 @@ public:
 signals:
     // Every upload of a background run has been answered; its task may still wait for its expiry.
     void runAnswered();
+    // An order of a background run did not reach the server.
+    void uploadFailed(const QString& order, const kavor::RequestFailure& failure);
+    // An order reached the server, and its file could not take the number that it has there.
+    void identifierNotStored(const QString& order);
 
 private:
     struct Run;
@@ -66,7 +73,8 @@ private:
     void finishForegroundUpload(SaveBrochuresOrder order, Int orderId);
     void uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
     void answeredOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
-    void storeIdentifier(SaveBrochuresOrder& order, Int orderId);
+    bool storeIdentifier(SaveBrochuresOrder& order, Int orderId);
+    bool catchUp(const SaveBrochuresOrder& order);
     void notifySynchronised(const SaveBrochuresOrder& order, const QString& category);
     void sendLocalNotification(const QString& title, const QString& body, const QVariantMap& userInfo,
                                const QString& category);
@@ -77,6 +85,13 @@ private:
     Collaborators services_;
     quint64 backgroundTaskID_ = 0; // 0: invalid
     int answersAwaited_ = 0;
+
+    // Orders that reached the server while the disk took no more, by their file names: as they were sent.
+    struct Unstored {
+        std::string bytes;
+        Int orderId;
+    };
+    std::map<std::string, Unstored> unstored_;
 };
 
 } // namespace kavor
