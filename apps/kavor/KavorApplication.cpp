@@ -30,7 +30,6 @@
 #include "orders/OrderDiskManager.h"
 #include "orders/services/OrderSyncManager.h"
 #include "shell/AppSingleton.h"
-#include "shell/StateFile.h"
 #include "shell/screens/Artwork.h"
 #include "shell/screens/ResourceImages.h"
 #include "shell/screens/RootController.h"
@@ -43,13 +42,11 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QQmlComponent>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QStyleHints>
 
 #include <utility>
-#include <vector>
 
 // In a static library nothing else would keep it.
 static void initialiseConfiguration() {
@@ -83,37 +80,12 @@ AppSingleton& openSession(const KavorOptions& options) {
     return session;
 }
 
-std::vector<const char*> firstScreens(const KavorOptions& options) {
-    std::error_code error;
-    const auto session = options.documents / std::string(state_file::loginResult);
-    if (std::filesystem::exists(session, error))
-        return {"MainWindow", "WelcomeView"};
-    return {"MainWindow", "LoginView"};
-}
-
-// An engine in which the types of the first screens are on their way: a thread of the engine's loads them
-// while the rest of the client is made.
-std::unique_ptr<QQmlApplicationEngine> beginLoadingScreens(const KavorOptions& options) {
-    auto engine = std::make_unique<QQmlApplicationEngine>();
-    registerUi(*engine);
-    registerScreens(*engine);
-    for (const char* view : firstScreens(options))
-        new QQmlComponent(engine.get(), screenView(view), QQmlComponent::Asynchronous, engine.get());
-    return engine;
-}
-
-// A component that is not asynchronous waits for its types.
-void finishLoadingScreens(QQmlApplicationEngine& engine, const KavorOptions& options) {
-    for (const char* view : firstScreens(options))
-        const QQmlComponent loaded(&engine, screenView(view));
-}
-
 } // namespace
 
 // All collaborators, each after those that it uses.
 struct KavorApplication::Parts {
     Parts(const KavorOptions& options, NetworkConfiguration configuration,
-          std::unique_ptr<SessionStore> reading, std::unique_ptr<QQmlApplicationEngine> loading)
+          std::unique_ptr<SessionStore> reading)
         : session(openSession(options))
         , sessions(std::move(reading))
         , defaults(options.documents / "UserDefaults")
@@ -146,8 +118,7 @@ struct KavorApplication::Parts {
                  alerts, urls, clock, reachability},
                 [this](const QString& transition, const std::function<void()>& close) {
                     return makeSectionScreen(transition, wizard, close);
-                }})
-        , engine(std::move(loading)) {}
+                }}) {}
 
     AppSingleton& session;
     NotificationCenter& notifications = NotificationCenter::shared();
@@ -178,7 +149,7 @@ struct KavorApplication::Parts {
     CatalogueUpdate catalogue;
     WizardServices wizard;
     RootController root;
-    std::unique_ptr<QQmlApplicationEngine> engine;
+    QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;
 };
 
@@ -210,9 +181,7 @@ std::unique_ptr<SessionStore> KavorApplication::beginReading(const KavorOptions&
 KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfiguration configuration,
                                    std::unique_ptr<SessionStore> sessions)
     : options_(options)
-    , parts_(std::make_unique<Parts>(options, std::move(configuration), std::move(sessions),
-                                     beginLoadingScreens(options))) {
-    useBundledFonts();
+    , parts_(std::make_unique<Parts>(options, std::move(configuration), std::move(sessions))) {
     // Two quick taps are two taps: a touch screen would swallow the second one as a double click.
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
     if (options.offline)
@@ -239,15 +208,14 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
 KavorApplication::~KavorApplication() = default;
 
 bool KavorApplication::start() {
-    QQmlApplicationEngine& engine = *parts_->engine;
-    engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));
-    engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&parts_->root)}});
-    // The engine's first load changes what its thread reads while it loads types.
-    finishLoadingScreens(engine, options_);
-    engine.load(screenView("MainWindow"));
-    if (engine.rootObjects().isEmpty())
+    registerUi(parts_->engine);
+    registerScreens(parts_->engine);
+    parts_->engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));
+    parts_->engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&parts_->root)}});
+    parts_->engine.load(screenView("MainWindow"));
+    if (parts_->engine.rootObjects().isEmpty())
         return false;
-    parts_->window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    parts_->window = qobject_cast<QQuickWindow*>(parts_->engine.rootObjects().constFirst());
     parts_->root.setWindow(parts_->window, !qEnvironmentVariableIsSet("KAVOR_NO_ANIMATION"));
     openWindow();
     parts_->application.didFinishLaunching();

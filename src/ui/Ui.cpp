@@ -3,22 +3,19 @@
 #include "ui/PdfPageProvider.h"
 
 #include <QFontDatabase>
-#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QQmlEngine>
+
+#include <initializer_list>
 
 // Written by the build. In a static library nothing else would keep them.
 extern void qml_register_types_Kavor_Ui();
 
 static void initialiseResources() {
-    static const bool once = [] {
-        Q_INIT_RESOURCE(qmake_Kavor_Ui);
-        Q_INIT_RESOURCE(kavor_ui_raw_qml_0);
-        Q_INIT_RESOURCE(kavor_ui_assets);
-        Q_INIT_RESOURCE(qmlcache_kavor_ui);
-        return true;
-    }();
-    Q_UNUSED(once);
+    Q_INIT_RESOURCE(qmake_Kavor_Ui);
+    Q_INIT_RESOURCE(kavor_ui_raw_qml_0);
+    Q_INIT_RESOURCE(kavor_ui_assets);
+    Q_INIT_RESOURCE(qmlcache_kavor_ui);
 }
 
 namespace kavor {
@@ -34,27 +31,21 @@ void addFonts() {
     QFont font(QStringLiteral("Roboto"));
     font.setPixelSize(15);
     QGuiApplication::setFont(font);
-    // The first text has the system look through all its fonts: here, and not while the window is made.
-    static_cast<void>(QFontMetrics(font).height());
 }
 
 } // namespace
 
 void registerUi(QQmlEngine& engine) {
-    initialiseResources();
-    volatile auto registration = &qml_register_types_Kavor_Ui;
-    Q_UNUSED(registration);
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.addImageProvider(PdfPageProvider::name(), new PdfPageProvider);
-}
-
-void useBundledFonts() {
     static const bool once = [] {
         initialiseResources();
+        volatile auto registration = &qml_register_types_Kavor_Ui;
+        Q_UNUSED(registration);
         addFonts();
         return true;
     }();
     Q_UNUSED(once);
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImageProvider(PdfPageProvider::name(), new PdfPageProvider);
 }
 
 } // namespace kavor

@@ -5,11 +5,7 @@ class QQmlEngine;
 namespace kavor {
 
 // Makes "import Kavor.Ui" work in this engine: types, resources, import path, the image provider of the PDF
-// preview.
+// preview, and (once for each process) the bundled fonts, which become the application's font.
 void registerUi(QQmlEngine& engine);
-
-// Makes the bundled fonts known, and one of them the application's font; the first call of a process does
-// it. To be made before the first window.
-void useBundledFonts();
 
 } // namespace kavor

@@ -91,7 +91,6 @@ int main(int argc, char* argv[]) {
 
     QQmlApplicationEngine engine;
     kavor::registerUi(engine);
-    kavor::useBundledFonts();
     QTemporaryDir paper;
     kavor::writeGalleryPictures(paper.path());
     kavor::writeGalleryPdf(paper.filePath(QStringLiteral("menu.pdf")));

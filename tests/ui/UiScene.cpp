@@ -44,7 +44,6 @@ UiScene::UiScene(const QString& content, QSize size, const QHash<QString, QObjec
     warningsOfScene = &warnings_;
     qInstallMessageHandler(keepWarning);
     registerUi(engine_);
-    useBundledFonts();
     for (auto it = context.begin(); it != context.end(); ++it)
         engine_.rootContext()->setContextProperty(it.key(), it.value());
     const QString whole =
