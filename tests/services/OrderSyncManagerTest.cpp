@@ -155,7 +155,8 @@ TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServ
 
 TEST_F(OrderSyncManagerTest, AnOrderWhoseNumberTheDiskRefusedIsNotSentAgainUntilItIsAnotherOne) {
     draft("Bar Nube");
-    const auto file = folder.path() / "orders" / "draft_orders" / SaveBrochuresOrder::folderName / "Bar Nube.zvo";
+    const auto file =
+        folder.path() / "orders" / "draft_orders" / SaveBrochuresOrder::folderName / "Bar Nube.zvo";
     int refused = 0;
     QObject::connect(&manager, &OrderSyncManager::identifierNotStored, &manager, [&] { ++refused; });
     auto& sent = services.requests.saveOrder.calls;
