@@ -67,6 +67,7 @@ BeerBrand beerBrandOf(const Draft& draft, Int brand, const Draft::Prices::mapped
                      product->name,
                      product->description,
                      {}};
+    result.beers.reserve(formats.size());
     for (const auto& [format, prices] : formats) {
         const auto* record = catalogue().format(brand, format);
         const auto isNew = draft.isNewProduct(format, brand);
@@ -77,6 +78,7 @@ BeerBrand beerBrandOf(const Draft& draft, Int brand, const Draft::Prices::mapped
         beer.productType = record->typeId;
         beer.isNew = *isNew;
         beer.volume = draft.volumeOf(format, brand);
+        beer.prices.reserve(prices.size());
         for (const auto& [type, price] : prices)
             beer.prices.push_back({static_cast<Int>(type), price});
     }
@@ -208,7 +210,9 @@ SaveBrochuresOrder::Menu BrochureIntermediateData::menuOf(OrderRequestType save,
                                             {logos->secondIdentifier, logos->secondPosition},
                                             {logos->thirdIdentifier, logos->thirdPosition}};
     }
-    for (const auto& [brand, formats] : validate ? filtered.brandPrices : brandPrices)
+    const Prices& prices = validate ? filtered.brandPrices : brandPrices;
+    menu.beerBrands.reserve(prices.size());
+    for (const auto& [brand, formats] : prices)
         menu.beerBrands.push_back(beerBrandOf(*this, brand, formats));
     menu.productPennant = productPennant;
     menu.otherDrinks = otherDrinksOf(*this, menu.orderType, save);
