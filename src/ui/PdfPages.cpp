@@ -27,11 +27,10 @@ Loaded loadDocument(QByteArray bytes, const QString& path) {
             return {};
         bytes = file.readAll();
     }
-    auto document = std::make_shared<PdfDocument>(std::move(bytes));
+    const auto document = std::make_shared<PdfDocument>(std::move(bytes));
     if (!document->isReadable())
         return {};
-    const QList<QSizeF> sizes = document->pageSizes();
-    return {PdfRegistry::add(std::move(document)), sizes};
+    return {PdfRegistry::add(document), document->pageSizes()};
 }
 
 } // namespace
