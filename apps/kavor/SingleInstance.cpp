@@ -1,5 +1,7 @@
 #include "kavor/SingleInstance.h"
 
+#include "shell/StateFile.h"
+
 #include <QCryptographicHash>
 #include <QLocalSocket>
 
@@ -20,7 +22,7 @@ QString nameFor(const QString& folder) {
 SingleInstance::SingleInstance(const std::filesystem::path& documents, QObject* parent)
     : QObject(parent)
     , name_(nameFor(QString::fromStdString(documents.string())))
-    , lock_(QString::fromStdString((documents / "kavor.lock").string())) {
+    , lock_(QString::fromStdString((documents / std::string(state_file::clientLock)).string())) {
     lock_.setStaleLockTime(0); // the owner's process decides, not the age
     first_ = lock_.tryLock(0);
     if (!first_)

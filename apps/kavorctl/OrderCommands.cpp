@@ -15,10 +15,10 @@ using Inputs = std::shared_ptr<OrderInputs>;
 
 // The messages one per line or as a list of texts; they are what the exit status tells of.
 void printMessages(CommandContext& context, const std::vector<std::string>& messages) {
-    if (context.json)
+    if (context.json) {
         context.out << listText(messages);
-    for (const std::string& message : messages) {
-        if (!context.json)
+    } else {
+        for (const std::string& message : messages)
             context.out << message << '\n';
     }
     context.status = messages.empty() ? fine : orderHasMessages;

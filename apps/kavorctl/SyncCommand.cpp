@@ -4,6 +4,7 @@
 #include "device/BackgroundTasks.h"
 #include "device/LocalNotifications.h"
 #include "orders/services/OrderSyncManager.h"
+#include "shell/StateFile.h"
 
 #include <QLockFile>
 
@@ -44,7 +45,7 @@ public:
 
 // Whether a running client holds the folder. The lock is let go at once: the client may start at any time.
 bool isClientOpen(const std::filesystem::path& documents) {
-    QLockFile lock(QString::fromStdString((documents / "kavor.lock").string()));
+    QLockFile lock(QString::fromStdString((documents / std::string(state_file::clientLock)).string()));
     lock.setStaleLockTime(0); // the owner's process decides, not the age
     return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
 }

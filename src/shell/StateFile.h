@@ -16,6 +16,8 @@ inline constexpr std::string_view loginResult = "ZQLOGINRESULT";
 inline constexpr std::string_view applicationInformation = "ZQAPPLICATIONINFORMATION";
 inline constexpr std::string_view netPrices = "netPrices";
 inline constexpr std::string_view temporalBrochure = "temporalBrochure";
+// The lock of the client that is running over the folder.
+inline constexpr std::string_view clientLock = "kavor.lock";
 
 // Reads a state file; a file that is missing or doesn't decode reads as absent. The log names the place of a
 // fault.
