@@ -208,6 +208,7 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
 KavorApplication::~KavorApplication() = default;
 
 bool KavorApplication::start() {
+    parts_->fonts.addStored(parts_->fontUpdater.folder()); // before anything is drawn
     registerUi(parts_->engine);
     registerScreens(parts_->engine);
     parts_->engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));

@@ -32,7 +32,8 @@ tl::expected<KavorOptions, std::string> KavorOptions::read(const QStringList& ar
                        {"caches", {}, "DIR"},
                        {"size", {}, "WxH"},
                        {"offline", {}},
-                       {{"h", "help"}, {}}});
+                       {{"h", "help"}, {}},
+                       {{"v", "version"}, {}}});
     if (!parser.parse(QStringList(QStringLiteral("kavor")) + arguments))
         return tl::unexpected("kavor: " + parser.errorText().toStdString());
 
@@ -45,6 +46,7 @@ tl::expected<KavorOptions, std::string> KavorOptions::read(const QStringList& ar
                                             : standardFolder(QStandardPaths::GenericCacheLocation);
     options.offline = parser.isSet("offline");
     options.help = parser.isSet("help");
+    options.version = parser.isSet("version");
     if (parser.isSet("size")) {
         options.size = sizeFrom(parser.value("size"));
         if (!options.size)
@@ -67,7 +69,12 @@ std::string KavorOptions::helpText() {
            "  --documents DIR       folder of the session, drafts and orders\n"
            "  --caches DIR          folder of pictures, fonts and documents that can be fetched again\n"
            "  --size WxH            size of the window\n"
-           "  --offline             works as if there were no network\n";
+           "  --offline             works as if there were no network\n"
+           "  --help, --version\n";
+}
+
+std::string KavorOptions::versionText() {
+    return "kavor " KAVOR_VERSION "." KAVOR_COMPILATION "\n";
 }
 
 } // namespace kavor

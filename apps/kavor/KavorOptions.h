@@ -19,10 +19,12 @@ struct KavorOptions {
     bool offline = false;
     QStringList urls; // "kavor://...", opened after the launch
     bool help = false;
+    bool version = false;
 
     // Reads the command line, without the program's name. The error is one line.
     static tl::expected<KavorOptions, std::string> read(const QStringList& arguments);
     static std::string helpText();
+    static std::string versionText();
 };
 
 } // namespace kavor

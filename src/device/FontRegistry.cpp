@@ -1,9 +1,13 @@
 #include "device/FontRegistry.h"
 
-#include <QFontDatabase>
-#include <QRawFont>
+#include "base/AtomicFile.h"
 
-#include <utility>
+#include <QCryptographicHash>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
 
 namespace kavor {
 
@@ -11,50 +15,98 @@ namespace {
 
 constexpr qreal lookUpSize = 17;
 
+QByteArray digestOf(const QByteArray& data) {
+    return QCryptographicHash::hash(data, QCryptographicHash::Sha256);
+}
+
+// The glyphs of one line on its base line, and how far they reach.
+struct Line {
+    QPainterPath path;
+    qreal width = 0;
+};
+
+Line lineOf(const QRawFont& font, const QString& text) {
+    Line line;
+    const QList<quint32> glyphs = font.glyphIndexesForString(text);
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs);
+    for (qsizetype i = 0; i < glyphs.size(); ++i) {
+        line.path.addPath(font.pathForGlyph(glyphs[i]).translated(line.width, 0));
+        line.width += advances[i].x();
+    }
+    return line;
+}
+
 } // namespace
 
-FontRegistry::~FontRegistry() {
-    for (const Entry& entry : std::as_const(fonts_))
-        QFontDatabase::removeApplicationFont(entry.id);
+void FontRegistry::addStored(const std::filesystem::path& folder) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const auto content = atomic_file::read(entry.path());
+        if (!content)
+            continue;
+        const QByteArray data = QByteArray::fromStdString(*content);
+        const QRawFont raw(data, lookUpSize);
+        const QByteArray digest = digestOf(data);
+        if (!raw.isValid() || stored_.contains(digest))
+            continue;
+        const QStringList families =
+            QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFontFromData(data));
+        if (families.isEmpty())
+            continue;
+        QFont font(families.first());
+        font.setWeight(QFont::Weight(raw.weight()));
+        font.setStyle(raw.style());
+        stored_.insert(digest, font);
+    }
 }
 
 bool FontRegistry::registerFont(const QString& name, const QByteArray& data) {
+    const QByteArray digest = digestOf(data);
+    if (const auto found = fonts_.constFind(name); found != fonts_.constEnd() && found->digest == digest)
+        return true;
     const QRawFont raw(data, lookUpSize);
     if (!raw.isValid())
         return false;
-    const int id = QFontDatabase::addApplicationFontFromData(data);
-    const QStringList families = QFontDatabase::applicationFontFamilies(id);
-    if (families.isEmpty()) {
-        QFontDatabase::removeApplicationFont(id);
-        return false;
-    }
-    unregisterFont(name);
-    QFont font(families.first());
-    font.setWeight(QFont::Weight(raw.weight()));
-    font.setStyle(raw.style());
-    fonts_.insert(name, {id, font});
+    fonts_.insert(name, {digest, raw});
     emit changed(name);
     return true;
 }
 
 void FontRegistry::unregisterFont(const QString& name) {
-    if (!fonts_.contains(name))
-        return;
-    QFontDatabase::removeApplicationFont(fonts_.take(name).id);
-    emit changed(name);
+    if (fonts_.remove(name))
+        emit changed(name);
 }
 
 std::optional<QFont> FontRegistry::font(const QString& name, int pixelSize) const {
-    const auto found = fonts_.constFind(name);
-    if (found == fonts_.constEnd())
+    const auto stored = stored_.constFind(fonts_.value(name).digest);
+    if (stored == stored_.constEnd())
         return std::nullopt;
-    QFont font = found->font;
+    QFont font = *stored;
     font.setPixelSize(pixelSize);
     return font;
 }
 
 QString FontRegistry::family(const QString& name) const {
-    return fonts_.value(name).font.family();
+    const auto found = font(name, int(lookUpSize));
+    return found ? found->family() : QString();
+}
+
+QImage FontRegistry::picture(const QString& name, const QString& text, int pixelSize, QColor colour) const {
+    QRawFont raw = fonts_.value(name).raw;
+    if (!raw.isValid() || pixelSize <= 0)
+        return {};
+    raw.setPixelSize(pixelSize);
+    const Line line = lineOf(raw, text);
+    if (line.width <= 0)
+        return {};
+    QImage image(int(std::ceil(line.width)), int(std::ceil(raw.ascent() + raw.descent())),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(0, raw.ascent());
+    painter.fillPath(line.path, colour);
+    return image;
 }
 
 } // namespace kavor

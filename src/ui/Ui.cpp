@@ -22,13 +22,18 @@ namespace kavor {
 
 namespace {
 
+// The fonts of the client, and behind them two that draw the signs and the emoji that users type, so that
+// none shows as an empty box on a system without fonts of its own.
 void addFonts() {
-    for (const char* weight : {"Regular", "Medium", "Bold"}) {
-        if (QFontDatabase::addApplicationFont(QStringLiteral(":/kavor/ui/fonts/Roboto-%1.ttf").arg(weight)) <
-            0)
-            qWarning("the bundled font Roboto %s cannot be read", weight);
+    for (const char* file :
+         {"Roboto-Regular", "Roboto-Medium", "Roboto-Bold", "KavorSymbols", "NotoEmoji-Regular"}) {
+        if (QFontDatabase::addApplicationFont(
+                QStringLiteral(":/kavor/ui/fonts/%1.ttf").arg(QLatin1String(file))) < 0)
+            qWarning("the bundled font %s cannot be read", file);
     }
-    QFont font(QStringLiteral("Roboto"));
+    const QString family = QStringLiteral("Roboto");
+    QFont::insertSubstitutions(family, {QStringLiteral("Kavor Symbols"), QStringLiteral("Noto Emoji")});
+    QFont font(family);
     font.setPixelSize(15);
     QGuiApplication::setFont(font);
 }

@@ -35,7 +35,7 @@ protected:
         EXPECT_FALSE(finished);
         EXPECT_TRUE(waitFor([&] { return finished; }));
     }
-    [[nodiscard]] bool registered(const QString& name) const { return registry.font(name, 17).has_value(); }
+    [[nodiscard]] bool registered(const QString& name) const { return registry.isRegistered(name); }
 
     const std::string roboto = contentOf(KAVOR_FONTS "/Roboto-Regular.ttf");
     TemporaryFolder caches;

@@ -8,6 +8,7 @@
 #include "orders/OrderDiskManager.h"
 #include "shell/AppSingleton.h"
 #include "shell/screens/RootController.h"
+#include "support/WindowWatch.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -102,6 +103,7 @@ int Tour::run() {
         try {
             (this->*step.action)();
             remember();
+            checkWindow();
         } catch (const std::exception& failure) {
             std::fprintf(stderr, "tour: step \"%s\" failed: %s\n", step.name, failure.what());
             if (application_ && application_->window() != nullptr)
@@ -121,6 +123,12 @@ int Tour::run() {
         }
     }
     return 0;
+}
+
+void Tour::checkWindow() const {
+    must(!options_.realWindow || watch_->hasThreadOfItsOwn(),
+         QStringLiteral("a thread of its own draws the window"));
+    must(watch_->fontChanges() == 0, QStringLiteral("the font database stays as it is"));
 }
 
 // Keeps the document of the draft whenever it changed.
@@ -178,6 +186,7 @@ void Tour::start() {
     must(configuration.has_value(), QString::fromStdString(configuration ? "" : configuration.error()));
     application_ = std::make_unique<KavorApplication>(client, std::move(*configuration));
     must(application_->start(), QStringLiteral("the window opens"));
+    watch_ = std::make_unique<WindowWatch>(*application_->window());
     touch_ = std::make_unique<TouchDriver>(*application_->window());
     must(QTest::qWaitForWindowExposed(application_->window()), QStringLiteral("the window shows"));
     touch_->await(QStringLiteral("emailTextField"));

@@ -13,6 +13,7 @@
 namespace kavor {
 
 class KavorApplication;
+class WindowWatch;
 
 // The main job on the real client, with touches and key strokes, against the demonstration server: from a
 // wrong password to a printed menu, and the same once more without a network. Every step checks what the
@@ -24,7 +25,8 @@ public:
         QString documents;     // of the client
         QString killAfterStep; // the process kills itself after this step; empty for none
         bool pictures = true;
-        bool everyKind = false; // orders one brochure of every kind instead of the main job
+        bool realWindow = false; // the window must be drawn by a thread of its own
+        bool everyKind = false;  // orders one brochure of every kind instead of the main job
     };
 
     explicit Tour(Options options);
@@ -65,10 +67,12 @@ private:
     // A picture at each of the three sizes, numbered.
     void shot(const QString& name);
     void remember();
+    void checkWindow() const;
 
     Options options_;
     std::unique_ptr<DemoServerProcess> server_;
     std::unique_ptr<KavorApplication> application_;
+    std::unique_ptr<WindowWatch> watch_;
     std::unique_ptr<TouchDriver> touch_;
     std::vector<std::string> documents_; // the draft after each action
     int shots_ = 0;

@@ -6,18 +6,33 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
+
+namespace {
+
+// Asked of the plain arguments: how the window draws is settled before there is an application object.
+bool isAsked(const char* option, int argc, char* argv[]) {
+    return std::any_of(argv + 1, argv + argc,
+                       [&](const char* given) { return std::strcmp(given, option) == 0; });
+}
+
+} // namespace
 
 // kavor-tour DIR                       the main job by itself; pictures, the order and the PDF go to DIR
 //   --documents DIR                    the client's documents folder (default: a temporary one)
 //   --kill-after STEP                  the process kills itself after a step
 //   --every-kind                       an order of every kind of brochure instead
+//   --window                           in a real window that a thread of its own draws, as users have it
 //   --check-killed                     a new start after that: is the draft still there?
 int main(int argc, char* argv[]) {
+    const bool realWindow = isAsked("--window", argc, argv);
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
         !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
+    if (!realWindow)
+        qputenv("QT_QUICK_BACKEND", "software");
     qputenv("KAVOR_NO_ANIMATION", "1");
     qputenv("KAVOR_KEYCHAIN", "file");
     kavor::KavorApplication::prepareProcess();
@@ -29,6 +44,7 @@ int main(int argc, char* argv[]) {
                        {"kill-after", {}, "STEP"},
                        {"check-killed", {}},
                        {"no-pictures", {}},
+                       {"window", {}},
                        {"every-kind", {}}});
     parser.addHelpOption();
     parser.process(application);
@@ -45,6 +61,7 @@ int main(int argc, char* argv[]) {
         return kavor::checkKilledDraft(options.folder, options.documents);
     options.killAfterStep = parser.value("kill-after");
     options.everyKind = parser.isSet("every-kind");
+    options.realWindow = realWindow;
     options.pictures = !parser.isSet("no-pictures");
     const int status = kavor::Tour(options).run();
     if (status == 0)

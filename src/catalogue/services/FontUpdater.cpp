@@ -110,7 +110,7 @@ void FontUpdater::leave(const std::shared_ptr<Run>& run) {
             this, [this, run] { registerNext(run); }, Qt::QueuedConnection);
 }
 
-// One font for each turn of the event loop, so that the window stays alive.
+// One font after the other; the files are read beside the window's thread.
 void FontUpdater::registerNext(const std::shared_ptr<Run>& run) {
     if (run->next == run->typographies.size()) {
         if (run->finished)
@@ -118,19 +118,20 @@ void FontUpdater::registerNext(const std::shared_ptr<Run>& run) {
         return;
     }
     const Textile::Typography& typography = run->typographies[run->next++];
-    if (!registerFont(typography))
-        logLine("Error registering font " + typography.mimetype);
-    QMetaObject::invokeMethod(
-        this, [this, run] { registerNext(run); }, Qt::QueuedConnection);
-}
-
-bool FontUpdater::registerFont(const Textile::Typography& typography) const {
     const auto file = atomic_file::child(folder(), typography.filename);
-    if (!file)
-        return false;
-    const auto content = atomic_file::read(*file);
-    return content && registry_.registerFont(QString::fromStdString(typography.mimetype),
-                                             QByteArray::fromStdString(*content));
+    runInBackground(
+        this,
+        [file] {
+            if (!file)
+                return QByteArray();
+            const auto content = atomic_file::read(*file);
+            return content ? QByteArray::fromStdString(*content) : QByteArray();
+        },
+        [this, run, mime = typography.mimetype](const QByteArray& data) {
+            if (data.isEmpty() || !registry_.registerFont(QString::fromStdString(mime), data))
+                logLine("Error registering font " + mime);
+            registerNext(run);
+        });
 }
 
 } // namespace kavor

@@ -39,7 +39,6 @@ private:
                   const std::filesystem::path& file);
     void leave(const std::shared_ptr<Run>& run);
     void registerNext(const std::shared_ptr<Run>& run);
-    [[nodiscard]] bool registerFont(const Textile::Typography& typography) const;
 
     std::filesystem::path cachesFolder_;
     PlainDownloader& downloader_;
