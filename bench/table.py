@@ -2,7 +2,7 @@
 """Turns the results of the benches into ratios: table.py FOLDER [--line].
 
 FOLDER holds catalogue.json, draft.json and filter.json (Google Benchmark's form), fresh.json (a list of runs of
-fresh_decode) and start.json. Exit status 1 when an aim is missed by more than is
+fresh_decode), start.json and download.json. Exit status 1 when an aim is missed by more than is
 known of it, or a figure is not there.
 """
 import json
@@ -82,13 +82,18 @@ def start_rows(result):
         yield FIRST_FRAME + window, result['client_ms'] / result[below] if result else None, sign, 1.5
 
 
+def download_rows(result):
+    times = result['beside_ms'] / result['alone_ms'] if result else None
+    yield '40 resources beside 20 slow ones of the background: times alone', times, '<=', 1.3
+
+
 def main():
     folder = sys.argv[1]
     catalogue = milliseconds(load(folder, 'catalogue.json'))
     draft = milliseconds(load(folder, 'draft.json'))
     start = load(folder, 'start.json')
     rows = [*catalogue_rows(catalogue), *fresh_rows(load(folder, 'fresh.json')), *draft_rows(draft),
-            *filter_rows(load(folder, 'filter.json')), *start_rows(start)]
+            *filter_rows(load(folder, 'filter.json')), *start_rows(start), *download_rows(load(folder, 'download.json'))]
     # A row without an aim only informs; a short round has no figure for 100 MB.
     if '--line' in sys.argv:
         rows = [row for row in rows if row[1] is not None or '100 MB' not in row[0]]

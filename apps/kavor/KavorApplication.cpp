@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/BackgroundFileWriter.h"
+#include "base/BundleVersion.h"
 #include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/WizardStep.h"
@@ -74,8 +75,8 @@ AppSingleton& openSession(const KavorOptions& options) {
     atomic_file::sweepTemporaries(options.documents);
     atomic_file::sweepTemporaries(options.caches / PDFCacheManager::folderName);
     AppSingleton& session = AppSingleton::shared();
-    session.version = KAVOR_VERSION;
-    session.compilation = KAVOR_COMPILATION;
+    session.version = bundleVersion();
+    session.compilation = bundleCompilation();
     session.setFolders(options.documents, options.caches);
     return session;
 }
@@ -155,7 +156,7 @@ struct KavorApplication::Parts {
 
 void KavorApplication::prepareProcess() {
     QCoreApplication::setApplicationName(QStringLiteral("kavor"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(KAVOR_VERSION));
+    QCoreApplication::setApplicationVersion(QString::fromStdString(bundleVersion()));
     QGuiApplication::setDesktopFileName(QStringLiteral("kavor"));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 }

@@ -2,6 +2,7 @@
 
 #include "Password.h"
 #include "base/AtomicFile.h"
+#include "base/BundleVersion.h"
 #include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "shell/StateFile.h"
@@ -19,8 +20,8 @@ std::filesystem::path standardFolder(QStandardPaths::StandardLocation location) 
 
 AppSingleton& openFolders(const CommandContext& context) {
     auto& session = AppSingleton::shared();
-    session.version = KAVOR_VERSION;
-    session.compilation = "kavorctl";
+    session.version = bundleVersion();
+    session.compilation = bundleCompilation();
     const auto documents =
         context.documents.empty() ? standardFolder(QStandardPaths::GenericDataLocation) : context.documents;
     const auto caches =

@@ -3,7 +3,6 @@
 #include "base/AtomicFile.h"
 #include "base/Log.h"
 #include "device/Background.h"
-#include "device/PlainDownloader.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -75,46 +74,59 @@ QUrl ImageCache::localUrl(const QString& key) const {
     return path ? QUrl::fromLocalFile(*path) : QUrl();
 }
 
-void ImageCache::fetch(const CachedResource& resource, QObject* context, FetchCallback callback) {
+void ImageCache::fetch(const CachedResource& resource, QObject* context, FetchCallback callback,
+                       PlainDownloader::Lane lane) {
     if (const auto path = localPath(resource.key)) {
         QMetaObject::invokeMethod(
             context, [path, callback = std::move(callback)] { callback(path); }, Qt::QueuedConnection);
         return;
     }
-    std::vector<Waiting>& waiting = waiting_[resource.key];
-    waiting.push_back({context, std::move(callback)});
-    if (waiting.size() == 1)
-        download(resource);
+    if (const auto found = fetches_.find(resource.key); found != fetches_.end()) {
+        found->waiting.push_back({context, std::move(callback)});
+        if (lane < std::exchange(found->lane, std::min(lane, found->lane)))
+            downloader_.hasten(found->ticket, lane);
+        return;
+    }
+    fetches_[resource.key] = {download(resource, lane), lane, {{context, std::move(callback)}}};
 }
 
-void ImageCache::download(const CachedResource& resource) {
-    downloader_.get(resource.url, this, [this, key = resource.key](const DownloadResult& result) {
-        if (result.isComplete())
-            store(key, result.body, result.lengthIsVerified);
-        else
-            finishFetch(key, std::nullopt);
-    });
+PlainDownloader::Ticket ImageCache::download(const CachedResource& resource, PlainDownloader::Lane lane) {
+    const auto received = [this, resource](const DownloadResult& result) {
+        if (result.isComplete()) {
+            store(resource, result.body, result.lengthIsVerified);
+            return;
+        }
+        emit fetchFailed(resource.url, result.transportError.value_or(
+                                           QStringLiteral("HTTP %1").arg(result.status.value_or(0))));
+        finishFetch(resource.key, std::nullopt);
+    };
+    return downloader_.get(resource.url, this, received, PlainDownloader::defaultSizeLimit, lane);
 }
 
-void ImageCache::store(const QString& key, const QByteArray& body, bool lengthIsVerified) {
-    const QString path = pathOf(key);
+void ImageCache::store(const CachedResource& resource, const QByteArray& body, bool lengthIsVerified) {
+    const QString path = pathOf(resource.key);
+    const auto stored = [this, resource, path](const QString& fault) {
+        if (!fault.isEmpty())
+            emit fetchFailed(resource.url, fault);
+        finishFetch(resource.key, fault.isEmpty() ? std::optional(path) : std::nullopt);
+    };
     runInBackground(
         this,
         [path, body, lengthIsVerified] {
             if (!lengthIsVerified && isBrokenPicture(body))
-                return false;
+                return QStringLiteral("the picture was cut short");
             const auto done =
                 atomic_file::write(path.toStdString(), {body.constData(), std::size_t(body.size())});
-            if (!done)
-                logLine("Could not store an image: " + done.error().text());
-            return done.has_value();
+            if (done)
+                return QString();
+            logLine("Could not store an image: " + done.error().text());
+            return QString::fromStdString(done.error().text());
         },
-        [this, key, path](bool stored) { finishFetch(key, stored ? std::optional(path) : std::nullopt); },
-        &pool_);
+        stored, &pool_);
 }
 
 void ImageCache::finishFetch(const QString& key, const std::optional<QString>& path) {
-    for (const Waiting& waiting : waiting_.take(key)) {
+    for (const Waiting& waiting : fetches_.take(key).waiting) {
         if (waiting.context)
             waiting.callback(path);
     }

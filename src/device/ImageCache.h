@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/PlainDownloader.h"
+
 #include <QCache>
 #include <QHash>
 #include <QImage>
@@ -16,8 +18,6 @@
 #include <vector>
 
 namespace kavor {
-
-class PlainDownloader;
 
 // A resource of the server: the hash of its content, which names it in the cache, and where to fetch it.
 struct CachedResource {
@@ -49,21 +49,34 @@ public:
     [[nodiscard]] bool isCached(const QString& key) const { return localPath(key).has_value(); }
 
     // Stores the resource unless it is there already. Callbacks of the cache run later, never inside the
-    // call, and are dropped with their context, which must not be null.
-    void fetch(const CachedResource& resource, QObject* context, FetchCallback callback);
+    // call, and are dropped with their context, which must not be null. What several ask for is downloaded
+    // once, in the most urgent of their lanes.
+    void fetch(const CachedResource& resource, QObject* context, FetchCallback callback,
+               PlainDownloader::Lane lane = PlainDownloader::Lane::OnShow);
     // Fetches where needed and decodes. A picture larger than a non-empty bounds is scaled down to fit in it.
     // A stored file that forms no picture is fetched anew, once.
     void load(const CachedResource& resource, const QSize& bounds, QObject* context, ImageCallback callback);
+
+signals:
+    // A resource could not be had, and why; once for each download.
+    void fetchFailed(const QUrl& url, const QString& reason);
 
 private:
     struct Waiting {
         QPointer<QObject> context;
         FetchCallback callback;
     };
+    // A download and those who wait for it.
+    struct Fetch {
+        PlainDownloader::Ticket ticket = 0;
+        PlainDownloader::Lane lane = PlainDownloader::Lane::OnShow;
+        std::vector<Waiting> waiting;
+    };
 
     [[nodiscard]] QString pathOf(const QString& key) const;
-    void download(const CachedResource& resource);
-    void store(const QString& key, const QByteArray& body, bool lengthIsVerified);
+    [[nodiscard]] PlainDownloader::Ticket download(const CachedResource& resource,
+                                                   PlainDownloader::Lane lane);
+    void store(const CachedResource& resource, const QByteArray& body, bool lengthIsVerified);
     void finishFetch(const QString& key, const std::optional<QString>& path);
     void decode(const CachedResource& resource, const QSize& bounds, bool mayFetchAgain, QObject* context,
                 const ImageCallback& callback);
@@ -71,7 +84,7 @@ private:
     QString folder_;
     PlainDownloader& downloader_;
     QCache<QString, QImage> memory_;
-    QHash<QString, std::vector<Waiting>> waiting_;
+    QHash<QString, Fetch> fetches_;
     QThreadPool pool_;
 };
 

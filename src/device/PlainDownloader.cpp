@@ -1,11 +1,14 @@
 #include "device/PlainDownloader.h"
 
+#include "base/Log.h"
+
 #include <QMetaObject>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavor {
@@ -28,17 +31,8 @@ QNetworkRequest requestFor(const QUrl& url, int timeoutMilliseconds) {
     request.setTransferTimeout(timeoutMilliseconds);
     // Without compression the length of the body can be checked against the announced one.
     request.setRawHeader("Accept-Encoding", "identity");
+    request.setRawHeader("Accept-Language", acceptLanguage);
     return request;
-}
-
-// Qt reports an HTTP error status as an error of the reply; only the others are errors of the transport.
-bool isTransportError(QNetworkReply::NetworkError error, const std::optional<int>& status) {
-    if (error == QNetworkReply::NoError)
-        return false;
-    const bool comesFromStatus =
-        (error > QNetworkReply::UnknownProxyError && error <= QNetworkReply::UnknownContentError) ||
-        error == QNetworkReply::ProtocolInvalidOperationError || error >= QNetworkReply::InternalServerError;
-    return !(comesFromStatus && status && *status >= 400);
 }
 
 std::optional<QUrl> redirectTarget(const QNetworkReply* reply) {
@@ -46,31 +40,56 @@ std::optional<QUrl> redirectTarget(const QNetworkReply* reply) {
     return target.isValid() ? std::optional(reply->url().resolved(target.toUrl())) : std::nullopt;
 }
 
-bool isWebAddress(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("http") || url.scheme() == https);
-}
-
 } // namespace
 
 PlainDownloader::PlainDownloader(QObject* parent, int timeoutMilliseconds)
     : QObject(parent)
-    , manager_(new QNetworkAccessManager(this))
     , timeoutMilliseconds_(timeoutMilliseconds) {}
 
 PlainDownloader::~PlainDownloader() = default;
 
-void PlainDownloader::get(const QUrl& url, QObject* context, Callback callback, qint64 sizeLimit) {
+PlainDownloader::Ticket PlainDownloader::get(const QUrl& url, QObject* context, Callback callback,
+                                             qint64 sizeLimit, Lane lane) {
     ++running_[url];
     const auto bound = [guard = QPointer<QObject>(context), isBound = context != nullptr,
                         callback = std::move(callback)](const DownloadResult& result) {
         if (!isBound || guard)
             callback(result);
     };
-    send(url, {url, sizeLimit, 0, bound});
+    enter(std::make_shared<Job>(Job{++lastTicket_, url, sizeLimit, lane, bound}));
+    return lastTicket_;
 }
 
-void PlainDownloader::send(const QUrl& url, Job job) {
+void PlainDownloader::hasten(Ticket ticket, Lane lane) {
+    for (Queue& queue : lanes_) {
+        const auto found =
+            std::ranges::find(queue.waiting, ticket, [](const auto& job) { return job->ticket; });
+        if (found == queue.waiting.end())
+            continue;
+        const JobPointer job = *found;
+        queue.waiting.erase(found);
+        job->lane = lane;
+        enter(job);
+        return;
+    }
+}
+
+void PlainDownloader::enter(const JobPointer& job) {
+    queueOf(job->lane).waiting.push_back(job);
+    startNext(job->lane);
+}
+
+void PlainDownloader::startNext(Lane lane) {
+    Queue& queue = queueOf(lane);
+    while (!queue.waiting.empty() && queue.running < laneWidths[std::size_t(lane)]) {
+        const JobPointer job = queue.waiting.front();
+        queue.waiting.pop_front();
+        ++queue.running;
+        send(job->url, job);
+    }
+}
+
+void PlainDownloader::send(const QUrl& url, const JobPointer& job) {
     if (!isWebAddress(url)) {
         DownloadResult refused;
         refused.transportError = QStringLiteral("unsupported URL");
@@ -78,35 +97,42 @@ void PlainDownloader::send(const QUrl& url, Job job) {
             this, [this, job, refused] { finish(job, refused); }, Qt::QueuedConnection);
         return;
     }
-    QNetworkReply* reply = manager_->get(requestFor(url, timeoutMilliseconds_));
-    watchSize(reply, job.sizeLimit);
-    connect(reply, &QNetworkReply::finished, this, [this, reply, url, job = std::move(job)]() mutable {
-        reply->deleteLater();
-        DownloadResult result = resultOf(reply);
-        const auto next = redirectTarget(reply);
-        if (result.transportError || !next) {
-            finish(job, result);
-        } else if (++job.redirects > mostRedirects || (url.scheme() == https && next->scheme() != https)) {
-            result.transportError = QStringLiteral("a redirect that is not followed");
-            finish(job, result);
-        } else {
-            send(*next, std::move(job));
-        }
-    });
+    QNetworkReply* reply = connections_.take()->get(requestFor(url, timeoutMilliseconds_));
+    watchSize(reply, job);
+    connect(reply, &QNetworkReply::finished, this, [this, reply, url, job] { received(reply, url, job); });
 }
 
-void PlainDownloader::finish(const Job& job, const DownloadResult& result) {
-    if (--running_[job.url] == 0)
-        running_.remove(job.url);
-    job.callback(result);
+void PlainDownloader::received(QNetworkReply* reply, const QUrl& url, const JobPointer& job) {
+    DownloadResult result = resultOf(reply);
+    const auto next = redirectTarget(reply);
+    reply->deleteLater();
+    connections_.giveBack(reply->manager(), !result.transportError);
+    if (result.transportError || !next) {
+        finish(job, result);
+    } else if (++job->redirects > mostRedirects || (url.scheme() == https && next->scheme() != https)) {
+        result.transportError = QStringLiteral("a redirect that is not followed");
+        finish(job, result);
+    } else {
+        send(*next, job);
+    }
 }
 
-void PlainDownloader::watchSize(QNetworkReply* reply, qint64 sizeLimit) {
-    const auto stop = [reply, sizeLimit](qint64 size) {
-        if (size > sizeLimit) {
-            reply->setProperty(tooLargeProperty, true);
-            reply->abort();
-        }
+void PlainDownloader::finish(const JobPointer& job, const DownloadResult& result) {
+    if (--running_[job->url] == 0)
+        running_.remove(job->url);
+    --queueOf(job->lane).running;
+    startNext(job->lane);
+    job->callback(result);
+}
+
+void PlainDownloader::watchSize(QNetworkReply* reply, const JobPointer& job) {
+    const auto stop = [reply, job](qint64 size) {
+        if (size <= job->sizeLimit || reply->property(tooLargeProperty).toBool())
+            return;
+        logLine("Not downloaded, above the limit of " + std::to_string(job->sizeLimit) +
+                " bytes: " + job->url.toString(QUrl::RemoveQuery | QUrl::RemoveUserInfo).toStdString());
+        reply->setProperty(tooLargeProperty, true);
+        reply->abort();
     };
     connect(reply, &QNetworkReply::metaDataChanged, this,
             [reply, stop] { stop(reply->header(QNetworkRequest::ContentLengthHeader).toLongLong()); });
@@ -122,7 +148,8 @@ DownloadResult PlainDownloader::resultOf(QNetworkReply* reply) const {
         result.transportError = QStringLiteral("the body exceeds the size limit");
         return result;
     }
-    if (isTransportError(reply->error(), result.status)) {
+    if (reply->error() != QNetworkReply::NoError &&
+        !isErrorOfStatus(reply->error(), result.status.value_or(0))) {
         result.transportError = reply->errorString();
         return result;
     }

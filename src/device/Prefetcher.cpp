@@ -45,11 +45,12 @@ void Prefetcher::pump() {
             continue;
         }
         ++running_;
-        cache_.fetch(resource, this, [this, resource](const std::optional<QString>& path) {
+        const auto fetched = [this, resource](const std::optional<QString>& path) {
             --running_;
             report(path ? completed_ : failed_, resource);
             pump();
-        });
+        };
+        cache_.fetch(resource, this, fetched, lane_);
     }
     if (next_ == resources_.size() && running_ == 0 && !std::exchange(finished_, true)) {
         if (completion_)

@@ -24,6 +24,8 @@ public:
     // The cache outlives the prefetcher. Both callbacks may be empty.
     Prefetcher(ImageCache& cache, Resources resources, Progress progress, Completion completion,
                QObject* parent = nullptr);
+    // Whom the downloads share their connections with.
+    void setLane(PlainDownloader::Lane lane) { lane_ = lane; }
 
     void setMaxConcurrentDownloads(int limit) { limit_ = limit; }
     // Begins; callbacks run later. Starting twice is no fault.
@@ -48,6 +50,7 @@ private:
     std::size_t next_ = 0;
     int running_ = 0;
     int limit_ = 5;
+    PlainDownloader::Lane lane_ = PlainDownloader::Lane::Ahead;
     bool started_ = false;
     bool finished_ = false;
 };

@@ -61,21 +61,12 @@ namespace {
 
 constexpr int mostRedirects = 5;
 
-// Qt reports an error status as an error of the reply. When the server closes the connection right behind its
-// answer, or answers 307, Qt may want to send the body once more and says that it cannot; the answer itself
-// is there. Only the other errors are faults of the transport.
+// When the server closes the connection right behind its answer, or answers 307, Qt may want to send the body
+// once more and says that it cannot; the answer itself is there.
 bool answerIsThere(QNetworkReply::NetworkError error, int status) {
     if (error == QNetworkReply::NoError || error == QNetworkReply::ContentReSendError)
         return status != 0;
-    const bool kind =
-        (error > QNetworkReply::UnknownProxyError && error <= QNetworkReply::UnknownContentError) ||
-        error == QNetworkReply::ProtocolInvalidOperationError || error >= QNetworkReply::InternalServerError;
-    return kind && status >= 400;
-}
-
-bool isWebAddress(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
+    return isErrorOfStatus(error, status);
 }
 
 bool isSameOrigin(const QUrl& a, const QUrl& b) {
@@ -102,6 +93,7 @@ QNetworkRequest HttpExchange::networkRequest() const {
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     request.setDecompressedSafetyCheckThreshold(session_.configuration_.answerSizeLimit);
+    request.setRawHeader("Accept-Language", acceptLanguage);
     for (const HttpHeaders& headers : {session_.configuration_.additionalHeaders, request_.headers}) {
         for (const auto& [name, value] : headers)
             request.setRawHeader(name, oneLine(value));
@@ -122,7 +114,7 @@ void HttpExchange::start() {
         return;
     }
     if (request_.method == "GET") {
-        reply_ = session_.reads_->get(networkRequest());
+        reply_ = session_.reads_.take()->get(networkRequest());
     } else {
         // A manager of its own has no connection that an earlier request left behind: such a one may have
         // gone stale, and a write is never sent a second time.
@@ -207,12 +199,16 @@ void HttpExchange::release() {
 }
 
 void HttpExchange::releaseReply() {
-    if (QNetworkReply* reply = std::exchange(reply_, nullptr)) {
-        reply->disconnect(this);
-        if (!reply->isFinished())
-            reply->abort();
-        reply->deleteLater();
-    }
+    QNetworkReply* reply = std::exchange(reply_, nullptr);
+    if (reply == nullptr)
+        return;
+    const bool isFinished = reply->isFinished();
+    reply->disconnect(this);
+    if (!isFinished)
+        reply->abort();
+    reply->deleteLater();
+    if (request_.method == "GET")
+        session_.reads_.giveBack(reply->manager(), isFinished && reply->error() == QNetworkReply::NoError);
 }
 
 HttpSession::HttpSession(SessionConfiguration configuration, Clock& clock, Reachability& reachability,
@@ -221,7 +217,7 @@ HttpSession::HttpSession(SessionConfiguration configuration, Clock& clock, Reach
     , configuration_(std::move(configuration))
     , clock_(clock)
     , reachability_(reachability)
-    , reads_(new QNetworkAccessManager(this)) {
+    , reads_(this) {
     connect(&reachability_, &Reachability::changed, this, [this] {
         for (HttpExchange* exchange : QList(exchanges_)) {
             if (!exchange->isStarted())
@@ -231,7 +227,10 @@ HttpSession::HttpSession(SessionConfiguration configuration, Clock& clock, Reach
 }
 
 HttpSession::~HttpSession() {
-    invalidate();
+    for (HttpExchange* exchange : std::exchange(exchanges_, {})) {
+        exchange->release();
+        exchange->deleteLater();
+    }
 }
 
 void HttpSession::send(const HttpRequest& request, Callback callback) {
@@ -249,14 +248,15 @@ void HttpSession::finish(HttpExchange& exchange, const HttpAnswer& answer) {
     if (!exchanges_.removeOne(&exchange))
         return;
     exchange.deleteLater();
-    exchange.takeCallback()(answer);
+    if (retiring_)
+        retire();
+    exchange.takeCallback()(answer); // whose end may be that of this session too
 }
 
-void HttpSession::invalidate() {
-    for (HttpExchange* exchange : std::exchange(exchanges_, {})) {
-        exchange->release();
-        exchange->deleteLater();
-    }
+void HttpSession::retire() {
+    retiring_ = true;
+    if (exchanges_.isEmpty())
+        deleteLater();
 }
 
 } // namespace kavor

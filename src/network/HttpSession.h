@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/HttpConnections.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QObject>
@@ -9,8 +11,6 @@
 
 #include <chrono>
 #include <functional>
-
-class QNetworkAccessManager;
 
 namespace kavor {
 
@@ -46,8 +46,9 @@ struct HttpAnswer {
     QString reason; // of a fault, for the log
 };
 
-// A set of connections to the server and the settings of its requests. A GET follows redirects within its own
-// origin, the other methods follow none and are never sent twice. Main thread only.
+// A set of connections to the server and the settings of its requests. Each request has its connection to
+// itself, so that one that breaks takes no other with it. A GET follows redirects within its own origin, the
+// other methods follow none and are never sent twice. Main thread only.
 class HttpSession : public QObject {
     Q_OBJECT
 public:
@@ -57,10 +58,10 @@ public:
                 QObject* parent = nullptr);
     ~HttpSession() override;
 
-    // Sends a request; the callback runs once and later, unless the session is invalidated before.
+    // Sends a request; the callback runs once and later, unless the session is destroyed before.
     void send(const HttpRequest& request, Callback callback);
-    // Ends all requests under way without an answer.
-    void invalidate();
+    // Deletes the session as soon as the last of its requests has ended; it gets no further ones.
+    void retire();
 
 private:
     void start(HttpExchange& exchange);
@@ -70,8 +71,9 @@ private:
     SessionConfiguration configuration_;
     Clock& clock_;
     Reachability& reachability_;
-    QNetworkAccessManager* reads_; // anything but a GET gets a connection of its own
+    HttpConnections reads_; // anything but a GET gets a connection that no request has used
     QList<HttpExchange*> exchanges_;
+    bool retiring_ = false;
 };
 
 } // namespace kavor

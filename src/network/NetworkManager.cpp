@@ -8,6 +8,7 @@
 #include "shell/LoginResult.h"
 
 #include <QFutureWatcher>
+#include <QJsonDocument>
 #include <QUuid>
 #include <QtConcurrentRun>
 
@@ -26,12 +27,16 @@ NetworkManager::NetworkManager(NetworkConfiguration configuration, const Collabo
     , reachability_(collaborators.reachability)
     , clock_(collaborators.clock)
     , retrier_(
-          collaborators.auth,
+          collaborators.auth, collaborators.clock,
           [this](const StoredCredentials& credentials, const RequestRetrier::LoginAnswers& answers) {
               silentLogin(credentials, answers);
           },
-          [this](const std::string& token) { accessToken_ = QString::fromStdString(token); })
+          [this](const std::string& token) { setAccessToken(QString::fromStdString(token)); })
     , trafficLog_(qEnvironmentVariable("KAVOR_TRAFFIC_LOG")) {
+    if (trafficLog_.isOpen()) {
+        if (const auto stored = collaborators.auth.readCredentials())
+            keepOutOfLog(*stored);
+    }
     configureSession(defaultConfiguration());
 }
 
@@ -53,16 +58,15 @@ SessionConfiguration NetworkManager::backgroundConfiguration() {
 }
 
 void NetworkManager::configureSession(const SessionConfiguration& configuration) {
-    if (HttpSession* old = sessionManager_.release()) {
-        old->invalidate();
-        old->deleteLater(); // an answer of it may be the one that brought us here
-    }
-    for (const RequestPointer& request : std::exchange(inFlight_, {})) {
-        if (request->isSilentLogin)
-            retrier_.refreshWasLost();
-    }
+    if (sessionManager_ != nullptr)
+        sessionManager_->retire();
     additionalHeaders_ = configuration.additionalHeaders;
-    sessionManager_ = std::make_unique<HttpSession>(configuration, clock_, reachability_);
+    sessionManager_ = new HttpSession(configuration, clock_, reachability_, this);
+}
+
+void NetworkManager::setAccessToken(const QString& token) {
+    accessToken_ = token;
+    trafficLog_.keepOut(token);
 }
 
 bool NetworkManager::isReachable() const {
@@ -82,7 +86,6 @@ QUrl NetworkManager::urlOf(const std::string& path, const QString& trailing) con
 }
 
 void NetworkManager::run(const RequestPointer& request) {
-    inFlight_.insert(request);
     request->startedAt = clock_.now().toMSecsSinceEpoch();
     sessionManager_->send(adapted(*request),
                           [this, request](const HttpAnswer& answer) { received(request, answer); });
@@ -98,14 +101,23 @@ HttpRequest NetworkManager::adapted(const PipelineRequest& request) const {
 }
 
 void NetworkManager::received(const RequestPointer& request, const HttpAnswer& answer) {
-    inFlight_.erase(request);
     if (trafficLog_.isOpen())
-        trafficLog_.write({request->operation.name, adapted(*request), additionalHeaders_, answer,
-                           clock_.now().toMSecsSinceEpoch() - request->startedAt});
+        log(*request, answer);
+    if (!request->isSilentLogin)
+        retrier_.requestAnswered(answer.status);
     if (answer.fault == HttpAnswer::Fault::None && answer.status == 200)
         decode(request, answer);
     else
         failed(request, answer);
+}
+
+void NetworkManager::log(const PipelineRequest& request, const HttpAnswer& answer) {
+    // The answers that bring a token may hold it elsewhere too.
+    if (request.operation.name == QLatin1String("loginURL") ||
+        request.operation.name == QLatin1String("userInformation"))
+        trafficLog_.keepOut(QJsonDocument::fromJson(answer.body)[QLatin1String("token")].toString());
+    trafficLog_.write({request.operation.name, adapted(request), additionalHeaders_, answer,
+                       clock_.now().toMSecsSinceEpoch() - request.startedAt});
 }
 
 // Large answers take a while, so all are read in a worker thread; a watcher brings the end back to this one.
@@ -135,21 +147,22 @@ void NetworkManager::failed(const RequestPointer& request, const HttpAnswer& ans
                      [this, request](std::chrono::milliseconds delay) { repeatAfter(request, delay); }});
 }
 
+void NetworkManager::keepOutOfLog(const StoredCredentials& credentials) {
+    trafficLog_.keepOut(QString::fromStdString(credentials.password));
+    trafficLog_.keepOut(QString::fromStdString(credentials.token));
+}
+
 void NetworkManager::repeatAfter(const RequestPointer& request, std::chrono::milliseconds delay) {
     if (delay.count() == 0) {
         run(request);
         return;
     }
-    inFlight_.insert(request);
-    HttpSession* session = sessionManager_.get();
-    clock_.after(delay, session, [this, request, session] {
-        if (session == sessionManager_.get())
-            run(request);
-    });
+    clock_.after(delay, this, [this, request] { run(request); });
 }
 
 void NetworkManager::silentLogin(const StoredCredentials& credentials,
                                  const RequestRetrier::LoginAnswers& answers) {
+    keepOutOfLog(credentials);
     const LoginParameters parameters{QString::fromStdString(credentials.account),
                                      QString::fromStdString(credentials.password), std::nullopt};
     const Completion<LoginResult> done(

@@ -10,7 +10,6 @@
 
 #include <functional>
 #include <memory>
-#include <set>
 #include <string>
 
 namespace kavor {
@@ -39,7 +38,8 @@ public:
                    QObject* parent = nullptr);
     ~NetworkManager() override;
 
-    // Replaces the session. Requests in flight on the old one are lost with it: they never end.
+    // Replaces the session. Requests under way end on the old one, which goes with the last of them; what is
+    // repeated goes over the new one.
     void configureSession(const SessionConfiguration& configuration);
     // 120 s for a request; "version" and "compilation" on each.
     [[nodiscard]] static SessionConfiguration defaultConfiguration();
@@ -51,7 +51,7 @@ public:
 
     [[nodiscard]] bool isReachable() const override;
     [[nodiscard]] QString accessToken() const override { return accessToken_; }
-    void setAccessToken(const QString& token) override { accessToken_ = token; }
+    void setAccessToken(const QString& token) override;
     [[nodiscard]] QString baseUrl() const override;
     [[nodiscard]] QString forgotPasswordUrl() const override;
 
@@ -98,13 +98,15 @@ private:
     RequestPointer prepare(const Operation& operation, const Completion<Response>& done, Read read);
     template <class Response>
     void request(const Operation& operation, const Completion<Response>& done);
-    [[nodiscard]] Operation loginOperation(const LoginParameters& parameters) const;
+    [[nodiscard]] Operation loginOperation(const LoginParameters& parameters);
 
     void run(const RequestPointer& request);
     [[nodiscard]] HttpRequest adapted(const PipelineRequest& request) const;
     void received(const RequestPointer& request, const HttpAnswer& answer);
     void decode(const RequestPointer& request, const HttpAnswer& answer);
     void failed(const RequestPointer& request, const HttpAnswer& answer);
+    void log(const PipelineRequest& request, const HttpAnswer& answer);
+    void keepOutOfLog(const StoredCredentials& credentials);
     void repeatAfter(const RequestPointer& request, std::chrono::milliseconds delay);
     void silentLogin(const StoredCredentials& credentials, const RequestRetrier::LoginAnswers& answers);
 
@@ -115,8 +117,7 @@ private:
     RequestRetrier retrier_;
     TrafficLog trafficLog_;
     HttpHeaders additionalHeaders_;
-    std::unique_ptr<HttpSession> sessionManager_;
-    std::set<RequestPointer> inFlight_; // on the session, or waiting to be repeated on it
+    HttpSession* sessionManager_ = nullptr; // a child, as its predecessors are that have not ended yet
 };
 
 } // namespace kavor

@@ -77,12 +77,16 @@ json::Decoded<std::shared_ptr<const Catalogue>> readCatalogue(const json::Source
 // ---- Session and catalogue
 // ------------------------------------------------------------------------------------
 
-Operation NetworkManager::loginOperation(const LoginParameters& parameters) const {
+Operation NetworkManager::loginOperation(const LoginParameters& parameters) {
+    for (const auto& secret : {parameters.password, parameters.token})
+        trafficLog_.keepOut(secret.value_or(QString()));
     Parameters form{{QStringLiteral("login"), parameters.login}};
     addWhenSet(form, QStringLiteral("password"), parameters.password);
     addWhenSet(form, QStringLiteral("token"), parameters.token);
-    if (const auto& terminal = AppSingleton::shared().fcmToken)
+    if (const auto& terminal = AppSingleton::shared().fcmToken) {
         form[QStringLiteral("terminal_code")] = QString::fromStdString(*terminal);
+        trafficLog_.keepOut(QString::fromStdString(*terminal));
+    }
     return postingForm("loginURL", urlOf(networkConfiguration_.urls.loginURL), form);
 }
 

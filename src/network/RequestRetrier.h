@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/Clock.h"
 #include "network/AuthManager.h"
 
 #include <chrono>
@@ -10,7 +11,9 @@
 namespace kavor {
 
 // Decides what becomes of a failed request: given up, repeated, or left without any answer. An expired token
-// is repaired with the stored credential. Main thread only; the lock of the design is a state here.
+// is repaired with the stored credential. A run of repairs whose logins fail goes on without end, but from
+// the fourth on with pauses that double from one second to sixty: a server may lock an account that is
+// refused too often. Main thread only; the lock of the design is a state here.
 class RequestRetrier {
 public:
     struct Answers {
@@ -25,15 +28,21 @@ public:
     using Login = std::function<void(const StoredCredentials&, const LoginAnswers&)>;
 
     // `login` starts the login operation, `setToken` takes the token that it brought.
-    RequestRetrier(const AuthManager& auth, Login login, std::function<void(const std::string&)> setToken);
+    RequestRetrier(const AuthManager& auth, Clock& clock, Login login,
+                   std::function<void(const std::string&)> setToken);
+    RequestRetrier(const RequestRetrier&) = delete;
+    RequestRetrier& operator=(const RequestRetrier&) = delete;
+    ~RequestRetrier() { endPause(); }
 
     // Calls one of the two answers, now or after the repair, or neither ever. `status` is absent when no
     // answer came.
     void decide(std::optional<int> status, const Answers& answers);
 
+    // A request other than the login of a repair was answered with this status, 0 for not at all: any but 401
+    // ends a run of failed repairs.
+    void requestAnswered(int status);
+
     [[nodiscard]] bool isTokenRefreshing() const { return state_ != State::Idle; }
-    // The login of the repair went down with its session.
-    void refreshWasLost();
 
 private:
     enum class State {
@@ -43,11 +52,19 @@ private:
     };
 
     void repair(const StoredCredentials& credentials, const Answers& answers);
+    void repairFailed(const Answers& answers);
+    // How long the run of failed repairs lets the next one wait; 0 while it doesn't.
+    [[nodiscard]] std::chrono::milliseconds pause() const;
+    void endRun();
+    void endPause();
 
     const AuthManager& auth_;
+    Clock& clock_;
     Login login_;
     std::function<void(const std::string&)> setToken_;
     State state_ = State::Idle;
+    int failedRepairs_ = 0;         // in a row
+    Clock::TimerId pauseTimer_ = 0; // 0: no pause is under way
 };
 
 } // namespace kavor

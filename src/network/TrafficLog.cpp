@@ -4,7 +4,6 @@
 
 #include <QDateTime>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -105,21 +104,8 @@ QByteArray withoutPlainSecrets(const QByteArray& text) {
     return QString::fromUtf8(text).replace(secret, QStringLiteral("\\1***")).toUtf8();
 }
 
-QJsonObject headerObject(const HttpHeaders& headers) {
-    QJsonObject object;
-    for (const auto& [name, value] : headers)
-        object.insert(QString::fromLatin1(name), QString::fromUtf8(redactedHeader(name, value)));
-    return object;
-}
-
-QString bodyText(const QByteArray& body) {
-    const QByteArray shown = redacted(body.left(longestBody));
-    return QString::fromUtf8(shown) + (body.size() > longestBody ? QStringLiteral(" [...]") : QString());
-}
-
 QByteArray pathOf(const QUrl& url) {
-    return withoutPlainSecrets(
-        url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment));
+    return url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
 }
 
 } // namespace
@@ -143,12 +129,35 @@ TrafficLog::TrafficLog(const QString& fileName)
         logLine("Could not open the traffic log: " + file_.errorString().toStdString());
 }
 
+void TrafficLog::keepOut(const QString& secret) {
+    if (isOpen())
+        secrets_.add(secret);
+}
+
+// The known secrets go first: their own letters may look like the end of a value to the other search.
+QString TrafficLog::shown(const QByteArray& text) const {
+    return QString::fromUtf8(redacted(secrets_.blanked(QString::fromUtf8(text)).toUtf8()));
+}
+
+QString TrafficLog::bodyText(const QByteArray& body) const {
+    return shown(body.left(longestBody)) + (body.size() > longestBody ? QStringLiteral(" [...]") : QString());
+}
+
+QJsonObject TrafficLog::headerObject(const HttpHeaders& headers) const {
+    QJsonObject object;
+    for (const auto& [name, value] : headers)
+        object.insert(
+            QString::fromLatin1(name),
+            QString::fromUtf8(redactedHeader(name, secrets_.blanked(QString::fromUtf8(value)).toUtf8())));
+    return object;
+}
+
 void TrafficLog::write(const Entry& entry) {
     QJsonObject line{
         {QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODateWithMs)},
         {QStringLiteral("operation"), entry.operation},
         {QStringLiteral("method"), QString::fromLatin1(entry.request.method)},
-        {QStringLiteral("path"), QString::fromLatin1(pathOf(entry.request.url))},
+        {QStringLiteral("path"), shown(pathOf(entry.request.url))},
         {QStringLiteral("status"), entry.answer.status},
         {QStringLiteral("ms"), entry.milliseconds},
         {QStringLiteral("requestHeaders"), headerObject(entry.additionalHeaders + entry.request.headers)},

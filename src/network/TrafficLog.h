@@ -1,8 +1,10 @@
 #pragma once
 
 #include "network/HttpSession.h"
+#include "network/KnownSecrets.h"
 
 #include <QFile>
+#include <QJsonObject>
 #include <QString>
 
 namespace kavor {
@@ -13,8 +15,9 @@ QByteArray redacted(const QByteArray& text);
 QByteArray redactedHeader(const QByteArray& name, const QByteArray& value);
 
 // One line of JSON for each request and its answer, for diagnosis; written only when asked for. Nothing
-// secret goes into it. Members: "time", "operation", "method", "path", "status" (0 without an answer), "ms",
-// "fault" (when there is one), "requestHeaders", "requestBody", "answerHeaders", "answerBody".
+// secret goes into it: neither what bears a secret's name nor the known secrets, wherever they stand.
+// Members: "time", "operation", "method", "path", "status" (0 without an answer), "ms", "fault" (when there
+// is one), "requestHeaders", "requestBody", "answerHeaders", "answerBody".
 class TrafficLog {
 public:
     // An empty name writes nothing.
@@ -28,10 +31,17 @@ public:
         qint64 milliseconds = 0;
     };
     [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
+    // A password or token that no line shows from now on. Does nothing while the log is not open.
+    void keepOut(const QString& secret);
     void write(const Entry& entry);
 
 private:
+    [[nodiscard]] QString shown(const QByteArray& text) const;
+    [[nodiscard]] QString bodyText(const QByteArray& body) const;
+    [[nodiscard]] QJsonObject headerObject(const HttpHeaders& headers) const;
+
     QFile file_;
+    KnownSecrets secrets_;
 };
 
 } // namespace kavor

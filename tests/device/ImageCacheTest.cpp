@@ -150,6 +150,43 @@ TEST_F(ImageCacheTest, PrefetchesWithALimitAndSortsTheOutcomes) {
         EXPECT_EQ(counts[i], i + 1);
 }
 
+TEST_F(ImageCacheTest, ShowsAtOnceWhatIsStillToBeFetchedInTheBackgroundAndFetchesItOnce) {
+    server.setHandler([](const ScriptedRequest& request) {
+        return request.path.startsWith("/slow") ? ScriptedAnswer::of(ScriptedAnswer::Kind::Silence)
+                                                : ScriptedAnswer::bytes(picture(8, 4), "image/png");
+    });
+    Prefetcher::Resources slow;
+    for (int i = 0; i < 5; ++i)
+        slow.push_back(resource(QStringLiteral("slow%1").arg(i), QStringLiteral("/slow%1").arg(i)));
+    // A run that waits for its own downloads, and one beside it that waits for theirs.
+    Prefetcher::Resources waiting = slow;
+    waiting.push_back(resource("later", "/later"));
+    Prefetcher first(cache, waiting, {}, {});
+    Prefetcher second(cache, {resource("queued", "/queued")}, {}, {});
+    for (Prefetcher* each : {&first, &second}) {
+        each->setLane(PlainDownloader::Lane::Background);
+        each->start();
+    }
+    ASSERT_TRUE(waitFor(
+        [&] { return server.requests().size() == 5 && downloader.isFetching(server.url("/queued")); }));
+    for (const char* key : {"later", "queued"})
+        EXPECT_EQ(load(resource(key, QLatin1Char('/') + QString(key))).size(), QSize(8, 4)) << key;
+    EXPECT_TRUE(waitFor([&] { return second.isFinished(); }));
+    EXPECT_EQ(server.requests().size(), 7);
+}
+
+TEST_F(ImageCacheTest, SaysWhyAResourceCouldNotBeHad) {
+    server.answer("/404", ScriptedAnswer::bytes("no", "image/png", 404));
+    server.answer("/close", ScriptedAnswer::cut(picture(80, 40), 60, ScriptedAnswer::Framing::UntilClose));
+    QMap<QString, QString> reasons;
+    QObject::connect(&cache, &ImageCache::fetchFailed, &server,
+                     [&](const QUrl& url, const QString& reason) { reasons[url.path()] = reason; });
+    load(resource("a", "/404"));
+    load(resource("b", "/close"));
+    EXPECT_EQ(reasons,
+              (QMap<QString, QString>{{"/404", "HTTP 404"}, {"/close", "the picture was cut short"}}));
+}
+
 TEST_F(ImageCacheTest, CompletesAnEmptyPrefetchWithoutProgress) {
     int progress = 0;
     int completions = 0;

@@ -1,5 +1,6 @@
 #include "device/PlainDownloader.h"
 
+#include "support/LogCapture.h"
 #include "support/ScriptedServer.h"
 #include "support/WaitFor.h"
 
@@ -42,6 +43,7 @@ TEST(PlainDownloader, TellsWholeBodiesFromEverythingElse) {
         {"bad request", ScriptedAnswer::json("no", 400), false, 400, 2},
         {"not found", ScriptedAnswer::json("no", 404), false, 404, 2},
         {"teapot", ScriptedAnswer::json("no", 418), false, 418, 2},
+        {"proxy's fault", ScriptedAnswer::json("no", 407), false, 407, 2},
         {"server fault", ScriptedAnswer::json("no", 500), false, 500, 2},
         {"odd fault", ScriptedAnswer::json("no", 505), false, 505, 2},
         {"slow", ScriptedAnswer::slow(body, 500, 2), false, 200, 5000},
@@ -97,6 +99,7 @@ TEST(PlainDownloader, SendsNeitherTokenNorCookieAcrossARedirect) {
     EXPECT_EQ(moved.body, "moved") << moved.transportError.value_or("").toStdString();
     download(downloader, server.url("/here"));
     for (const auto& request : server.requests() + other.requests()) {
+        EXPECT_EQ(request.header("accept-language"), "es-ES,es;q=0.9");
         EXPECT_FALSE(request.hasHeader("authorization"));
         EXPECT_FALSE(request.hasHeader("cookie"));
         EXPECT_FALSE(request.hasHeader("version"));
@@ -128,6 +131,75 @@ TEST(PlainDownloader, SaysWhatItFetchesAndForgetsGoneContexts) {
     server.release();
     EXPECT_TRUE(waitFor([&] { return !downloader.isFetching(server.url("/")); }));
     EXPECT_FALSE(called);
+}
+
+TEST(PlainDownloader, LogsWhatIsAboveTheSizeLimitOnceAndWithoutItsQuery) {
+    LogCapture log;
+    ScriptedServer server;
+    server.answer("/announced", ScriptedAnswer::json(QByteArray(2000, 'b')));
+    server.answer("/endless", ScriptedAnswer::of(Kind::EndlessBody));
+    PlainDownloader downloader;
+    for (const char* path : {"/announced", "/endless"}) {
+        download(downloader, server.url(QString::fromLatin1(path) + "?token=T"), 1000);
+        EXPECT_EQ(log.lines().back(),
+                  "Not downloaded, above the limit of 1000 bytes: " + server.address(path).toStdString());
+    }
+    EXPECT_EQ(log.lines().size(), 2U);
+}
+
+TEST(PlainDownloader, LetsNoLaneWaitForAnotherAndADownloadChangeItsLane) {
+    using Lane = PlainDownloader::Lane;
+    ScriptedServer server;
+    server.setHandler([](const ScriptedRequest& request) {
+        return request.path.startsWith("/slow") ? ScriptedAnswer::of(Kind::Silence)
+                                                : ScriptedAnswer::json("x");
+    });
+    PlainDownloader downloader;
+    int ended = 0;
+    const auto get = [&](const QString& path, Lane lane) {
+        return downloader.get(
+            server.url(path), nullptr, [&](const DownloadResult&) { ++ended; }, 1000, lane);
+    };
+    for (int i = 0; i < 8; ++i)
+        get(QStringLiteral("/slow/%1").arg(i), Lane::Background);
+    const auto stuck = get("/wanted", Lane::Background);
+    ASSERT_TRUE(waitFor([&] { return server.requests().size() == 5; }));
+    for (const Lane lane : {Lane::Wanted, Lane::OnShow, Lane::Ahead}) {
+        for (int i = 0; i < 10; ++i)
+            get(QStringLiteral("/%1/%2").arg(int(lane)).arg(i), lane);
+    }
+    ASSERT_TRUE(waitFor([&] { return ended == 30; }));
+    EXPECT_TRUE(server.requestsTo("/wanted").isEmpty());
+    EXPECT_TRUE(downloader.isFetching(server.url("/wanted")));
+    downloader.hasten(stuck, Lane::OnShow);
+    ASSERT_TRUE(waitFor([&] { return ended == 31; }));
+    EXPECT_EQ(server.requestsTo("/wanted").size(), 1);
+    EXPECT_EQ(server.requests().size(), 36);
+}
+
+// Each third breaks; none takes another with it that waits or is under way.
+TEST(PlainDownloader, LosesOfManyDownloadsSideBySideOnlyThoseThatBreak) {
+    ScriptedServer server;
+    const auto breaks = [](const QByteArray& path) { return path.mid(1).toInt() % 3 == 1; };
+    server.setHandler([&](const ScriptedRequest& request) {
+        return breaks(request.path) ? ScriptedAnswer::cut("body", 2) : ScriptedAnswer::json("body");
+    });
+    server.hold();
+    PlainDownloader downloader;
+    int ended = 0;
+    for (int i = 0; i < 60; ++i) {
+        const QByteArray path = "/" + QByteArray::number(i);
+        downloader.get(server.url(QString::fromLatin1(path)), nullptr,
+                       [&, path](const DownloadResult& result) {
+                           ++ended;
+                           EXPECT_EQ(result.isComplete(), !breaks(path)) << path.toStdString();
+                       });
+    }
+    EXPECT_TRUE(waitFor([&] { return server.waiting() == 6; }));
+    server.release();
+    EXPECT_TRUE(waitFor([&] { return ended == 60; }));
+    EXPECT_EQ(server.requests().size(), 60);
+    EXPECT_EQ(server.mostInFlight(), 6);
 }
 
 } // namespace

@@ -1,4 +1,7 @@
 #include "RunCommand.h"
+#include "base/BundleVersion.h"
+#include "base/json/Json.h"
+#include "catalogue/ApplicationInformation.h"
 #include "orders/OrderDiskManager.h"
 #include "support/LogCapture.h"
 #include "support/ScriptedServer.h"
@@ -70,7 +73,10 @@ const QByteArray listPath = "/api/orders/list";
 
 TEST_F(OnlineCommandsTest, LogsInWithThePasswordOfTheFirstLine) {
     EXPECT_EQ(logIn("secreta\r\nno\n").status, ctl::fine);
-    EXPECT_EQ(server.requestsTo("/api/login").value(0).body, "login=ana&password=secreta");
+    const ScriptedRequest login = server.requestsTo("/api/login").value(0);
+    EXPECT_EQ(login.body, "login=ana&password=secreta");
+    EXPECT_EQ(login.header("version"), QByteArray::fromStdString(bundleVersion()));
+    EXPECT_GT(login.header("compilation").toInt(), 0);
 }
 
 TEST_F(OnlineCommandsTest, SendsNothingWithoutPasswordOrNetwork) {
@@ -158,6 +164,44 @@ TEST_F(OnlineCommandsTest, ARunSaysWhatWentUpAndWhatDidNot) {
     EXPECT_EQ(sent.out, "Pedido guardado: Su pedido Uno se ha sincronizado.\n");
     EXPECT_EQ(online({"sync"}).out, "");
     EXPECT_EQ(server.requestsTo("/api/orders").size(), 2);
+}
+
+TEST_F(OnlineCommandsTest, FetchesThePicturesOfTheBackgroundTooAndTellsEachThatFailed) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    auto catalogue =
+        json::decode<ApplicationInformation>(contentOf(KAVOR_TEST_DATA "/catalogue.json")).value();
+    catalogue.images.clear();
+    for (const auto& [name, downloadType] :
+         {std::pair("one", 1), {"lost", 1}, {"two", 2}, {"broken", 2}, {"three", 3}})
+        catalogue.images.push_back(
+            {name, {server.address(QLatin1Char('/') + QLatin1String(name)).toStdString()}, downloadType});
+    catalogue.textile.reset();
+    server.answer("/api/catalogue",
+                  ScriptedAnswer::json(QByteArray::fromStdString(json::encode(catalogue).value())));
+    server.answer("/one", ScriptedAnswer::bytes("1", "image/png"));
+    server.answer("/two", ScriptedAnswer::slow("2", 1, 1));
+    server.answer("/broken", ScriptedAnswer::of(ScriptedAnswer::Kind::Reset));
+    const auto stored = [&] {
+        return std::distance(std::filesystem::directory_iterator(folder / "caches/Images"), {});
+    };
+
+    const Outcome failed = online({"catalogue", "fetch"});
+    EXPECT_EQ(failed.status, ctl::requestFailed);
+    EXPECT_NE(failed.out.find("Catálogo actualizado: "), std::string::npos);
+    EXPECT_NE(failed.err.find(server.address("/lost").toStdString() + ": HTTP 404\n"), std::string::npos)
+        << failed.err;
+    EXPECT_NE(failed.err.find(server.address("/broken").toStdString() + ": "), std::string::npos)
+        << failed.err;
+    EXPECT_TRUE(failed.err.ends_with("kavorctl: resources that could not be had: 2\n")) << failed.err;
+    EXPECT_EQ(stored(), 2);
+    EXPECT_TRUE(server.requestsTo("/three").isEmpty());
+
+    server.answer("/lost", ScriptedAnswer::bytes("3", "image/png"));
+    server.answer("/broken", ScriptedAnswer::bytes("4", "image/png"));
+    const Outcome whole = online({"catalogue", "fetch"});
+    EXPECT_EQ(whole.status, ctl::fine);
+    EXPECT_EQ(whole.err, "");
+    EXPECT_EQ(stored(), 4);
 }
 
 // A folder in a file's place refuses the write, whoever runs the tests.

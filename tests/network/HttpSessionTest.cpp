@@ -5,8 +5,11 @@
 #include "shell/LoginResult.h"
 #include "support/LogCapture.h"
 
+#include <QNetworkReply>
 #include <QThread>
 
+#include <iterator>
+#include <map>
 #include <set>
 
 // What goes over the wire, and how a request ends when the wire misbehaves.
@@ -129,12 +132,11 @@ TEST(HttpSession, EndsARequestAfter120SecondsHoweverBusyItIs) {
 TEST(HttpSession, SaysTooMuchTimeWhenPartOfAnAnswerHadCome) {
     Rig rig;
     rig.server.then(infoPath, A::slow(goodLogin, 10, 1'000'000));
-    rig.server.answer(infoPath, A::json(goodLogin));
     const Outcome& outcome = rig.start();
-    ASSERT_TRUE(rig.waitForRequests(1));
-    // The first bytes are on their way before a whole request that starts now.
-    const Outcome& later = rig.start();
-    ASSERT_TRUE(waitFor([&] { return later.ended(); }));
+    bool hasPart = false;
+    QObject::connect(rig.manager.findChild<QNetworkReply*>(), &QNetworkReply::readyRead, &rig.manager,
+                     [&] { hasPart = true; });
+    ASSERT_TRUE(waitFor([&] { return hasPart; }));
     rig.clock.advance(120s);
     ASSERT_TRUE(outcome.ended());
     EXPECT_EQ(outcome.failure->messages->first(),
@@ -186,23 +188,101 @@ TEST(HttpSession, RefusesAnAddressThatIsNotOfTheWeb) {
     }
 }
 
-TEST(HttpSession, LosesTheRequestsInFlightWhenTheSessionIsReplaced) {
+qsizetype sessionsOf(const Rig& rig) {
+    return rig.manager.findChildren<HttpSession*>().size();
+}
+
+TEST(HttpSession, AnswersEverybodyThroughTwoSwapsOfTheSessionAndSendsNoOrderTwice) {
     Rig rig;
-    rig.server.then(infoPath, A::of(A::Kind::Silence));
-    rig.server.then(infoPath, A::empty(419));
     rig.server.answer(infoPath, A::json(goodLogin));
-    const Outcome& silent = rig.start();
-    ASSERT_TRUE(rig.waitForRequests(1));
-    const Outcome& pausing = rig.start();
+    rig.server.then(orderPath, A::empty(419));
+    rig.server.answer(orderPath, A::json("{}"));
+    Outcome pausing;
+    sendOrder(rig, pausing);
     ASSERT_TRUE(waitFor([&] { return rig.clock.untilNext() == 10s; }));
+    rig.server.hold();
+    Outcome order;
+    sendOrder(rig, order);
+    const Outcome& read = rig.start();
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 2; }));
+
     rig.manager.configureSession(NetworkManager::backgroundConfiguration());
-    rig.clock.advance(200s);
-    const Outcome& next = rig.start();
-    ASSERT_TRUE(waitFor([&] { return next.ended(); }));
-    EXPECT_EQ(next.successes, 1);
-    EXPECT_FALSE(silent.ended());
-    EXPECT_FALSE(pausing.ended());
+    rig.reachability.set(false);
+    Outcome offline; // waits for the network on a session that is replaced before it comes
+    sendOrder(rig, offline);
+    rig.manager.configureSession(NetworkManager::defaultConfiguration());
+    EXPECT_EQ(sessionsOf(rig), 3);
+    rig.reachability.set(true);
+    rig.clock.advance(10s);
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 4; }));
+    rig.server.release();
+    for (const Outcome* each : std::initializer_list<const Outcome*>{&pausing, &order, &read, &offline}) {
+        ASSERT_TRUE(waitFor([&] { return each->ended(); }));
+        EXPECT_EQ(each->successes, 1);
+    }
+    EXPECT_TRUE(waitFor([&] { return sessionsOf(rig) == 1; })) << "an old session goes with its last request";
+    const auto orders = rig.server.requestsTo(orderPath);
+    ASSERT_EQ(orders.size(), 4) << "three orders, of which the server wanted one again";
+    std::set<QByteArray> keys;
+    for (const ScriptedRequest& request : orders)
+        keys.insert(request.header("idempotency-key"));
+    EXPECT_EQ(keys.size(), 3U);
     EXPECT_EQ(rig.server.requests().last().header("version"), "3.2.1");
+}
+
+// The broken ones break in every way; before and after them the connections are used again.
+TEST(HttpSession, LosesOfManyReadsSideBySideOnlyThoseThatBreak) {
+    Rig rig;
+    const A broken[] = {A::cut("[]     ", 1), A::of(A::Kind::Reset), A::cut("[]", 0),
+                        A::of(A::Kind::CloseWithoutAnswer)};
+    const auto breaks = [](int number) { return number % 3 == 1; };
+    rig.server.setHandler([&](const ScriptedRequest& request) {
+        const int number = request.target.split('=').last().toInt();
+        return breaks(number) ? broken[(number / 3) % std::size(broken)] : A::json("[]");
+    });
+    for (int round = 0; round < 5; ++round) {
+        std::vector<Outcome> outcomes(24);
+        for (std::size_t i = 0; i < outcomes.size(); ++i)
+            rig.manager.getCustomerDataFromTevoCode(QString::number(i),
+                                                    outcomes[i].completion<std::vector<Customer>>());
+        for (std::size_t i = 0; i < outcomes.size(); ++i) {
+            ASSERT_TRUE(waitFor([&] { return outcomes[i].ended(); }));
+            EXPECT_EQ(outcomes[i].failures, breaks(int(i)) ? 1 : 0) << i << " in round " << round;
+        }
+    }
+    std::map<QByteArray, int> wholeReads;
+    for (const ScriptedRequest& request : rig.server.requests()) {
+        if (const QByteArray number = request.target.split('=').last(); !breaks(number.toInt()))
+            ++wholeReads[number];
+    }
+    ASSERT_EQ(wholeReads.size(), 16U);
+    for (const auto& [number, times] : wholeReads)
+        EXPECT_EQ(times, 5) << number.toStdString();
+}
+
+TEST(HttpSession, ReadsWhatA407SaysAndAsksInSpanish) {
+    Rig rig;
+    for (const char* challenge :
+         {"", "Basic realm=\"k\"", "Digest realm=\"k\", nonce=\"n\"", "Negotiate", "NTLM"}) {
+        A answer = A::json(R"({"msg": "el intermediario"})", 407);
+        if (*challenge != 0)
+            answer.headers.emplace_back("Proxy-Authenticate", challenge);
+        rig.server.answer(infoPath, answer);
+        rig.server.answer(orderPath, answer);
+        const Outcome& read = rig.start();
+        Outcome order;
+        sendOrder(rig, order);
+        for (const Outcome* each : std::initializer_list<const Outcome*>{&read, &order}) {
+            ASSERT_TRUE(waitFor([&] { return each->ended(); })) << challenge;
+            ASSERT_EQ(each->failures, 1);
+            EXPECT_EQ(int(each->failure->error.kind), int(Kind::Status)) << challenge;
+            EXPECT_EQ(each->failure->error.status, 407);
+            EXPECT_EQ(*each->failure->messages, QStringList{"el intermediario"}) << challenge;
+        }
+    }
+    EXPECT_EQ(rig.server.requests().size(), 10);
+    for (const ScriptedRequest& request : rig.server.requests())
+        EXPECT_EQ(request.header("accept-language"), "es-ES,es;q=0.9");
 }
 
 TEST(HttpSession, WaitsForTheNetworkInTheBackgroundUpToItsDeadline) {

@@ -1,5 +1,8 @@
 #include "NetworkFixture.h"
+#include "account/UserProfile.h"
 #include "shell/LoginResult.h"
+
+#include <QNetworkReply>
 
 // An expired token and what becomes of the requests that meet it.
 namespace kavor {
@@ -67,6 +70,7 @@ TEST(RequestRetrier, LetsNoFailurePastA401WithoutACredentialButEverySuccess) {
     for (int i = 0; i < 4; ++i) {
         rig.start();
         ASSERT_TRUE(rig.waitForRequests(i + 1));
+        ASSERT_TRUE(waitFor([&] { return rig.manager.isTokenRefreshing(); }));
     }
     for (int i = 0; i < 3; ++i) {
         const Outcome& good = rig.start();
@@ -140,20 +144,94 @@ TEST(RequestRetrier, RepeatsA419EveryTenSecondsAsOftenAsItComes) {
     EXPECT_EQ(rig.server.requests().size(), 16);
 }
 
-TEST(RequestRetrier, LosesARepairWithItsSessionAndCanStartAnother) {
-    Rig rig(true);
+// A server whose every answer is 401, and 422 to the stored password.
+struct RefusingRig : Rig {
+    RefusingRig()
+        : Rig(true) {
+        server.answer(infoPath, A::empty(401));
+        server.answer(loginPath, A::json(R"({"msg": "clave caducada"})", 422));
+    }
+    [[nodiscard]] bool waitForPause(std::chrono::milliseconds pause, qsizetype logins) {
+        return waitFor([&] {
+            return server.requestsTo(loginPath).size() == logins && clock.untilNext() == pause &&
+                   !manager.isTokenRefreshing();
+        });
+    }
+};
+
+TEST(RequestRetrier, PausesLongerAndLongerFromTheFourthFailedLoginOnAndNeverGivesUp) {
+    RefusingRig rig;
+    const Outcome& outcome = rig.start();
+    qsizetype logins = 4;
+    for (const auto pause : {1s, 2s, 4s, 8s, 16s, 32s, 60s, 60s, 60s}) {
+        ASSERT_TRUE(rig.waitForPause(pause, logins)) << logins;
+        rig.clock.advance(pause - 1ms);
+        EXPECT_EQ(rig.server.requestsTo(infoPath).size(), logins);
+        if (++logins == 13)
+            rig.server.answer(loginPath, A::json(goodLogin));
+        rig.clock.advance(1ms);
+    }
+    ASSERT_TRUE(waitFor([&] { return rig.server.requestsTo(loginPath).size() == logins; }));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    ASSERT_TRUE(waitFor([&] { return outcome.ended(); }));
+    EXPECT_EQ(outcome.successes, 1);
+}
+
+TEST(RequestRetrier, BeginsWithoutPausesAgainWhenAnyRequestIsAnsweredOtherwise) {
+    RefusingRig rig;
+    rig.start();
+    ASSERT_TRUE(rig.waitForPause(1s, 4));
+    rig.clock.advance(1s);
+    ASSERT_TRUE(rig.waitForPause(2s, 5));
+    Outcome other; // a 404
+    rig.manager.profileInformation(other.completion<UserProfile>());
+    ASSERT_TRUE(waitFor([&] { return other.ended(); }));
+    rig.clock.advance(2s);
+    EXPECT_TRUE(rig.waitForPause(1s, 9));
+}
+
+TEST(RequestRetrier, LogsInForNobodyDuringAPauseAndAnswersEverybodyAfterIt) {
+    RefusingRig rig;
+    const Outcome& first = rig.start();
+    ASSERT_TRUE(rig.waitForPause(1s, 4));
+    const Outcome& second = rig.start();
+    ASSERT_TRUE(waitFor([&] { return rig.manager.findChildren<QNetworkReply*>().isEmpty(); }));
+    EXPECT_EQ(rig.clock.pending(), 3) << "the pause and two repeats";
+    EXPECT_EQ(rig.server.requestsTo(loginPath).size(), 4);
     rig.server.then(infoPath, A::empty(401));
-    rig.server.then(loginPath, A::of(A::Kind::Silence));
-    rig.server.answer(loginPath, A::json(goodLogin));
-    const Outcome& lost = rig.start();
-    ASSERT_TRUE(waitFor([&] { return !rig.server.requestsTo(loginPath).isEmpty(); }));
-    rig.manager.configureSession(NetworkManager::defaultConfiguration());
     rig.server.then(infoPath, A::empty(401));
     rig.server.answer(infoPath, A::json(goodLogin));
-    const Outcome& next = rig.start();
-    ASSERT_TRUE(waitFor([&] { return next.ended(); }));
-    EXPECT_EQ(next.successes, 1);
-    EXPECT_FALSE(lost.ended());
+    rig.server.answer(loginPath, A::json(goodLogin));
+    rig.clock.advance(1s);
+    ASSERT_TRUE(waitFor([&] { return first.ended() || second.ended(); }));
+    // Whichever met the repair under way waits for one more pause.
+    ASSERT_TRUE(waitFor([&] {
+        if (rig.clock.untilNext() == 1s)
+            rig.clock.advance(1s);
+        return first.ended() && second.ended();
+    }));
+    EXPECT_EQ(first.successes + second.successes, 2);
+}
+
+TEST(RequestRetrier, BringsARepairToItsEndThroughTwoSwapsOfTheSession) {
+    Rig rig(true);
+    rig.server.then(infoPath, A::empty(401));
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.server.answer(loginPath, A::json(goodLogin));
+    rig.server.hold();
+    const Outcome& outcome = rig.start();
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 1; }));
+    rig.manager.configureSession(NetworkManager::backgroundConfiguration());
+    rig.server.release();
+    rig.server.hold();
+    ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 1; })); // the login
+    rig.manager.configureSession(NetworkManager::defaultConfiguration());
+    rig.server.release();
+    ASSERT_TRUE(waitFor([&] { return outcome.ended(); }));
+    EXPECT_EQ(outcome.successes, 1);
+    EXPECT_EQ(rig.server.requestsTo(loginPath).size(), 1);
+    EXPECT_EQ(requestsWith(rig.server, infoPath, "Bearer fresh"), 1);
+    EXPECT_FALSE(rig.manager.isTokenRefreshing());
 }
 
 } // namespace

@@ -162,6 +162,38 @@ TEST_F(ResourceUpdateRunTest, WaitsForFontsButNotForTheBackground) {
     EXPECT_TRUE(log.contains("New fonts to download: []."));
 }
 
+// The server answers nothing of the background: whatever else is wanted comes all the same.
+TEST_F(ResourceUpdateRunTest, HoldsFiveOfEachClassAndLetsTheBackgroundHoldUpNobody) {
+    addImages(12, 1);
+    addImages(12, 2);
+    catalogue.textile.emplace().typographies = {font("New", "new.ttf", "/roboto")};
+    server.setHandler([](const ScriptedRequest& request) {
+        return request.path.startsWith("/2/") && request.path != "/2/11"
+                   ? ScriptedAnswer::of(ScriptedAnswer::Kind::Silence)
+                   : ScriptedAnswer::bytes("a picture", "image/png");
+    });
+    server.hold();
+    int picturesEnded = 0;
+    QObject::connect(&run, &ResourceUpdateRun::picturesEnded, &run, [&] { ++picturesEnded; });
+    run.start(catalogue, {});
+    run.start(catalogue, {}); // two refreshes share the places
+    ASSERT_TRUE(waitFor([&] { return server.waiting() == 10; }));
+    bool isShown = false;
+    cache.fetch({"/2/11", server.url("/2/11")}, &server,
+                [&](const auto& path) { isShown = path.has_value(); });
+    ASSERT_TRUE(waitFor([&] { return server.waiting() == 11; }));
+    server.release();
+    ASSERT_TRUE(waitFor([&] { return ends == 2 && isShown; }));
+    EXPECT_TRUE(registered("New"));
+    EXPECT_TRUE(cache.isCached("/1/11"));
+    const auto fonts = server.requestsTo("/roboto").size();
+    EXPECT_EQ(server.requests().size() - fonts, 12 + 5 + 1)
+        << "class 1, five of class 2 and the picture on show";
+    EXPECT_EQ(picturesEnded, 0);
+    server.shutDown();
+    EXPECT_TRUE(waitFor([&] { return picturesEnded == 2; }));
+}
+
 TEST(ResourceUpdateRun, ShowsHowFarItIs) {
     EXPECT_EQ(ResourceUpdateRun::label(3, 12), "Actualizando imágenes 3/12");
     EXPECT_NEAR(ResourceUpdateRun::fraction(0, 12), 2.0 / 3, 1e-9);

@@ -5,12 +5,15 @@
 #include "catalogue/services/FontUpdater.h"
 #include "device/Prefetcher.h"
 
+#include <memory>
 #include <utility>
 #include <vector>
 
 namespace kavor {
 
 namespace {
+
+using Lane = PlainDownloader::Lane;
 
 constexpr int withProgress = 1;
 constexpr int inBackground = 2;
@@ -36,9 +39,14 @@ ResourceUpdateRun::ResourceUpdateRun(ImageCache& cache, FontUpdater& fonts, Noti
     , notifications_(notifications) {}
 
 void ResourceUpdateRun::start(const ApplicationInformation& catalogue, const Progress& progress) {
-    const auto launch = [](Prefetcher* prefetcher) {
-        connect(prefetcher, &Prefetcher::finished, prefetcher, &QObject::deleteLater);
+    const auto launch = [this, pending = std::make_shared<int>(2)](Prefetcher* prefetcher, Lane lane) {
+        connect(prefetcher, &Prefetcher::finished, this, [this, prefetcher, pending] {
+            prefetcher->deleteLater();
+            if (--*pending == 0)
+                emit picturesEnded();
+        });
         prefetcher->setMaxConcurrentDownloads(concurrency);
+        prefetcher->setLane(lane);
         prefetcher->start();
     };
     auto waitedFor = ofType(catalogue.images, withProgress);
@@ -56,8 +64,8 @@ void ResourceUpdateRun::start(const ApplicationInformation& catalogue, const Pro
             notifications.post(notification::updatingResourcesDidEnd);
         });
     };
-    launch(new Prefetcher(cache_, std::move(waitedFor), advance, goOn, this));
-    launch(new Prefetcher(cache_, ofType(catalogue.images, inBackground), {}, {}, this));
+    launch(new Prefetcher(cache_, std::move(waitedFor), advance, goOn, this), Lane::Ahead);
+    launch(new Prefetcher(cache_, ofType(catalogue.images, inBackground), {}, {}, this), Lane::Background);
 }
 
 QString ResourceUpdateRun::label(int count, int total) {

@@ -32,6 +32,10 @@ public:
     // The position of the progress indicator, from two thirds to one.
     [[nodiscard]] static double fraction(int count, int total);
 
+signals:
+    // All pictures of a run have been dealt with, also those of the background, whatever failed.
+    void picturesEnded();
+
 private:
     ImageCache& cache_;
     FontUpdater& fonts_;
