@@ -43,6 +43,7 @@ private:
     void showDashboard();
     void openBeerMenu();
     void fillConfiguration();
+    void chooseLogo();
     void chooseProducts();
     void tryIncomplete();
     void setPrices();
