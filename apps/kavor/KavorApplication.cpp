@@ -18,7 +18,6 @@
 #include "device/KeychainStore.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
-#include "device/PhotoPicker.h"
 #include "device/PlainDownloader.h"
 #include "device/PushRegistration.h"
 #include "device/Reachability.h"
@@ -32,6 +31,7 @@
 #include "orders/services/OrderSyncManager.h"
 #include "shell/AppSingleton.h"
 #include "shell/screens/Artwork.h"
+#include "shell/screens/PhotoLibraryViewController.h"
 #include "shell/screens/ResourceImages.h"
 #include "shell/screens/RootController.h"
 #include "shell/screens/Screens.h"
@@ -141,7 +141,7 @@ struct KavorApplication::Parts {
     OrderSyncManager sync;
     AlertPresenter alerts;
     SystemUrlOpener urls;
-    FilePhotoPicker photos; // no photo library on a desktop: every pick says so
+    PhotoLibraryViewController photos{alerts, defaults};
     QtLocationService locationService;
     NoReverseGeocoder geocoder;
     ReverseLocationManager location;
@@ -213,7 +213,8 @@ bool KavorApplication::start() {
     registerUi(parts_->engine);
     registerScreens(parts_->engine);
     parts_->engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));
-    parts_->engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&parts_->root)}});
+    parts_->engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&parts_->root)},
+                                         {QStringLiteral("photos"), QVariant::fromValue(&parts_->photos)}});
     parts_->engine.load(screenView("MainWindow"));
     if (parts_->engine.rootObjects().isEmpty())
         return false;
@@ -270,6 +271,10 @@ AlertPresenter& KavorApplication::alerts() {
 
 ServiceOperations& KavorApplication::network() {
     return parts_->network;
+}
+
+PhotoLibraryViewController& KavorApplication::photos() {
+    return parts_->photos;
 }
 
 void KavorApplication::setOffline(bool offline) {

@@ -13,6 +13,7 @@ namespace kavor {
 
 class AlertPresenter;
 class AppDelegate;
+class PhotoLibraryViewController;
 class RootController;
 class ServiceOperations;
 class SessionStore;
@@ -45,6 +46,7 @@ public:
     [[nodiscard]] AppDelegate& delegate();
     [[nodiscard]] AlertPresenter& alerts();
     [[nodiscard]] ServiceOperations& network();
+    [[nodiscard]] PhotoLibraryViewController& photos();
     // Makes the client believe that there is no network, or ends that.
     void setOffline(bool offline);
     // Brings the window to the front and opens the URLs.

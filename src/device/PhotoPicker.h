@@ -3,9 +3,11 @@
 #include <QImage>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
+#include <tl/expected.hpp>
 
 namespace kavor {
 
@@ -13,7 +15,7 @@ namespace kavor {
 class PhotoPicker : public QObject {
     Q_OBJECT
 public:
-    // The chosen photo, upright, or nothing when the user chose none or it cannot be read.
+    // The chosen photo, upright, or nothing when the user chose none.
     using Callback = std::function<void(const std::optional<QImage>&)>;
 
     using QObject::QObject;
@@ -21,18 +23,14 @@ public:
     virtual bool pick(QObject* context, Callback callback) = 0;
 };
 
-// Always picks the one file that it was given, decoded off the main thread.
-class FilePhotoPicker : public PhotoPicker {
-    Q_OBJECT
-public:
-    static constexpr qint64 largestFile = 64LL * 1024 * 1024;
+// Why a picture file gives no photo.
+enum class PhotoFault { tooLarge, unreadable };
 
-    explicit FilePhotoPicker(QString path = {}, QObject* parent = nullptr);
-    void setPath(const QString& path) { path_ = path; }
-    bool pick(QObject* context, Callback callback) override;
+inline constexpr qint64 largestPhotoFile = 64LL * 1024 * 1024; // bytes
 
-private:
-    QString path_;
-};
+// The photo in a file, upright as its camera says, and no larger than anything here needs. For any thread.
+tl::expected<QImage, PhotoFault> readPhoto(const QString& path);
+// The patterns of the picture files that can be read here, such as "*.png".
+QStringList photoNameFilters();
 
 } // namespace kavor

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace kavor {
@@ -70,6 +71,22 @@ std::string OrderDiskManager::plainName(std::string_view fileName) {
 
 std::string OrderDiskManager::fileName(std::string_view plainName) {
     return std::string(plainName) + "." + std::string(extension);
+}
+
+std::optional<std::string> OrderDiskManager::refusalOf(std::string_view name) {
+    constexpr std::size_t longest = 255; // bytes, with the extension
+    const auto control = [](unsigned char sign) { return sign < 0x20 || sign == 0x7f; };
+    if (name.find_first_not_of(' ') == std::string_view::npos)
+        return "El nombre no puede estar vacío.";
+    if (name.find('/') != std::string_view::npos)
+        return "El nombre no puede llevar el signo \"/\".";
+    if (name.front() == '.') // "." and "..", and what hides files
+        return "El nombre no puede empezar por un punto.";
+    if (std::ranges::any_of(name, control))
+        return "El nombre no puede llevar saltos de línea, tabuladores ni otros signos invisibles.";
+    if (fileName(name).size() > longest)
+        return "El nombre es demasiado largo.";
+    return std::nullopt;
 }
 
 template <class Order>

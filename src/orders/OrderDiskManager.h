@@ -76,6 +76,8 @@ public:
     // The plain name of a file name.
     static std::string plainName(std::string_view fileName);
     static std::string fileName(std::string_view plainName);
+    // Why a plain name can't become a file, as a sentence for the user; nothing for a name that can.
+    static std::optional<std::string> refusalOf(std::string_view plainName);
 
 private:
     [[nodiscard]] std::filesystem::path folder(std::string_view recordName, DirectoryName directory) const;

@@ -11,6 +11,7 @@
 #include "support/TemporaryFolder.h"
 #include "support/WaitFor.h"
 
+#include <QBuffer>
 #include <QDBusConnection>
 #include <QGuiApplication>
 #include <QTimer>
@@ -119,20 +120,49 @@ TEST(FontRegistry, DrawsAFontThatTheDatabaseDoesNotKnow) {
     EXPECT_TRUE(registry.picture("other", "Bar", 40, Qt::red).isNull());
 }
 
-TEST(FilePhotoPicker, PicksAPictureAndRefusesWhatIsNone) {
+// A JPEG file's content whose camera says how it was held.
+QByteArray turnedJpeg(const QSize& size, char orientation) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPEG");
+    QByteArray note = QByteArray::fromHex("ffe10022" // an Exif segment with the one entry 0x0112
+                                          "457869660000"
+                                          "4d4d002a00000008"
+                                          "0001"
+                                          "01120003000000010001"
+                                          "0000"
+                                          "00000000");
+    note[29] = orientation;
+    return jpeg.insert(2, note);
+}
+
+TEST(ReadPhoto, ReadsAPictureUprightAndRefusesWhatIsNone) {
     const TemporaryFolder folder;
     QImage image(6, 3, QImage::Format_RGB32);
     image.fill(Qt::red);
     image.save(QString::fromStdString(folder / "photo.png"));
+    image.scaled(3000, 1500).save(QString::fromStdString(folder / "large.png"));
+    put(folder / "turned.jpg", turnedJpeg({60, 30}, 6).toStdString());
+    put(folder / "lying.png", turnedJpeg({60, 30}, 1).toStdString());
     put(folder / "text.png", "no picture");
-    for (const auto& [name, size] : {std::pair("photo.png", QSize(6, 3)), std::pair("text.png", QSize())}) {
-        FilePhotoPicker picker(QString::fromStdString(folder / name));
-        std::optional<std::optional<QImage>> answer;
-        EXPECT_TRUE(picker.pick(nullptr, [&](const std::optional<QImage>& photo) { answer = photo; }));
-        ASSERT_TRUE(waitFor([&] { return answer.has_value(); })) << name;
-        EXPECT_EQ(answer->has_value() ? (*answer)->size() : QSize(), size) << name;
-    }
-    EXPECT_FALSE(FilePhotoPicker("/nowhere").pick(nullptr, {}));
+    put(folder / "heavy.png", "");
+    std::filesystem::resize_file(folder / "heavy.png", std::uintmax_t(largestPhotoFile) + 1);
+    const auto sizeOf = [&](const char* name) {
+        const auto photo = readPhoto(QString::fromStdString(folder / name));
+        return photo ? photo->size() : QSize();
+    };
+    EXPECT_EQ(sizeOf("photo.png"), QSize(6, 3));
+    EXPECT_EQ(sizeOf("large.png"), QSize(2048, 1024));
+    EXPECT_EQ(sizeOf("turned.jpg"), QSize(30, 60));
+    EXPECT_EQ(sizeOf("lying.png"), QSize(60, 30)); // a JPEG, whatever its name says
+    EXPECT_EQ(readPhoto(QString::fromStdString(folder / "text.png")).error(), PhotoFault::unreadable);
+    EXPECT_EQ(readPhoto(QString::fromStdString(folder / "heavy.png")).error(), PhotoFault::tooLarge);
+    EXPECT_EQ(readPhoto("/nowhere.png").error(), PhotoFault::unreadable);
+    EXPECT_TRUE(photoNameFilters().contains("*.png"));
+    EXPECT_TRUE(photoNameFilters().contains("*.jpg"));
 }
 
 TEST(ReverseLocationManager, ReportsPlacemarksAndEachKindOfFailure) {

@@ -57,6 +57,35 @@ TEST_F(OrderFiles, CreateKeepsAndUpdateReplacesWhatExists) {
     EXPECT_TRUE(disk.exists<SaveBrochuresOrder>("a", outbox));
 }
 
+TEST_F(OrderFiles, ANameIsRefusedWithTheReasonExactlyWhenItCannotBecomeAFile) {
+    struct Case {
+        std::string name;
+        std::string part; // of the sentence; empty: the name is good
+    };
+    const Case cases[] = {
+        {"terraza 1/2", "el signo \"/\""},
+        {"/", "el signo \"/\""},
+        {"", "vacío"},
+        {"  ", "vacío"},
+        {".", "por un punto"},
+        {"..", "por un punto"},
+        {".tmp-7-1", "por un punto"},
+        {"a\nb", "invisibles"},
+        {std::string("a\0b", 3), "invisibles"},
+        {std::string(252, 'a'), "largo"},
+        {std::string(251, 'a'), ""},
+        {"Bar Olmo nº 3 (ñ) v1.2", ""},
+    };
+    for (const Case& each : cases) {
+        const auto refusal = OrderDiskManager::refusalOf(each.name);
+        EXPECT_EQ(refusal.has_value(), !each.part.empty()) << each.name;
+        EXPECT_NE(refusal.value_or("").find(each.part), std::string::npos) << *refusal;
+        if (!refusal) {
+            EXPECT_TRUE(disk.create(order(1), draft, each.name)) << each.name;
+        }
+    }
+}
+
 TEST_F(OrderFiles, TheListHasOrderFilesOnly) {
     for (const auto* name : {"b.txt", "c.ZVO", "zvo", "d.zvo.bak", "broken.zvo"})
         folder.put(draftFolder + name, "{");

@@ -153,6 +153,25 @@ TEST_F(ConfigurationTest, LanguagesAreThoseOfTheKindByPosition) {
     EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, std::nullopt}));
 }
 
+TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
+    using Languages = BrochureIntermediateData::MainAndSecondary;
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
+    open();
+    step->chooseMainLanguage(1);
+    EXPECT_EQ(step->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
+    step->chooseSecondaryLanguage(2);
+    EXPECT_EQ(draft().currentLanguages(), (Languages{2, 3}));
+    step->chooseMainLanguage(2); // the two change places
+    EXPECT_EQ(draft().currentLanguages(), (Languages{3, 2}));
+    EXPECT_EQ(step->secondaryLanguages().value(step->secondaryLanguage()), "Catalán");
+    step->chooseMainLanguage(0);
+    EXPECT_EQ(draft().currentLanguages(), (Languages{1, 2}));
+    draft().setLanguages(1, 1); // an order from elsewhere
+    EXPECT_EQ(step->secondaryLanguage(), 0);
+    step->serializeAutoSave();
+    EXPECT_EQ(draft().currentLanguages(), (Languages{1, std::nullopt}));
+}
+
 TEST_F(ConfigurationTest, ASecondPriceStartsWithTheFirstListAndChoosingItAgainKeepsWhatWasTyped) {
     open();
     draft().setFormatSelected(true, knownFormat, knownBrand);

@@ -136,6 +136,48 @@ TEST_F(MenuTest, ACopyOnDiskIsTakenUpAndGoneUntilTheNextStep) {
     EXPECT_TRUE(temporaryCopy());
 }
 
+TEST_F(MenuTest, ACopyInWhichTheUserEnteredNothingComesBackWithoutAWord) {
+    {
+        Menu menu(services);
+        for (const int button : {Menu::Style, Menu::DigitalStyle, Menu::Products, Menu::Prices, Menu::Send})
+            menu.buttonPushedAction(button); // each writes what it starts with
+    }
+    ASSERT_TRUE(draft().selectedStyleIdentifier);
+    const Menu menu(services);
+    EXPECT_EQ(draft().selectedStyleIdentifier, 5);
+    EXPECT_EQ(menu.recoveredMessage(), QString());
+}
+
+TEST_F(MenuTest, ThePreviewOfTheConfigurationLeavesItOnShowWhateverComesOfIt) {
+    Menu menu(services);
+    auto* step = configuration(menu);
+    step->previewAction();
+    EXPECT_TRUE(alert().starts_with("Pedido incompleto | Faltan por seleccionar los idiomas\n"));
+    press("Aceptar");
+    menu.buttonPushedAction(Menu::Products);
+    completeDraft();
+    menu.buttonPushedAction(Menu::Configuration);
+    step = configuration(menu);
+    step->previewAction();
+    EXPECT_EQ(menu.veilText(), "Preparando la vista previa…");
+    ASSERT_TRUE(network.requests.saveOrder.fail(failureWith({"motivo"})));
+    EXPECT_EQ(alert(), "El pedido no se puede previsualizar | motivo");
+    press("Aceptar");
+    step->previewAction();
+    SaveBrochuresOrderResponse answer;
+    answer.urlPDF = Url{"http://127.0.0.1:9/a.pdf"};
+    ASSERT_TRUE(network.requests.saveOrder.succeed(answer));
+    EXPECT_TRUE(menu.preview());
+    EXPECT_EQ(configuration(menu), step);
+    EXPECT_EQ(menu.selectedButton(), Menu::Configuration);
+
+    step->previewAction();
+    menu.buttonPushedAction(Menu::Products);
+    const auto* former = menu.preview();
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_EQ(menu.preview(), former); // the answer came too late
+}
+
 TEST_F(MenuTest, WithoutACopyTheDraftInMemoryGoesOn) {
     completeDraft();
     Menu menu(services);
@@ -191,6 +233,9 @@ TEST_F(MenuTest, TheVeilFollowsItsNotification) {
     auto& center = NotificationCenter::shared();
     center.post(notification::visibilityVeilView, {{"show", true}});
     EXPECT_TRUE(menu.isVeilVisible());
+    EXPECT_EQ(menu.veilText(), QString());
+    center.post(notification::visibilityVeilView, {{"show", true}, {"text", std::string("Un momento…")}});
+    EXPECT_EQ(menu.veilText(), "Un momento…");
     center.post(notification::visibilityVeilView); // without the key it goes
     EXPECT_FALSE(menu.isVeilVisible());
 }

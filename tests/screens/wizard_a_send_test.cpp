@@ -248,10 +248,30 @@ TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
     EXPECT_EQ(alert(), "Sin conexión a internet. | Su pedido no se ha podido guardar");
     press("Aceptar");
     network.reachable = true;
-    saveAs("../fuera");
+    draft().fileName = "mi carta";
+    saveAs("otra");
     ASSERT_TRUE(alertComes());
     EXPECT_EQ(alert(), "Error al guardar pedido. | Su pedido no se ha podido guardar");
+    EXPECT_EQ(draft().fileName, "mi carta");
     EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+}
+
+TEST_F(SendTest, ANameThatCannotBeAFileIsRefusedWithItsReasonAndAskedForAgain) {
+    completeDraft();
+    draft().fileName = "mi carta";
+    open();
+    saveAs("terraza 1/2");
+    EXPECT_EQ(alert(), "Atención | El nombre no puede llevar el signo \"/\".");
+    press("Aceptar");
+    ASSERT_TRUE(alerts.current());
+    EXPECT_EQ(alerts.current()->textField->initialText, "terraza 1/2");
+    press("Guardar", "   ");
+    EXPECT_EQ(alert(), "Atención | El nombre no puede estar vacío.");
+    press("Aceptar");
+    press("Cancelar");
+    EXPECT_FALSE(alerts.isVisible());
+    EXPECT_FALSE(veil);
+    EXPECT_EQ(draft().fileName, "mi carta");
 }
 
 TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {

@@ -240,6 +240,50 @@ TEST_F(PriceStep, CountsThePlacesThatAHighlightNeeds) {
     }
 }
 
+TEST_F(PriceStep, TakesAHighlightBackThatTheCarouselNoLongerCan) {
+    builder.product(11).productList[0].positionHighlightable = 1;
+    builder.parameters(BrochureType::beer).maxBrandSelection = 4;
+    builder.parameters(BrochureType::beer).highLightedNumber = 2;
+    open(BrochureType::beer);
+    draft().setFormatSelected(true, 110, 11);
+    draft().setFormatSelected(true, 100, 10);
+    draft().setFormatHighlighted(true, 100, 10);
+    appear();
+    dismissAlert();
+    auto& zone = *step->highlight();
+    EXPECT_FALSE(zone.isCarouselEnabled()); // the highlight itself takes the room
+    EXPECT_TRUE(zone.isRemoveHighlightVisible());
+    zone.removeHighlight();
+    EXPECT_TRUE(draft().highlightedBrands.empty());
+    EXPECT_EQ(zone.currentIndex(), 0);
+    EXPECT_EQ(zone.brandAndProductHighlightedLabel(), "Sin producto destacado");
+    EXPECT_TRUE(zone.isCarouselEnabled());
+    EXPECT_FALSE(zone.isRemoveHighlightVisible());
+    EXPECT_FALSE(temporaryCopy()->menu.highlightedProductIdentifier);
+    appear(); // what the user took back is not proposed
+    EXPECT_EQ(alert(), "Atención | " + std::string(reminder));
+    dismissAlert();
+    step->highlight()->carouselCurrentItemIndexDidChange(1);
+    EXPECT_FALSE(step->highlight()->isRemoveHighlightVisible()); // the carousel can take it back
+}
+
+TEST_F(PriceStep, ProposesNoHighlightForWhichThereIsNoRoomYet) {
+    builder.product(11).productList[0].positionHighlightable = 1;
+    builder.parameters(BrochureType::beer).maxBrandSelection = 3;
+    builder.parameters(BrochureType::beer).highLightedNumber = 2;
+    open(BrochureType::beer);
+    draft().setFormatSelected(true, 110, 11);
+    draft().setFormatSelected(true, 100, 10);
+    appear();
+    EXPECT_EQ(alert(), "Atención | " + std::string(reminder));
+    EXPECT_TRUE(draft().highlightedBrands.empty());
+    dismissAlert();
+    draft().setFormatSelected(false, 100, 10);
+    appear();
+    EXPECT_EQ(alert(),
+              "Atención | " + std::string(reminder) + "\nSe ha seleccionado Encina - Tercio por defecto.");
+}
+
 TEST_F(PriceStep, HidesTheHighlightZoneOrItsCarouselWhereThereIsNothingToHighlight) {
     open(BrochureType::beer);
     draft().setFormatSelected(true, 101, 10); // not highlightable

@@ -160,6 +160,62 @@ TEST_F(StyleStep, AsksForTheQuantitiesAsTheKindSays) {
     EXPECT_EQ(draft().selectedNumberOfBrochures->main, 3); // what isn't shown isn't written
 }
 
+TEST_F(StyleStep, MarksAQuantityOutOfRangeWhereItIsTyped) {
+    builder.type(BrochureType::beer).isSecondBrochuresPriceAllowed = true;
+    open(BrochureType::beer);
+    draft().setSecondPrice(PriceType::terrace);
+    appear();
+    auto& form = *step->quantities();
+    const auto* range = "Se pueden pedir de 5 a 50.";
+    EXPECT_EQ(form.numberBrochuresError(), ""); // nothing typed is not wrong
+    form.type(0, "2");
+    EXPECT_EQ(form.numberBrochuresError(), ""); // it may become 25
+    form.leave(0);
+    EXPECT_EQ(form.numberBrochuresError(), range);
+    form.type(0, "25");
+    EXPECT_EQ(form.numberBrochuresError(), "");
+    form.type(0, "251");
+    EXPECT_EQ(form.numberBrochuresError(), range);
+    form.type(1, "51");
+    EXPECT_EQ(form.secondPriceNumberBrochuresError(), range);
+    appear(); // also when it was stored so
+    EXPECT_EQ(step->quantities()->numberBrochuresError(), range);
+    builder.parameters(BrochureType::beer).multiPrices = false;
+    session.applicationInformation = builder.take();
+    appear();
+    EXPECT_EQ(step->quantities()->secondPriceNumberBrochuresError(), ""); // it isn't checked then
+    draft().includePaperBrochure = false;
+    appear();
+    EXPECT_EQ(step->quantities()->numberBrochuresError(), "");
+}
+
+TEST_F(StyleStep, KeepsAndMarksAStoredQuantityThatIsNoLongerOffered) {
+    auto& limits = builder.information.validations;
+    limits.lstMenuQrTableQuantity = {10, 20};
+    limits.lstMenuQrDoorQuantity = {1, 2};
+    builder.parameters(BrochureType::beer).rangeOrderQuantity = {25, 50};
+    builder.parameters(BrochureType::beer).withTaco = true;
+    open(BrochureType::beer);
+    draft().selectedNumberOfBrochures = {30, std::nullopt};
+    draft().selectedQuantityQr = 15;
+    appear(true);
+    EXPECT_EQ(step->quantities()->selectorQuantity1Picker(), -1);
+    EXPECT_EQ(step->quantities()->numberBrochuresError(),
+              "30 no está entre las cantidades disponibles (de 25 a 50).");
+    auto& qr = *step->brandQr();
+    EXPECT_EQ(qr.tableError(), "15 no está entre las cantidades disponibles (de 10 a 20).");
+    EXPECT_EQ(qr.doorError(), "");
+    step->serializeAutoSave();
+    EXPECT_EQ(draft().selectedNumberOfBrochures->main, 30);
+    EXPECT_EQ(draft().selectedQuantityQr, 15);
+    step->quantities()->choose(0, 1);
+    EXPECT_EQ(step->quantities()->numberBrochuresError(), "");
+    qr.chooseType(1); // takes the vinyls away
+    qr.chooseType(0);
+    EXPECT_EQ(qr.tableError(), "");
+    EXPECT_EQ(draft().selectedQuantityQr, 10);
+}
+
 TEST_F(StyleStep, OffersTheQrMaterialOfTheSelectedBrandsInTheDigitalSection) {
     auto& limits = builder.information.validations;
     limits.lstMenuQrTableQuantity = {0, 10, 20};

@@ -7,6 +7,7 @@
 #include "kavor/KavorApplication.h"
 #include "orders/OrderDiskManager.h"
 #include "shell/AppSingleton.h"
+#include "shell/screens/PhotoLibraryViewController.h"
 #include "shell/screens/RootController.h"
 #include "support/WindowWatch.h"
 
@@ -253,7 +254,25 @@ void Tour::fillConfiguration() {
     chooseFirst(QStringLiteral("firstLanguagePicker"));
     touch_->waitUntil(QStringLiteral("a language in the draft"),
                       [] { return draft().currentLanguages().has_value(); });
+    chooseLogo();
     shot(QStringLiteral("configuracion"));
+}
+
+// The bar's logo, from a folder of the device in which there is nothing else.
+void Tour::chooseLogo() {
+    const QString folder = options_.documents + QStringLiteral("-fotos");
+    QDir().mkpath(folder);
+    QImage logo(320, 200, QImage::Format_RGB32);
+    logo.fill(QColor(0xe0, 0xa1, 0x26));
+    must(logo.save(folder + QStringLiteral("/logotipo.png")), QStringLiteral("write the logo"));
+    const auto former = draft().customerInformation->imageLogo;
+    touch_->tap(QStringLiteral("searchLogoInGallery"));
+    touch_->await(QStringLiteral("photoGrid"));
+    application_->photos().open(QUrl::fromLocalFile(folder));
+    touch_->tap(QStringLiteral("photoEntry0"));
+    touch_->awaitGone(QStringLiteral("photoLibrary"));
+    touch_->waitUntil(QStringLiteral("the logo in the draft"),
+                      [&] { return draft().customerInformation->imageLogo != former; });
 }
 
 void Tour::chooseProducts() {

@@ -45,6 +45,7 @@ private:
     void showDashboard();
     void openBeerMenu();
     void fillConfiguration();
+    void chooseLogo();
     void chooseProducts();
     void tryIncomplete();
     void setPrices();

@@ -85,9 +85,13 @@ TEST(QuantityField, AsksOnlyForValuesWithinItsLimits) {
     scene.click("copiesMinus");
     scene.click("copies");
     scene.type("250");
+    EXPECT_EQ(scene.value("copies", "mark"), "De 1 a 3.");
     scene.key(Qt::Key_Tab);
     EXPECT_EQ(scene.log(), QStringList({"3", "2", "3"}));
     EXPECT_EQ(fieldText(scene, "copies"), "3");
+    EXPECT_EQ(scene.value("copies", "mark"), "De 1 a 3.") << "3 is not what was typed";
+    scene.click("copiesMinus");
+    EXPECT_EQ(scene.value("copies", "mark"), "");
 }
 
 TEST(SwitchRow, AsksByTapAndBySpaceAndShowsWhatItsOwnerSays) {

@@ -27,6 +27,7 @@ Card {
         label: "Nº vinilos mesa"
         model: card.form.tableQuantities
         currentIndex: card.form.brandQrQuantityTablePicker
+        error: card.form.tableError
         onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Table, index)
     }
     PickerRow {
@@ -36,6 +37,7 @@ Card {
         label: "Nº vinilos puerta"
         model: card.form.doorQuantities
         currentIndex: card.form.brandQrQuantityDoorPicker
+        error: card.form.doorError
         onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Door, index)
     }
     PickerRow {
@@ -45,6 +47,7 @@ Card {
         label: "Nº tacos de madera"
         model: card.form.tacoQuantities
         currentIndex: card.form.brandQrQuantityTacoPicker
+        error: card.form.tacoError
         onActivated: (index) => card.form.chooseQuantity(BrandQrForm.Taco, index)
     }
     HelpText {
@@ -52,57 +55,67 @@ Card {
         visible: card.form.brands.length === 0
         text: "Selecciona en Productos una marca que tenga material con QR."
     }
-    Carousel {
-        id: carousel
+    CarouselArrows {
+        id: arrows
 
-        objectName: card.form.wooden ? "brandQrTacoCarousel" : "brandQrCarousel"
         width: parent.width
         height: visible ? 220 : 0
         visible: card.form.brands.length > 0
-        itemWidth: 180
-        text: "Marca del material con QR"
-        model: card.form.brands
-        onSelected: (index) => card.form.brandQrCarouselDidChange(index)
-        onTapped: card.zoomed()
-        onModelChanged: currentIndex = card.form.currentBrand
-        Component.onCompleted: currentIndex = card.form.currentBrand
+        middle: carousel
 
-        delegate: Item {
-            id: entry
+        Carousel {
+            id: carousel
 
-            required property var modelData
-            readonly property bool current: ListView.isCurrentItem
+            x: arrows.side
+            width: parent.width - 2 * x
+            height: parent.height
+            showButtons: false
+            objectName: card.form.wooden ? "brandQrTacoCarousel" : "brandQrCarousel"
+            itemWidth: 180
+            text: "Marca del material con QR"
+            model: card.form.brands
+            onSelected: (index) => card.form.brandQrCarouselDidChange(index)
+            onTapped: card.zoomed()
+            onModelChanged: currentIndex = card.form.currentBrand
+            Component.onCompleted: currentIndex = card.form.currentBrand
 
-            width: carousel.itemWidth
-            height: ListView.view ? ListView.view.height : 180
+            delegate: Item {
+                id: entry
 
-            ResourceImage {
-                id: picture
+                required property var modelData
+                readonly property bool current: ListView.isCurrentItem
 
-                anchors.fill: parent
-                anchors.margins: 4
-                anchors.bottomMargin: 28
-                source: entry.modelData.source
-                text: entry.modelData.text
-                mat: Theme.paper
-                placeholderIcon: "qr"
-                fillMode: Image.PreserveAspectFit
-            }
-            Rectangle {
-                anchors.fill: picture
-                anchors.margins: -3
-                radius: Theme.radius + 3
-                color: "transparent"
-                border.width: entry.current ? 3 : 1
-                border.color: entry.current ? Theme.amber : Theme.hairline
-            }
-            HelpText {
-                anchors.bottom: parent.bottom
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                text: entry.modelData.text
-                elide: Text.ElideRight
-                maximumLineCount: 1
+                width: carousel.itemWidth
+                height: ListView.view ? ListView.view.height : 180
+
+                ResourceImage {
+                    id: picture
+
+                    anchors.fill: parent
+                    anchors.margins: 4
+                    anchors.bottomMargin: 28
+                    source: entry.modelData.source
+                    text: entry.modelData.text
+                    mat: Theme.paper
+                    placeholderIcon: "qr"
+                    fillMode: Image.PreserveAspectFit
+                }
+                Rectangle {
+                    anchors.fill: picture
+                    anchors.margins: -3
+                    radius: Theme.radius + 3
+                    color: "transparent"
+                    border.width: entry.current ? 3 : 1
+                    border.color: entry.current ? Theme.amber : Theme.hairline
+                }
+                HelpText {
+                    anchors.bottom: parent.bottom
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    text: entry.modelData.text
+                    elide: Text.ElideRight
+                    maximumLineCount: 1
+                }
             }
         }
     }

@@ -13,9 +13,8 @@ void BrandQrForm::appear(const StyleContext& context) {
     const BrochureIntermediateData& draft = *context.draft;
     visible_ = context.isSectionStyleDigital && draft.printDigitalBrochure;
     type_ = draft.brandQrTypeSelected == 1 && context.parameters().withTaco ? 1 : 0;
-    rows_[Table] = rowOf(Table, draft.selectedQuantityQr);
-    rows_[Door] = rowOf(Door, draft.selectedQuantityQrCircular);
-    rows_[Taco] = rowOf(Taco, draft.selectedQuantityQrTaco);
+    for (const Quantity quantity : {Table, Door, Taco})
+        rows_[quantity] = rowOf(quantity);
     filteredBrandQrs_.clear();
     if (visible_)
         filterBrands();
@@ -45,9 +44,12 @@ void BrandQrForm::serialize() {
     BrochureIntermediateData& draft = *context_.draft;
     draft.brandQrTypeSelected = type_;
     // A quantity of blocks is how a stored order tells the blocks from the vinyls, so only one kind is kept.
-    draft.selectedQuantityQr = isWooden() ? std::nullopt : chosen(Table);
-    draft.selectedQuantityQrCircular = isWooden() ? std::nullopt : chosen(Door);
-    draft.selectedQuantityQrTaco = isWooden() ? chosen(Taco) : std::nullopt;
+    const auto table = isWooden() ? std::nullopt : chosen(Table);
+    const auto door = isWooden() ? std::nullopt : chosen(Door);
+    const auto taco = isWooden() ? chosen(Taco) : std::nullopt;
+    draft.selectedQuantityQr = table;
+    draft.selectedQuantityQrCircular = door;
+    draft.selectedQuantityQrTaco = taco;
 }
 
 void BrandQrForm::chooseType(int row) {
@@ -55,6 +57,10 @@ void BrandQrForm::chooseType(int row) {
         return;
     type_ = row;
     serialize();
+    for (const Quantity quantity : {Table, Door, Taco}) {
+        if (rows_[quantity] < 0 && !stored(quantity)) // what wasn't offered went with the other type
+            rows_[quantity] = 0;
+    }
     emit changed();
     emit edited();
 }
@@ -99,14 +105,40 @@ QStringList BrandQrForm::texts(Quantity quantity) const {
     return result;
 }
 
-int BrandQrForm::rowOf(Quantity quantity, std::optional<Int> value) const {
+std::optional<Int> BrandQrForm::stored(Quantity quantity) const {
+    const BrochureIntermediateData& draft = *context_.draft;
+    switch (quantity) {
+    case Table:
+        return draft.selectedQuantityQr;
+    case Door:
+        return draft.selectedQuantityQrCircular;
+    case Taco:
+        break;
+    }
+    return draft.selectedQuantityQrTaco;
+}
+
+// Without a quantity the picker starts at the first one.
+int BrandQrForm::rowOf(Quantity quantity) const {
     const auto& numbers = list(quantity);
+    const auto value = stored(quantity);
     const auto found = std::ranges::find_if(numbers, [&](Int number) { return number == value; });
-    return found == numbers.end() ? 0 : int(found - numbers.begin());
+    if (found != numbers.end())
+        return int(found - numbers.begin());
+    return value.value_or(0) > 0 ? -1 : 0;
+}
+
+QString BrandQrForm::errorOf(Quantity quantity) const {
+    const auto& numbers = list(quantity);
+    if (!visible_ || rows_[quantity] >= 0 || numbers.empty())
+        return {};
+    return notOffered(stored(quantity).value_or(0), numbers);
 }
 
 std::optional<Int> BrandQrForm::chosen(Quantity quantity) const {
     const auto& numbers = list(quantity);
+    if (rows_[quantity] < 0) // what is no longer offered stays until another is chosen
+        return stored(quantity);
     return numbers.empty() ? std::nullopt : std::optional(numbers[std::size_t(rows_[quantity])]);
 }
 

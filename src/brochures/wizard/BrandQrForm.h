@@ -26,6 +26,10 @@ class BrandQrForm : public QObject {
     Q_PROPERTY(int brandQrQuantityTablePicker READ brandQrQuantityTablePicker NOTIFY changed)
     Q_PROPERTY(int brandQrQuantityDoorPicker READ brandQrQuantityDoorPicker NOTIFY changed)
     Q_PROPERTY(int brandQrQuantityTacoPicker READ brandQrQuantityTacoPicker NOTIFY changed)
+    // What is wrong with the quantities, each beside its picker; empty when nothing is.
+    Q_PROPERTY(QString tableError READ tableError NOTIFY changed)
+    Q_PROPERTY(QString doorError READ doorError NOTIFY changed)
+    Q_PROPERTY(QString tacoError READ tacoError NOTIFY changed)
     // The entries of the carousel on show: {source, text}.
     Q_PROPERTY(QVariantList brands READ brands NOTIFY changed)
     Q_PROPERTY(int currentBrand READ currentBrand NOTIFY currentBrandChanged)
@@ -52,6 +56,10 @@ public:
     [[nodiscard]] QStringList tableQuantities() const { return texts(Table); }
     [[nodiscard]] QStringList doorQuantities() const { return texts(Door); }
     [[nodiscard]] QStringList tacoQuantities() const { return texts(Taco); }
+    [[nodiscard]] QString tableError() const { return errorOf(Table); }
+    [[nodiscard]] QString doorError() const { return errorOf(Door); }
+    [[nodiscard]] QString tacoError() const { return errorOf(Taco); }
+    // -1 while the draft holds a quantity that the picker doesn't offer.
     [[nodiscard]] int brandQrQuantityTablePicker() const { return rows_[Table]; }
     [[nodiscard]] int brandQrQuantityDoorPicker() const { return rows_[Door]; }
     [[nodiscard]] int brandQrQuantityTacoPicker() const { return rows_[Taco]; }
@@ -69,8 +77,10 @@ signals:
 private:
     [[nodiscard]] const std::vector<Int>& list(Quantity quantity) const;
     [[nodiscard]] QStringList texts(Quantity quantity) const;
-    [[nodiscard]] int rowOf(Quantity quantity, std::optional<Int> value) const;
+    [[nodiscard]] int rowOf(Quantity quantity) const;
+    [[nodiscard]] std::optional<Int> stored(Quantity quantity) const;
     [[nodiscard]] std::optional<Int> chosen(Quantity quantity) const;
+    [[nodiscard]] QString errorOf(Quantity quantity) const;
     void filterBrands();
 
     StyleContext context_;

@@ -172,7 +172,7 @@ void BrochureConfigurationViewController::serializeAutoSave() {
     draft_->customerInformation = std::move(customer);
     applyFixedSwitches();
     const auto chosen = draft_->currentLanguages();
-    if (chosen && chosen->secondary && !isSecondLanguageVisible())
+    if (chosen && chosen->secondary && (!isSecondLanguageVisible() || chosen->secondary == chosen->main))
         draft_->setLanguages(chosen->main, std::nullopt);
 }
 
@@ -212,7 +212,7 @@ void BrochureConfigurationViewController::searchTEVOCodeAction() {
         services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
         return;
     }
-    showVeil(true);
+    showVeil(true, "Buscando el cliente…");
     services_.network.getCustomerDataFromTevoCode(
         tevo(), {this,
                  [this](const std::vector<Customer>& customers) {
@@ -241,7 +241,7 @@ void BrochureConfigurationViewController::fillFrom(const std::vector<Customer>& 
 }
 
 void BrochureConfigurationViewController::locateDeviceAndFillFields() {
-    showVeil(true);
+    showVeil(true, "Buscando la ubicación…");
     startLocation();
 }
 
@@ -334,7 +334,11 @@ void BrochureConfigurationViewController::chooseMainLanguage(int index) {
     if (!id)
         return;
     const auto current = draft_->currentLanguages();
-    draft_->setLanguages(*id, current ? current->secondary : std::nullopt);
+    // The second language as the first one changes places with it: none is chosen twice.
+    const bool swapped = current && current->secondary == *id && current->main != *id;
+    draft_->setLanguages(*id, swapped   ? std::optional(current->main)
+                              : current ? current->secondary
+                                        : std::nullopt);
     emit languagesChanged();
     commit();
 }
@@ -343,7 +347,7 @@ void BrochureConfigurationViewController::chooseSecondaryLanguage(int index) {
     const auto current = draft_->currentLanguages();
     if (!current)
         return;
-    draft_->setLanguages(current->main, languages_.idAt(index - 1)); // the first entry is "Ninguno"
+    draft_->setLanguages(current->main, otherLanguages().idAt(index - 1)); // the first entry is "Ninguno"
     emit languagesChanged();
     commit();
 }
@@ -371,13 +375,22 @@ int BrochureConfigurationViewController::mainLanguage() const {
     return current ? languages_.indexOf(current->main) : -1;
 }
 
+BrochureConfigurationViewController::Options BrochureConfigurationViewController::otherLanguages() const {
+    Options others = languages_;
+    if (const int main = mainLanguage(); main >= 0) {
+        others.ids.erase(others.ids.begin() + main);
+        others.names.removeAt(main);
+    }
+    return others;
+}
+
 QStringList BrochureConfigurationViewController::secondaryLanguages() const {
-    return QStringList{QStringLiteral("Ninguno")} + languages_.names;
+    return QStringList{QStringLiteral("Ninguno")} + otherLanguages().names;
 }
 
 int BrochureConfigurationViewController::secondaryLanguage() const {
     const auto current = draft_->currentLanguages();
-    return current ? languages_.indexOf(current->secondary) + 1 : -1;
+    return current ? otherLanguages().indexOf(current->secondary) + 1 : -1;
 }
 
 bool BrochureConfigurationViewController::isSecondPriceAllowed() const {

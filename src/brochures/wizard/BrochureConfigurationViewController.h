@@ -54,7 +54,8 @@ class BrochureConfigurationViewController : public kavor::WizardStepViewControll
     Q_PROPERTY(QStringList languages READ languages CONSTANT)
     Q_PROPERTY(int mainLanguage READ mainLanguage NOTIFY languagesChanged)
     Q_PROPERTY(bool secondLanguageVisible READ isSecondLanguageVisible CONSTANT)
-    Q_PROPERTY(QStringList secondaryLanguages READ secondaryLanguages CONSTANT) // "Ninguno" first
+    // "Ninguno" and what is not the main language.
+    Q_PROPERTY(QStringList secondaryLanguages READ secondaryLanguages NOTIFY languagesChanged)
     Q_PROPERTY(int secondaryLanguage READ secondaryLanguage NOTIFY languagesChanged)
     Q_PROPERTY(bool secondPriceVisible READ isSecondPriceVisible CONSTANT)
     Q_PROPERTY(bool secondPriceAllowed READ isSecondPriceAllowed NOTIFY secondPriceChanged)
@@ -184,6 +185,7 @@ private:
 
     template <class Record>
     static Options sortedOptions(const std::vector<Record>& records);
+    [[nodiscard]] Options otherLanguages() const; // without the main one
     void fillOptions();
     void buildFieldModels();
     void applyFixedSwitches();

@@ -83,5 +83,5 @@ FocusScope {
         anchors.fill: parent
     }
 
-    Veil { shown: view.controller.veilVisible }
+    Veil { shown: view.controller.veilVisible; text: view.controller.veilText }
 }

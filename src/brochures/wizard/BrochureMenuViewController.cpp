@@ -2,6 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/DraftContent.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/BrochureConfigurationViewController.h"
 #include "brochures/wizard/BrochureSendViewController.h"
@@ -16,6 +17,7 @@
 #include <QVariantMap>
 
 #include <array>
+#include <utility>
 
 namespace kavor {
 
@@ -56,15 +58,6 @@ const Entry* entryOf(int button) {
             return &entry;
     }
     return nullptr;
-}
-
-// Whether the user has entered anything worth a word when it is brought back.
-bool holdsWork(const BrochureIntermediateData& draft) {
-    const auto& customer = draft.customerInformation;
-    return !draft.selectedBrands.empty() || !draft.selectedBeverages.empty() ||
-           draft.selectedLanguageIdentifiers || draft.selectedStyleIdentifier ||
-           draft.selectedStyleDigitalIdentifier ||
-           (customer && (!customer->name.empty() || customer->tevo || customer->email || customer->contact));
 }
 
 QString styleCaption(BrochureType type) {
@@ -115,7 +108,9 @@ void BrochureMenuViewController::viewDidAppear() {
         center.observe(notification::visibilityVeilView, [this](const NotificationInfo& info) {
             const auto show = info.find("show");
             const bool* visible = show == info.end() ? nullptr : std::get_if<bool>(&show->second);
-            setVeilVisible(visible && *visible);
+            const auto text = info.find("text");
+            const auto* words = text == info.end() ? nullptr : std::get_if<std::string>(&text->second);
+            setVeilVisible(visible && *visible, words ? fromUtf8(*words) : QString());
         }));
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
@@ -140,6 +135,7 @@ void BrochureMenuViewController::applyParameters() {
 void BrochureMenuViewController::showStep(int wizardStep) {
     WizardStepViewController* step = makeWizardStep(wizardStep, services_, this);
     leaveActiveStep();
+    delete std::exchange(previewSender_, nullptr); // a late answer shows nothing over another step
     WizardStepViewController* former = activeViewController_;
     activeViewController_ = step;
     connectStep(step);
@@ -169,11 +165,18 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
         return;
     connect(configuration, &BrochureConfigurationViewController::committed, this,
             &BrochureMenuViewController::subtitleChanged);
-    connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this, [this] {
-        buttonPushedAction(Send);
-        if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
-            send->previewAction();
-    });
+    connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this,
+            &BrochureMenuViewController::previewFromConfiguration);
+}
+
+// The configuration stays on show below the preview, and below what the check has to say.
+void BrochureMenuViewController::previewFromConfiguration() {
+    delete std::exchange(previewSender_, new BrochureSendViewController(services_, this));
+    connect(previewSender_, &WizardStepViewController::previewRequested, this,
+            &BrochureMenuViewController::showPreview);
+    previewSender_->viewDidLoad();
+    previewSender_->viewWillAppear();
+    previewSender_->previewAction();
 }
 
 void BrochureMenuViewController::leaveActiveStep() {
@@ -273,7 +276,11 @@ void BrochureMenuViewController::closePreview() {
     emit previewChanged();
 }
 
-void BrochureMenuViewController::setVeilVisible(bool visible) {
+void BrochureMenuViewController::setVeilVisible(bool visible, const QString& text) {
+    if (visible && text != veilText_) { // a veil that goes keeps its words until it is gone
+        veilText_ = text;
+        emit veilTextChanged();
+    }
     if (veilVisible_ == visible)
         return;
     veilVisible_ = visible;

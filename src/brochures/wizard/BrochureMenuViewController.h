@@ -15,6 +15,7 @@
 namespace kavor {
 
 class BrochureIntermediateData;
+class BrochureSendViewController;
 
 // The frame of the brochure wizard: a menu and one step at a time, all working on the one shared draft.
 // Opened with the section of the session set to a kind of brochure.
@@ -32,6 +33,8 @@ class BrochureMenuViewController : public QObject {
     Q_PROPERTY(kavor::WizardStepViewController* activeViewController READ activeViewController NOTIFY
                    activeStepChanged)
     Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
+    // What the veil waits for; empty when its poster does not say.
+    Q_PROPERTY(QString veilText READ veilText NOTIFY veilTextChanged)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
     // The document on show over the wizard, null when there is none.
     Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
@@ -67,6 +70,7 @@ public:
     [[nodiscard]] int selectedButton() const { return selected_; }
     [[nodiscard]] WizardStepViewController* activeViewController() const { return activeViewController_; }
     [[nodiscard]] bool isVeilVisible() const { return veilVisible_; }
+    [[nodiscard]] QString veilText() const { return veilText_; }
     [[nodiscard]] bool isOffline() const;
     [[nodiscard]] WebPreviewViewController* preview() const { return preview_; }
     [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }
@@ -87,6 +91,7 @@ signals:
     void offlineChanged();
     void subtitleChanged();
     void veilVisibleChanged();
+    void veilTextChanged();
     void previewChanged();
 
 private:
@@ -100,16 +105,20 @@ private:
     void select(int index);
     void askForReset();
     void reset();
-    void setVeilVisible(bool visible);
+    void setVeilVisible(bool visible, const QString& text);
+    void previewFromConfiguration();
     void closePreview();
     void connectStep(WizardStepViewController* step);
 
     WizardServices services_;
     QString styleDefaultLabel_;
     QString recoveredMessage_;
+    QString veilText_;
     std::vector<bool> visibleButtons_;
     int selected_ = Configuration;
     WizardStepViewController* activeViewController_ = nullptr;
+    // Prepares the preview that the configuration asked for, without being on show; null otherwise.
+    BrochureSendViewController* previewSender_ = nullptr;
     WebPreviewViewController* preview_ = nullptr;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     std::vector<NotificationCenter::Subscription> observers_;

@@ -17,18 +17,20 @@ void BrochureQuantityForm::appear(const StyleContext& context) {
     context_ = context;
     secondVisible_ = context.type->isSecondBrochuresPriceAllowed && context.draft->currentSecondPrice();
     const auto stored = context.draft->selectedNumberOfBrochures;
-    const std::array<Int, 2> numbers{stored ? stored->main : 0, stored ? stored->secondary.value_or(0) : 0};
+    numbers_ = {stored ? stored->main : 0, stored ? stored->secondary.value_or(0) : 0};
+    typing_ = -1;
     for (std::size_t column = 0; column < 2; ++column) {
-        const auto found = std::ranges::find(range(), numbers[column]);
-        rows_[column] = found == range().end() ? 0 : int(found - range().begin());
-        texts_[column] = numbers[column] > 0 ? QString::number(numbers[column]) : QString();
+        const auto found = std::ranges::find(range(), numbers_[column]);
+        const int otherwise = numbers_[column] > 0 ? -1 : 0; // without a choice it starts at the first one
+        rows_[column] = found == range().end() ? otherwise : int(found - range().begin());
+        texts_[column] = numbers_[column] > 0 ? QString::number(numbers_[column]) : QString();
     }
     emit changed();
 }
 
 Int BrochureQuantityForm::quantity(std::size_t column) const {
-    if (!range().empty())
-        return range()[std::size_t(rows_[column])];
+    if (!range().empty()) // what is no longer offered stays until another is chosen
+        return rows_[column] < 0 ? numbers_[column] : range()[std::size_t(rows_[column])];
     return texts_[column].toLongLong(); // 0 for an empty field
 }
 
@@ -57,9 +59,35 @@ void BrochureQuantityForm::type(int field, const QString& text) {
     if (field < 0 || field > 1)
         return;
     texts_[std::size_t(field)] = text.trimmed();
+    typing_ = field;
     serialize();
     emit changed();
     emit edited();
+}
+
+void BrochureQuantityForm::leave(int field) {
+    if (typing_ != field)
+        return;
+    typing_ = -1;
+    emit changed();
+}
+
+QString BrochureQuantityForm::errorOf(std::size_t column) const {
+    // Only what the check before sending would refuse is wrong.
+    if (!isVisible() || !context_.draft->includePaperBrochure)
+        return {};
+    const auto& parameters = context_.parameters();
+    if (column == 1 && !(secondVisible_ && parameters.multiPrices))
+        return {};
+    if (range().empty() && texts_[column].isEmpty())
+        return {};
+    const Int number = quantity(column);
+    const bool low = number < parameters.minimumOrderQuantity && typing_ != int(column);
+    if (low || number > parameters.maximumOrderQuantity)
+        return QStringLiteral("Se pueden pedir de %1 a %2.")
+            .arg(parameters.minimumOrderQuantity)
+            .arg(parameters.maximumOrderQuantity);
+    return rows_[column] < 0 && !range().empty() ? notOffered(number, range()) : QString();
 }
 
 bool BrochureQuantityForm::isVisible() const {

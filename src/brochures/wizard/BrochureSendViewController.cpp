@@ -15,6 +15,7 @@
 #include "shell/screens/ResourceImages.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kavor {
 
@@ -41,6 +42,21 @@ QString failureTitle(OrderRequestType type) {
         break;
     }
     return opening + QStringLiteral("sincronizar");
+}
+
+constexpr char savingText[] = "Guardando el pedido…";
+
+// What the veil of a send says.
+const char* veilText(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        return "Enviando el pedido…";
+    case OrderRequestType::sendPreview:
+        return "Preparando la vista previa…";
+    case OrderRequestType::saveCloud:
+        break;
+    }
+    return "Guardando el pedido en la nube…";
 }
 
 QUrl qurl(const Url& url) {
@@ -141,7 +157,7 @@ void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QSt
 void BrochureSendViewController::send(OrderRequestType type) {
     if (!services_.network.isReachable())
         return sendOffline(type);
-    showVeil(true);
+    showVeil(true, veilText(type));
     services_.network.saveOrder(
         draft_->makeOrder(type, type != OrderRequestType::saveCloud),
         {this, [this, type](const SaveBrochuresOrderResponse& answer) { sent(type, answer); },
@@ -233,7 +249,7 @@ void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& 
 // -----------------------------------------------------------------------------------------------------
 
 void BrochureSendViewController::queueOffline() {
-    showVeil(true);
+    showVeil(true, savingText);
     std::string name = "Sin enviar";
     for (int number = 1; services_.orders.exists<Order>(name, Directory::outbox); ++number)
         name = "Sin enviar(" + std::to_string(number) + ")";
@@ -255,10 +271,14 @@ void BrochureSendViewController::queueOffline() {
 
 void BrochureSendViewController::saveOrderAction() {
     emit editingShouldEnd();
+    askForName(fromUtf8(draft_->fileName.value_or("")));
+}
+
+void BrochureSendViewController::askForName(const QString& proposal) {
     AlertRequest request = dialogue(QStringLiteral("Guardar como"), {},
                                     {{QStringLiteral("Guardar"), AlertButton::Role::Normal},
                                      {QStringLiteral("Cancelar"), AlertButton::Role::Cancel}});
-    request.textField = AlertTextField{QStringLiteral("Nombre:"), fromUtf8(draft_->fileName.value_or("")), 0};
+    request.textField = AlertTextField{QStringLiteral("Nombre:"), proposal, 0};
     services_.alerts.present(std::move(request), this, [this](const AlertAnswer& answer) {
         if (answer.button == 0 && !answer.text.isEmpty())
             saveUnderName(answer.text);
@@ -266,7 +286,10 @@ void BrochureSendViewController::saveOrderAction() {
 }
 
 void BrochureSendViewController::saveUnderName(const QString& name) {
-    const std::string plainName = name.toStdString();
+    const std::string plainName = name.trimmed().toStdString();
+    if (const auto refusal = OrderDiskManager::refusalOf(plainName))
+        return services_.alerts.inform(QStringLiteral("Atención"), fromUtf8(*refusal), this,
+                                       [this, name] { askForName(name); });
     if (!services_.orders.exists<Order>(plainName, Directory::draft))
         return writeDraftFile(plainName);
     services_.alerts.present(
@@ -281,8 +304,8 @@ void BrochureSendViewController::saveUnderName(const QString& name) {
 }
 
 void BrochureSendViewController::writeDraftFile(const std::string& name) {
-    showVeil(true);
-    draft_->fileName = name;
+    showVeil(true, savingText);
+    const auto former = std::exchange(draft_->fileName, name);
     autosave(draft_);
     runInBackground(
         this,
@@ -291,10 +314,12 @@ void BrochureSendViewController::writeDraftFile(const std::string& name) {
                        ? orders.update(order, OrderDiskManager::fileName(name), Directory::draft)
                        : orders.create(order, Directory::draft, name);
         },
-        [this](bool written) {
+        [this, former](bool written) {
             showVeil(false);
             if (written)
                 return checkAndSend(OrderRequestType::saveCloud);
+            draft_->fileName = former; // the draft is not in a file of that name
+            autosave(draft_);
             services_.alerts.inform(QStringLiteral("Error al guardar pedido."),
                                     QStringLiteral("Su pedido no se ha podido guardar"));
         });

@@ -126,6 +126,7 @@ private:
     void savedInCloud(const SaveBrochuresOrderResponse& response);
     void failed(OrderRequestType type, const RequestFailure& failure);
     void queueOffline();
+    void askForName(const QString& proposal);
     void saveUnderName(const QString& name);
     void writeDraftFile(const std::string& name);
     void setPanelInfoOrderVisible(bool visible);

@@ -31,11 +31,12 @@ void HighlightZone::configure(bool isHighlightable, Int numberOfSelectionSpacesO
 QString HighlightZone::setUp(const std::shared_ptr<BrochureIntermediateData>& draft,
                              const Catalogue& catalogue, const std::vector<PriceRow>& rows) {
     draft_ = draft;
+    catalogue_ = &catalogue;
     QString message =
         QStringLiteral("Recuerda que has de marcar las referencias que sean nuevas para este cliente.");
     if (isHighlightable_) {
         setRows(rows);
-        runSpacesTest(catalogue);
+        runSpacesTest();
         findHighlight(message);
     }
     emit changed();
@@ -60,12 +61,12 @@ void HighlightZone::setRows(const std::vector<PriceRow>& rows) {
     emit dataChanged(index(0), index(after));
 }
 
-void HighlightZone::runSpacesTest(const Catalogue& catalogue) {
+void HighlightZone::runSpacesTest() {
     // A brand counts one however many of its formats are selected; each highlighted format adds its
     // surcharge.
     Int spaces = 0;
     for (const auto& [brand, formats] : draft_->selectedBrands) {
-        const Product* product = catalogue.product(brand);
+        const Product* product = catalogue_->product(brand);
         if (!product || formats.empty())
             continue;
         ++spaces;
@@ -94,7 +95,8 @@ void HighlightZone::findHighlight(QString& message) {
         scrollTo(int(rows.rend() - last), false);
         return;
     }
-    if (!draft_->defaultHighlightedElementVisited) {
+    // Without room for it there is no proposal, nor has it been made then.
+    if (!draft_->defaultHighlightedElementVisited && isCarouselEnabled()) {
         const PriceRow* proposed = nullptr;
         for (const PriceRow& row : rows) {
             if (row.highlightablePosition != 0 &&
@@ -115,6 +117,20 @@ void HighlightZone::findHighlight(QString& message) {
 
 void HighlightZone::scrollToNothing() {
     scrollTo(0, true);
+}
+
+bool HighlightZone::isRemoveHighlightVisible() const {
+    return isHighlightable_ && draft_ && !draft_->highlightedBrands.empty() &&
+           (!isCarouselVisible() || !isCarouselEnabled());
+}
+
+void HighlightZone::removeHighlight() {
+    draft_->highlightedBrands.clear(); // also one whose format has left the catalogue
+    draft_->defaultHighlightedElementVisited = true;
+    runSpacesTest();
+    scrollTo(0, true);
+    emit changed();
+    emit highlightDidChange();
 }
 
 void HighlightZone::scrollTo(int index, bool animated) {

@@ -23,6 +23,8 @@ class HighlightZone : public QAbstractListModel {
     Q_PROPERTY(bool carouselVisible READ isCarouselVisible NOTIFY changed)
     // Whether the carousel takes touches; if not, it is drawn with alpha 0.25.
     Q_PROPERTY(bool carouselEnabled READ isCarouselEnabled NOTIFY changed)
+    // Something is highlighted that the carousel, which takes no touches, can't take back.
+    Q_PROPERTY(bool removeHighlightVisible READ isRemoveHighlightVisible NOTIFY changed)
     Q_PROPERTY(bool withoutHighlightedProductsVisible READ isWithoutHighlightedProductsVisible NOTIFY changed)
     // firstLabelInformation and roundedRelView.
     Q_PROPERTY(bool firstInformationVisible READ isFirstInformationVisible NOTIFY changed)
@@ -45,12 +47,15 @@ public:
 
     // The user moved the carousel.
     Q_INVOKABLE void carouselCurrentItemIndexDidChange(int index);
+    // Takes the highlight back; the default is not proposed again.
+    Q_INVOKABLE void removeHighlight();
 
     [[nodiscard]] bool isZoneVisible() const { return isHighlightable_; }
     [[nodiscard]] bool isCarouselVisible() const {
         return isHighlightable_ && !highlightableProducts_.empty();
     }
     [[nodiscard]] bool isCarouselEnabled() const { return missingSpaces_ <= 0; }
+    [[nodiscard]] bool isRemoveHighlightVisible() const;
     [[nodiscard]] bool isWithoutHighlightedProductsVisible() const {
         return isHighlightable_ && highlightableProducts_.empty();
     }
@@ -72,13 +77,14 @@ signals:
 
 private:
     void setRows(const std::vector<PriceRow>& rows);
-    void runSpacesTest(const Catalogue& catalogue);
+    void runSpacesTest();
     void findHighlight(QString& message);
     void scrollTo(int index, bool animated);
     void applyCurrentEntry();
     [[nodiscard]] bool isHighlighted(const PriceRow& row) const;
 
     std::shared_ptr<BrochureIntermediateData> draft_;
+    const Catalogue* catalogue_ = nullptr; // the step's, as long as it is on show
     std::vector<PriceRow> highlightableProducts_;
     bool isHighlightable_ = false;
     Int numberOfSelectionSpacesOnHighlight_ = 0;

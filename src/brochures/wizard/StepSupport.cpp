@@ -6,6 +6,8 @@
 #include "catalogue/Catalogue.h"
 #include "shell/AppSingleton.h"
 
+#include <algorithm>
+
 namespace kavor {
 
 QUrl stepView(const QString& fileName) {
@@ -34,6 +36,13 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
     if (draft == BrochureIntermediateData::temporalBrochure() && AppSingleton::shared().brochureType())
         TemporalBrochure::shared().write(*draft);
+}
+
+QString notOffered(Int quantity, const std::vector<Int>& offered) {
+    return QStringLiteral("%1 no está entre las cantidades disponibles (de %2 a %3).")
+        .arg(quantity)
+        .arg(std::ranges::min(offered))
+        .arg(std::ranges::max(offered));
 }
 
 } // namespace kavor

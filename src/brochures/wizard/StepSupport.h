@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 // What the steps that choose style, brands and prices share.
 namespace kavor {
@@ -25,6 +26,9 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 // Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no
 // longer the shared one, and outside a brochure section.
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
+
+// Says that a quantity of the draft is none of those that its picker offers, which are not empty.
+QString notOffered(Int quantity, const std::vector<Int>& offered);
 
 inline QString fromUtf8(const std::string& utf8) {
     return QString::fromStdString(utf8);

@@ -68,80 +68,90 @@ Column {
         }
     }
 
-    Carousel {
-        id: carousel
+    CarouselArrows {
+        id: arrows
 
-        objectName: "styleCarousel"
         width: parent.width
-        height: (itemWidth - 8) / card.coverRatio + 8
-        itemWidth: Math.min(width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
-        showDots: false
-        text: "Estilos"
-        model: card.controller.styles
-        onSelected: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
-        onTapped: card.controller.zoomStyleButtonAction()
+        height: (carousel.itemWidth - 8) / card.coverRatio + 8
+        middle: carousel
 
-        delegate: Item {
-            id: item
+        Carousel {
+            id: carousel
 
-            required property int index
-            required property string styleName
-            required property string styleImage
-            required property bool isCover
-            required property bool isPreferred
-            readonly property bool current: ListView.isCurrentItem
+            x: arrows.side
+            width: parent.width - 2 * x
+            height: parent.height
+            showButtons: false
+            objectName: "styleCarousel"
+            itemWidth: Math.min(card.width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
+            showDots: false
+            text: "Estilos"
+            model: card.controller.styles
+            onSelected: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
+            onTapped: card.controller.zoomStyleButtonAction()
 
-            width: carousel.itemWidth
-            height: ListView.view ? ListView.view.height : 300
+            delegate: Item {
+                id: item
 
-            ResourceImage {
-                id: cover
+                required property int index
+                required property string styleName
+                required property string styleImage
+                required property bool isCover
+                required property bool isPreferred
+                readonly property bool current: ListView.isCurrentItem
 
-                anchors.fill: parent
-                anchors.margins: item.current ? 4 : 16
-                radius: Theme.radius
-                ground: Theme.paper
-                source: item.styleImage
-                text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
-                placeholderIcon: "style"
-                mat: Theme.surface
-                fillMode: Image.PreserveAspectFit
+                width: carousel.itemWidth
+                height: ListView.view ? ListView.view.height : 300
 
-                Behavior on anchors.margins { NumberAnimation { duration: Theme.fast } }
-            }
-            Rectangle {
-                anchors.fill: cover
-                anchors.margins: -3
-                radius: Theme.radius + 3
-                color: "transparent"
-                border.width: item.current ? 3 : 1
-                border.color: item.current ? Theme.amber : Theme.hairline
-            }
-            Rectangle { // the badge "preferente_big"
-                objectName: "preferente_big" + item.index
-                visible: item.isPreferred
-                anchors.right: cover.right
-                anchors.top: cover.top
-                anchors.margins: Theme.spaceS
-                width: badge.implicitWidth + 2 * Theme.spaceM
-                height: 32
-                radius: 16
-                color: Theme.amber
+                ResourceImage {
+                    id: cover
 
-                Row {
-                    id: badge
+                    anchors.fill: parent
+                    anchors.margins: item.current ? 4 : 16
+                    radius: Theme.radius
+                    ground: Theme.paper
+                    source: item.styleImage
+                    text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
+                    placeholderIcon: "style"
+                    mat: Theme.surface
+                    fillMode: Image.PreserveAspectFit
 
-                    anchors.centerIn: parent
-                    spacing: 6
+                    Behavior on anchors.margins { NumberAnimation { duration: Theme.fast } }
+                }
+                Rectangle {
+                    anchors.fill: cover
+                    anchors.margins: -3
+                    radius: Theme.radius + 3
+                    color: "transparent"
+                    border.width: item.current ? 3 : 1
+                    border.color: item.current ? Theme.amber : Theme.hairline
+                }
+                Rectangle { // the badge "preferente_big"
+                    objectName: "preferente_big" + item.index
+                    visible: item.isPreferred
+                    anchors.right: cover.right
+                    anchors.top: cover.top
+                    anchors.margins: Theme.spaceS
+                    width: badge.implicitWidth + 2 * Theme.spaceM
+                    height: 32
+                    radius: 16
+                    color: Theme.amber
 
-                    Icon { anchors.verticalCenter: parent.verticalCenter; name: "star"; size: 16; filled: true; colour: Theme.ink }
-                    Text {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: "Preferente"
-                        color: Theme.ink
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Theme.fontSmall
-                        font.weight: Font.Bold
+                    Row {
+                        id: badge
+
+                        anchors.centerIn: parent
+                        spacing: 6
+
+                        Icon { anchors.verticalCenter: parent.verticalCenter; name: "star"; size: 16; filled: true; colour: Theme.ink }
+                        Text {
+                            anchors.verticalCenter: parent.verticalCenter
+                            text: "Preferente"
+                            color: Theme.ink
+                            font.family: Theme.fontFamily
+                            font.pixelSize: Theme.fontSmall
+                            font.weight: Font.Bold
+                        }
                     }
                 }
             }

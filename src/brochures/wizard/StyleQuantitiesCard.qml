@@ -18,6 +18,7 @@ Card {
         label: card.form.numberOfBrochuresLabel
         model: card.form.quantities
         currentIndex: card.form.selectorQuantity1Picker
+        error: card.form.numberBrochuresError
         onActivated: (index) => card.form.choose(0, index)
     }
     TextRow {
@@ -29,7 +30,9 @@ Card {
         inputMethodHints: Qt.ImhDigitsOnly
         validator: RegularExpressionValidator { regularExpression: /[0-9]{0,6}/ }
         text: card.form.numberBrochuresTextField
+        error: card.form.numberBrochuresError
         onEdited: (text) => card.form.type(0, text)
+        onFinished: card.form.leave(0)
     }
     HelpText {
         objectName: "minimumAndMaximumNumberOfBrochureLabel"
@@ -43,6 +46,7 @@ Card {
         label: card.form.numberOfBrochuresSecondLabel
         model: card.form.quantities
         currentIndex: card.form.selectorQuantity2Picker
+        error: card.form.secondPriceNumberBrochuresError
         onActivated: (index) => card.form.choose(1, index)
     }
     TextRow {
@@ -54,7 +58,9 @@ Card {
         inputMethodHints: Qt.ImhDigitsOnly
         validator: RegularExpressionValidator { regularExpression: /[0-9]{0,6}/ }
         text: card.form.secondPriceNumberBrochuresTextField
+        error: card.form.secondPriceNumberBrochuresError
         onEdited: (text) => card.form.type(1, text)
+        onFinished: card.form.leave(1)
     }
     HelpText {
         width: parent.width

@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "device/AlertPresenter.h"
 
+#include <string>
 #include <utility>
 
 // Short forms of what the steps of the wizard show.
@@ -17,9 +18,10 @@ inline AlertRequest dialogue(QString title, QString message, QList<AlertButton> 
     return request;
 }
 
-// Shows or hides the full-screen blocker of the wizard.
-inline void showVeil(bool show) {
-    NotificationCenter::shared().post(notification::visibilityVeilView, {{"show", show}});
+// Shows or hides the full-screen blocker of the wizard, which says what it waits for.
+inline void showVeil(bool show, const char* waitingFor = "") {
+    NotificationCenter::shared().post(notification::visibilityVeilView,
+                                      {{"show", show}, {"text", std::string(waitingFor)}});
 }
 
 } // namespace kavor

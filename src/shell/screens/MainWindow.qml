@@ -7,6 +7,7 @@ AppWindow {
     id: window
 
     required property RootController root
+    property PhotoLibraryViewController photos: null
     readonly property Item topScreen: stack.count > 0 ? stack.itemAt(stack.count - 1) : null
 
     objectName: "mainWindow"
@@ -62,6 +63,19 @@ AppWindow {
 
             NumberAnimation { target: leaving; property: "opacity"; from: 1; to: 0; duration: 1000 }
             NumberAnimation { target: leaving; property: "scale"; from: 1; to: 1.5; duration: 1000 }
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: window.photos?.visible ?? false
+        onActiveChanged: {
+            if (active)
+                setSource("PhotoLibraryView.qml", { controller: window.photos });
+        }
+        onStatusChanged: {
+            if (status === Loader.Error)
+                window.photos.cancel();
         }
     }
 

@@ -24,7 +24,7 @@ const names = {
   // States
   warning: "triangle-alert", info: "info", cloud: "cloud", "cloud-upload": "cloud-upload", offline: "cloud-off",
   "circle-check": "circle-check", "circle-close": "circle-x", clock: "clock", bell: "bell", lock: "lock",
-  package: "package", truck: "truck", "image-off": "image-off",
+  package: "package", truck: "truck", "image-off": "image-off", folder: "folder",
   // Things
   tag: "tag", price: "tag", euro: "euro", palette: "palette", style: "palette", camera: "camera",
   location: "map-pin", qr: "qr-code", phone: "phone", mail: "mail", calendar: "calendar", language: "languages",

@@ -63,7 +63,7 @@ FocusScope {
             rightPadding: Theme.spaceM
             accessibleName: picker.label !== "" ? picker.label : picker.placeholder
             Accessible.role: Accessible.ComboBox
-            Accessible.description: picker.currentText
+            Accessible.description: [picker.currentText, picker.error].filter((text) => text !== "").join(". ")
             onClicked: picker.open()
             Keys.onDownPressed: picker.open()
 

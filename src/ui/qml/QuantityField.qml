@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A whole number with minus and plus. It asks with `edited(value)` and shows what `value` says afterwards.
+// A whole number with minus and plus. It asks with `edited(value)` and shows what `value` says afterwards. A number
+// typed out of range is marked with the range, and becomes the nearest one when the field is left.
 FocusScope {
     id: quantity
 
@@ -11,11 +12,15 @@ FocusScope {
     property int maximum: 9999
     property int step: 1
     property string error: ""
+    property bool adjusted: false // what was typed was out of range
+    readonly property bool outOfRange: adjusted || field.activeFocus && parseInt(field.text) > maximum
+    readonly property string mark: error !== "" ? error : outOfRange ? "De " + minimum + " a " + maximum + "." : ""
     readonly property alias field: field
 
     signal edited(int value)
 
     function ask(wanted: int): void {
+        adjusted = false;
         const bounded = Math.max(minimum, Math.min(maximum, wanted));
         if (bounded !== value)
             edited(bounded);
@@ -34,7 +39,7 @@ FocusScope {
             width: parent.width
             visible: quantity.label !== ""
             text: quantity.label
-            color: quantity.error !== "" ? Theme.dangerDark : Theme.mutedInk
+            color: quantity.mark !== "" ? Theme.dangerDark : Theme.mutedInk
             elide: Text.ElideRight
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontSmall
@@ -45,7 +50,7 @@ FocusScope {
             width: Math.min(parent.width, 176)
             height: Theme.touch + 2
             active: field.activeFocus
-            wrong: quantity.error !== ""
+            wrong: quantity.mark !== ""
 
             IconButton {
                 objectName: quantity.objectName + "Minus"
@@ -62,8 +67,10 @@ FocusScope {
 
                 function settle(): void {
                     const wanted = parseInt(text);
-                    if (!isNaN(wanted))
+                    if (!isNaN(wanted)) {
                         quantity.ask(wanted);
+                        quantity.adjusted = wanted < quantity.minimum || wanted > quantity.maximum;
+                    }
                     text = Qt.binding(() => String(quantity.value));
                 }
 
@@ -87,6 +94,8 @@ FocusScope {
                 Accessible.role: Accessible.SpinBox
                 Accessible.name: quantity.label !== "" ? quantity.label : "Cantidad"
 
+                Accessible.description: quantity.mark
+                onTextEdited: quantity.adjusted = false
                 onEditingFinished: settle()
                 onActiveFocusChanged: {
                     if (activeFocus)
@@ -107,6 +116,6 @@ FocusScope {
             }
         }
 
-        HelpText { width: parent.width; text: quantity.error; tone: "danger" }
+        HelpText { width: parent.width; text: quantity.mark; tone: "danger" }
     }
 }
