@@ -59,9 +59,8 @@ bool brochureOrder(std::string_view document) {
     const auto order = roundTrip<SaveBrochuresOrder>(document);
     if (!order || !isComplete(*order))
         return order.has_value();
-    auto& session = AppSingleton::shared();
-    if (!session.applicationInformation)
-        session.applicationInformation = CatalogueBuilder().take();
+    static const auto catalogue = CatalogueBuilder().take();
+    AppSingleton::shared().applicationInformation = catalogue; // own brands of the last order grew it
     auto first = rebuilt(*order);
     // Without a first language no copies are written, and with their line the second price is lost.
     if (BrochureIntermediateData::temporalBrochure()->currentSecondPrice() && first.orderLines.size() == 1)

@@ -31,6 +31,13 @@ struct ApplicationInformation {
         HashedResource videoToken;
     };
 
+    // What a user wrote about a brand of his own, beside the products because a product's description has no
+    // key. Only the file of the device has it.
+    struct OwnBrandDescription {
+        Int id = 0;
+        std::string description;
+    };
+
     Validations validations;
     std::vector<Pairing> pairings;
     std::vector<SuggestionCategory> suggestionCategories;
@@ -43,6 +50,7 @@ struct ApplicationInformation {
     std::optional<Textile> textile;
     std::vector<HashedResource> images; // every resource to hold on the device
     std::vector<Manual> manuals;
+    std::optional<std::vector<OwnBrandDescription>> ownBrandDescriptions;
 };
 
 } // namespace kavor

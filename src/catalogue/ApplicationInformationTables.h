@@ -23,6 +23,13 @@ struct Table<ApplicationInformation::Manual> {
 };
 
 template <>
+struct Table<ApplicationInformation::OwnBrandDescription> {
+    using R = ApplicationInformation::OwnBrandDescription;
+    static constexpr auto fields =
+        std::tuple{required("id", &R::id), required("description", &R::description)};
+};
+
+template <>
 struct Table<ApplicationInformation> {
     using R = ApplicationInformation;
     static constexpr auto fields =
@@ -37,7 +44,8 @@ struct Table<ApplicationInformation> {
                    optional("activaciones", &R::activations),
                    optional("textil", &R::textile),
                    required("images", &R::images),
-                   required("manuales", &R::manuals)};
+                   required("manuales", &R::manuals),
+                   optional("own_brand_descriptions", &R::ownBrandDescriptions)};
 };
 
 } // namespace kavor::json

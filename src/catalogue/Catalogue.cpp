@@ -1,8 +1,10 @@
 #include "catalogue/Catalogue.h"
 
 #include "base/StopProcess.h"
+#include "catalogue/OwnBrand.h"
 
 #include <algorithm>
+#include <iterator>
 #include <type_traits>
 
 namespace kavor {
@@ -31,11 +33,21 @@ const Record* find(const std::unordered_map<Int, const Record*>& index, Int id) 
     return found == index.end() ? nullptr : found->second;
 }
 
+struct HasProperty {
+    Int property;
+    bool operator()(const Product& product) const {
+        if (!product.category)
+            stopProcess("category of product " + std::to_string(product.id));
+        return product.category->propertyId == property;
+    }
+};
+
 } // namespace
 
 Catalogue::Catalogue(ApplicationInformation information)
     : information_(std::move(information)) {
     indexAll();
+    takeDescriptions();
 }
 
 Catalogue::Catalogue(const Catalogue& other)
@@ -153,19 +165,50 @@ const Textile::Item* Catalogue::textileItem(Int id) const {
     return find(textileItems_, id);
 }
 
-void Catalogue::addProduct(Product product) {
-    information_.products.push_back(std::move(product));
+// The descriptions of own brands lie beside the products in the document, and in the products in memory.
+void Catalogue::takeDescriptions() {
+    if (!information_.ownBrandDescriptions)
+        return;
+    for (const auto& [id, description] : *information_.ownBrandDescriptions) {
+        const auto index = productIndex(id);
+        if (index && OwnBrand::is(information_.products[*index]))
+            information_.products[*index].description = description;
+    }
+}
+
+void Catalogue::keepDescriptions() {
+    information_.ownBrandDescriptions.reset();
+    for (const Product& product : information_.products) {
+        if (!OwnBrand::is(product) || !product.description)
+            continue;
+        if (!information_.ownBrandDescriptions)
+            information_.ownBrandDescriptions.emplace();
+        information_.ownBrandDescriptions->push_back({product.id, *product.description});
+    }
+}
+
+std::vector<Product> Catalogue::ownBrands() const {
+    std::vector<Product> found;
+    std::ranges::copy_if(information_.products, std::back_inserter(found), OwnBrand::is);
+    return found;
+}
+
+void Catalogue::addProducts(std::vector<Product> products) {
+    auto& all = information_.products;
+    all.insert(all.end(), std::make_move_iterator(products.begin()), std::make_move_iterator(products.end()));
     indexProducts();
+    keepDescriptions();
+}
+
+bool Catalogue::hasProductsOfProperty(Int propertyId) const {
+    return std::ranges::count_if(information_.products, HasProperty{propertyId}) > 0;
 }
 
 void Catalogue::removeProductsOfProperty(Int propertyId) {
-    const auto has = [propertyId](const Product& product) {
-        if (!product.category)
-            stopProcess("category of product " + std::to_string(product.id));
-        return product.category->propertyId == propertyId;
-    };
-    if (std::erase_if(information_.products, has) > 0)
-        indexProducts();
+    if (std::erase_if(information_.products, HasProperty{propertyId}) == 0)
+        return;
+    indexProducts();
+    keepDescriptions();
 }
 
 Int Catalogue::freeNegativeProductId() const {

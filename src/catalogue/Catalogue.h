@@ -6,6 +6,8 @@
 #include <functional>
 #include <span>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace kavor {
 
@@ -46,8 +48,13 @@ public:
     // The articles of the textile catalogue.
     [[nodiscard]] const Textile::Item* textileItem(Int id) const;
 
-    // Brands that the user added by hand: they have negative ids and the property 4.
-    void addProduct(Product product);
+    // The brands that the user added by hand, in list order.
+    [[nodiscard]] std::vector<Product> ownBrands() const;
+    // Adds products at the end of the list.
+    void addProducts(std::vector<Product> products);
+    void addProduct(Product product) { addProducts({std::move(product)}); }
+    // The process stops for a product without category.
+    [[nodiscard]] bool hasProductsOfProperty(Int propertyId) const;
     void removeProductsOfProperty(Int propertyId);
     // A negative id that no product has.
     [[nodiscard]] Int freeNegativeProductId() const;
@@ -58,6 +65,8 @@ private:
 
     void indexAll();
     void indexProducts();
+    void takeDescriptions();
+    void keepDescriptions();
 
     ApplicationInformation information_;
     std::unordered_map<Int, std::size_t> products_;

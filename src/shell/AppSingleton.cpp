@@ -17,11 +17,14 @@ const Catalogue& AppSingleton::catalogue() const {
     return *applicationInformation;
 }
 
-Catalogue& AppSingleton::catalogueToChange() {
-    auto changed = std::make_shared<Catalogue>(catalogue());
-    Catalogue& result = *changed;
-    applicationInformation = std::move(changed);
-    return result;
+void AppSingleton::changeCatalogue(const std::function<void(Catalogue&)>& change,
+                                   std::shared_ptr<Catalogue> copy) {
+    if (!copy)
+        copy = std::make_shared<Catalogue>(catalogue());
+    change(*copy);
+    auto former = std::exchange(applicationInformation, std::move(copy));
+    if (catalogueKeeper_)
+        catalogueKeeper_(std::move(former));
 }
 
 std::optional<BrochureType> AppSingleton::brochureType() const {

@@ -5,9 +5,11 @@
 #include "shell/SectionIdentifier.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace kavor {
 
@@ -35,9 +37,14 @@ public:
 
     // The catalogue; the process stops without one.
     [[nodiscard]] const Catalogue& catalogue() const;
-    // The catalogue for a change (brands added by hand). Whoever still holds the former one keeps it
-    // unchanged.
-    [[nodiscard]] Catalogue& catalogueToChange();
+    // The one way to change the catalogue (brands added by hand): copies it, lets the copy be changed, puts it
+    // in place and has it stored. Whoever still holds the former one keeps it unchanged. A copy that was made
+    // ahead, of this very catalogue, spares the time.
+    void changeCatalogue(const std::function<void(Catalogue&)>& change,
+                         std::shared_ptr<Catalogue> copy = nullptr);
+    // Takes the former catalogue after each change and stores the one in place; set by what keeps the files.
+    using CatalogueKeeper = std::function<void(std::shared_ptr<const Catalogue> former)>;
+    void setCatalogueKeeper(CatalogueKeeper keeper) { catalogueKeeper_ = std::move(keeper); }
 
     // The kind of brochure of the section entered, none outside a brochure section.
     [[nodiscard]] std::optional<BrochureType> brochureType() const;
@@ -50,6 +57,7 @@ public:
 private:
     AppSingleton();
 
+    CatalogueKeeper catalogueKeeper_;
     std::filesystem::path documentsFolder_;
     std::filesystem::path cachesFolder_;
 };

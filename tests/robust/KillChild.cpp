@@ -65,7 +65,7 @@ public:
         case 7:
             return writeTemporaryCopy();
         case 8:
-            TemporalBrochure::shared().takeForOpening();
+            TemporalBrochure::shared().takeForOpening(BrochureType::beer);
             return random_() % 3 == 0 ? removeTemporaryCopy() : void();
         case 9:
             return storeNetPrices();

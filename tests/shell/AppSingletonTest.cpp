@@ -13,7 +13,7 @@ TEST(AppSingleton, AChangedCatalogueLeavesTheFormerOneToWhoeverHoldsIt) {
     const auto former = session.applicationInformation;
     Product own;
     own.id = -1;
-    session.catalogueToChange().addProduct(own);
+    session.changeCatalogue([&](Catalogue& catalogue) { catalogue.addProduct(own); });
     EXPECT_NE(session.catalogue().product(-1), nullptr);
     EXPECT_EQ(former->product(-1), nullptr);
     session.applicationInformation.reset();

@@ -170,6 +170,9 @@ public:
     bool withoutPricePennant = false;
     std::optional<Brochures::Type::Parameters>
         brochureTypeParameters; // of the section, set by the wizard's frame
+    // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order says
+    // comes from the section all the same.
+    std::optional<BrochureType> openedAs;
 
     // ---- References to the catalogue
     // ------------------------------------------------------------------------- Setters answer false, and
@@ -272,9 +275,13 @@ public:
     // process stops outside a brochure section and for a brand or drink that the catalogue no longer
     // explains.
     [[nodiscard]] SaveBrochuresOrder makeOrder(OrderRequestType save, bool validate) const;
-    // Fills this (new) draft from a document; what left the catalogue falls out. Deletes the temporary copy
-    // on disk. The file name is the caller's to set.
+    // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own that
+    // the catalogue lacks, or has under another number, is built again from the document and enters the
+    // catalogue. Deletes the temporary copy on disk. The file name is the caller's to set.
     void loadOrder(const SaveBrochuresOrder& order);
+    // One line for the user that counts and names the brands (or formats of them) that fell out of the order
+    // loaded, once: empty when nothing did, and after the first call.
+    [[nodiscard]] std::string takeFallenOut();
     // Keeps the net prices for the drafts to come.
     void storeNetPrices() const;
 
@@ -292,9 +299,12 @@ private:
     [[nodiscard]] SaveBrochuresOrder::Menu menuOf(OrderRequestType save, bool validate) const;
     void loadReferences(const SaveBrochuresOrder::Menu& menu);
     void loadQuantities(const std::vector<SaveBrochuresOrder::OrderLine>& lines, bool languagesAccepted);
+    void loadBrands(const SaveBrochuresOrder::Menu& menu);
     void loadBrand(Int identifier, const BeerBrand& brand, std::optional<Int> highlighted);
     void loadDrinks(const std::vector<DrinkCategory>& categories);
     void loadDrink(const DrinkCategory::OtherDrink& element, Int category);
+
+    std::vector<std::string> fallenOut_; // the brand's name (or none) for each brand or format
 };
 
 } // namespace kavor

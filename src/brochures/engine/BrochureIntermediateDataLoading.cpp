@@ -1,7 +1,12 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
+#include "catalogue/OwnBrand.h"
 #include "shell/AppSingleton.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace kavor {
 
@@ -24,6 +29,143 @@ std::optional<Int> knownStyle(std::optional<Int> id) {
     return id && catalogue().style(*id) ? id : std::nullopt;
 }
 
+using Menu = SaveBrochuresOrder::Menu;
+using Beer = Menu::BeerBrand::Beer;
+
+void stopAtMissingNumbers(const Menu& menu) {
+    for (std::size_t i = 0; i < menu.beerBrands.size(); ++i) {
+        const auto& brand = menu.beerBrands[i];
+        if (!brand.brand)
+            stopProcess("\"brand\" of an order's brand, menu.items[" + std::to_string(i) + "]");
+        if (!std::ranges::all_of(brand.beers, [](const Beer& beer) { return beer.id.has_value(); }))
+            stopProcess("\"product\" of a format of brand " + std::to_string(*brand.brand));
+    }
+}
+
+// The family of an own brand of the order: that of its formats, which the order does not say otherwise.
+std::optional<ApplicationFather> familyOf(const Menu::BeerBrand& brand, BrochureType kind) {
+    const auto* type = catalogue().brochureType(kind);
+    std::optional<ApplicationFather> other;
+    for (const auto& productType : catalogue().brochures().productTypes) {
+        if (std::ranges::find(brand.beers, productType.id, &Beer::productType) == brand.beers.end())
+            continue;
+        if (type && productType.applicationFather == type->applicationFather)
+            return type->applicationFather;
+        other = productType.applicationFather;
+    }
+    return other || !type ? other : type->applicationFather;
+}
+
+OwnBrand asOwnBrand(const Menu::BeerBrand& brand, ApplicationFather family) {
+    const bool described = brand.description && !brand.description->empty();
+    return {family,
+            brand.name.value_or(""),
+            described ? brand.description : std::nullopt,
+            brand.segment,
+            brand.typology,
+            brand.taste,
+            brand.subTypology,
+            brand.age};
+}
+
+// Finds the own brands of an order in the catalogue, and makes those that it lacks. A number alone proves
+// nothing: after a reset the numbers start anew, so another brand may bear it.
+class OwnBrandFinder {
+public:
+    explicit OwnBrandFinder(const Menu& menu)
+        : kind_(menu.orderType) {
+        for (const Product& product : catalogue().ownBrands())
+            there_.emplace(product.id, OwnBrand::of(product));
+        for (const auto& record : menu.beerBrands) {
+            numbers_.insert(*record.brand);
+            if (const auto brand = ownBrandOf(record); brand && isThere(*record.brand, *brand))
+                taken_.insert(*record.brand);
+        }
+    }
+
+    // The number that the brand has in the catalogue with those made. None where it can't be built.
+    std::optional<Int> find(const Menu::BeerBrand& record) {
+        const auto brand = ownBrandOf(record);
+        if (!brand)
+            return std::nullopt;
+        if (isThere(*record.brand, *brand))
+            return *record.brand;
+        const auto equal = std::ranges::find_if(
+            there_, [&](const auto& each) { return each.second == *brand && !taken_.contains(each.first); });
+        if (equal != there_.end()) {
+            taken_.insert(equal->first);
+            return equal->first;
+        }
+        Product product = brand->product(catalogue().brochures(), numberFor(*record.brand));
+        const bool hasFormats = std::ranges::any_of(record.beers, [&](const Beer& beer) {
+            return std::ranges::find(product.productList, beer.productType,
+                                     &Product::ProductFormat::typeId) != product.productList.end();
+        });
+        if (!hasFormats)
+            return std::nullopt;
+        there_.emplace(product.id, *brand);
+        taken_.insert(product.id);
+        made_.push_back(std::move(product));
+        return made_.back().id;
+    }
+    [[nodiscard]] std::vector<Product> takeMade() { return std::move(made_); }
+
+private:
+    [[nodiscard]] std::optional<OwnBrand> ownBrandOf(const Menu::BeerBrand& record) const {
+        const auto family = familyOf(record, kind_);
+        if (!family || *record.brand >= 0 || !record.name || record.name->empty())
+            return std::nullopt;
+        return asOwnBrand(record, *family);
+    }
+    [[nodiscard]] bool isThere(Int id, const OwnBrand& brand) const {
+        const auto found = there_.find(id);
+        return found != there_.end() && found->second == brand;
+    }
+    // The order's own number where it is free, or the next free one below zero.
+    Int numberFor(Int wanted) {
+        constexpr Int lowest = -1'000'000; // what comes from outside must not overflow a format's number
+        const auto isFree = [this](Int id) { return !there_.contains(id) && !catalogue().product(id); };
+        if (wanted >= lowest && isFree(wanted))
+            return wanted;
+        while (!isFree(next_) || numbers_.contains(next_))
+            --next_;
+        return next_;
+    }
+
+    BrochureType kind_;
+    std::map<Int, OwnBrand> there_; // in the catalogue, and those made
+    std::set<Int> numbers_;         // of the order
+    std::set<Int> taken_;           // numbers that stand for a brand of the order
+    std::vector<Product> made_;
+    Int next_ = -1;
+};
+
+// The number in the catalogue for each brand of the order, none for one that can't come back.
+std::vector<std::optional<Int>> bringBackOwnBrands(const Menu& menu) {
+    std::vector<std::optional<Int>> numbers;
+    OwnBrandFinder finder(menu);
+    for (const auto& brand : menu.beerBrands)
+        numbers.push_back(*brand.brand < 0 ? finder.find(brand) : brand.brand);
+    if (auto made = finder.takeMade(); !made.empty()) {
+        AppSingleton::shared().changeCatalogue(
+            [&](Catalogue& catalogue) { catalogue.addProducts(std::move(made)); });
+    }
+    return numbers;
+}
+
+// The format of a brand that a record means: by its number or, in an own brand that has another number than
+// when the record was made, by its product type.
+std::optional<Int> formatFor(Int brand, const Beer& beer) {
+    if (catalogue().format(brand, *beer.id))
+        return *beer.id;
+    const Product* product = catalogue().product(brand);
+    if (!product || !OwnBrand::is(*product))
+        return std::nullopt;
+    const auto found =
+        std::ranges::find(product->productList, beer.productType, &Product::ProductFormat::typeId);
+    return found == product->productList.end() ? std::nullopt : std::optional(found->id);
+}
+
 template <class Item>
 void append(std::vector<Item>& list, const std::optional<std::vector<Item>>& more) {
     if (more)
@@ -33,8 +175,9 @@ void append(std::vector<Item>& list, const std::optional<std::vector<Item>>& mor
 } // namespace
 
 void BrochureIntermediateData::loadOrder(const SaveBrochuresOrder& order) {
-    TemporalBrochure::shared().removeForLoading();
+    TemporalBrochure::shared().removeForLoading(order.menu.orderType);
     const auto& menu = order.menu;
+    openedAs = menu.orderType;
     sourceIdentifier = order.sourceIdentifier;
     customerInformation = menu.customer;
     const bool languagesAccepted = setLanguages(menu.language1Id, menu.language2Id);
@@ -46,12 +189,7 @@ void BrochureIntermediateData::loadOrder(const SaveBrochuresOrder& order) {
         if (menu.blackboardTypeId)
             setBlackboardType(menu.blackboardTypeId);
     }
-    for (std::size_t i = 0; i < menu.beerBrands.size(); ++i) {
-        const auto& brand = menu.beerBrands[i];
-        if (!brand.brand)
-            stopProcess("\"brand\" of an order's brand, menu.items[" + std::to_string(i) + "]");
-        loadBrand(*brand.brand, brand, menu.highlightedProductIdentifier);
-    }
+    loadBrands(menu);
     if (menu.otherDrinks)
         loadDrinks(*menu.otherDrinks);
     append(promotions, menu.promotions);
@@ -109,19 +247,53 @@ void BrochureIntermediateData::loadQuantities(const std::vector<SaveBrochuresOrd
         selectedNumberOfBrochures = MainAndSecondary{*main, secondary};
 }
 
+void BrochureIntermediateData::loadBrands(const SaveBrochuresOrder::Menu& menu) {
+    fallenOut_.clear();
+    stopAtMissingNumbers(menu);
+    const auto numbers = bringBackOwnBrands(menu);
+    for (std::size_t i = 0; i < menu.beerBrands.size(); ++i) {
+        const auto& brand = menu.beerBrands[i];
+        if (numbers[i] && catalogue().product(*numbers[i]))
+            loadBrand(*numbers[i], brand, menu.highlightedProductIdentifier);
+        else
+            fallenOut_.push_back(brand.name.value_or(""));
+    }
+}
+
 void BrochureIntermediateData::loadBrand(Int identifier, const BeerBrand& brand,
                                          std::optional<Int> highlighted) {
     for (const auto& beer : brand.beers) {
-        if (!beer.id)
-            stopProcess("\"product\" of a format of brand " + std::to_string(identifier));
-        setFormatSelected(true, *beer.id, identifier);
-        setNewProduct(beer.isNew, *beer.id, identifier);
-        setVolume(beer.volume, *beer.id, identifier);
+        const auto format = formatFor(identifier, beer);
+        if (!format) {
+            fallenOut_.push_back(brand.name.value_or(""));
+            continue;
+        }
+        setFormatSelected(true, *format, identifier);
+        setNewProduct(beer.isNew, *format, identifier);
+        setVolume(beer.volume, *format, identifier);
         if (highlighted)
             setFormatHighlighted(true, *highlighted, identifier);
         for (const auto& price : beer.prices)
-            setPrice(priceTypeOf(price.id), *beer.id, identifier, price.price);
+            setPrice(priceTypeOf(price.id), *format, identifier, price.price);
     }
+}
+
+std::string BrochureIntermediateData::takeFallenOut() {
+    const auto names = std::exchange(fallenOut_, {});
+    if (names.empty())
+        return {};
+    std::string text = names.size() == 1
+                           ? "1 producto ya no está en el catálogo"
+                           : std::to_string(names.size()) + " productos ya no están en el catálogo";
+    constexpr std::size_t mostNames = 5;
+    std::vector<std::string> different;
+    for (const auto& name : names) {
+        if (!name.empty() && std::ranges::find(different, name) == different.end())
+            different.push_back(name);
+    }
+    for (std::size_t i = 0; i < std::min(different.size(), mostNames); ++i)
+        text += (i == 0 ? ": " : ", ") + different[i];
+    return different.size() > mostNames ? text + "…" : text;
 }
 
 void BrochureIntermediateData::loadDrinks(const std::vector<DrinkCategory>& categories) {

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace kavor {
 
@@ -12,34 +13,55 @@ class BrochureIntermediateData;
 // The temporary copy of the draft in work, the state file "temporalBrochure" of the documents folder. Writing
 // and removing happen in the background in their order; reading waits for them. Opening the wizard takes the
 // copy away until the next write; so that a process that dies in between loses nothing, the copy lives on
-// beside it as a recovery copy until the next write stands on disk, or the draft is reset or sent. Without a
-// documents folder nothing is read or written. Main thread only.
+// beside it as a recovery copy until the next write stands on disk, or the draft is reset or sent.
+//
+// A copy of another kind than the one opened is set aside, as "temporalBrochure.type1" (the number of its
+// kind), and comes back when its own kind is opened: each kind has an unfinished menu of its own. Where one of
+// that kind lies aside already, the further one is "temporalBrochure.type1-2" and comes back first. What can't
+// be read is set aside as "temporalBrochure.unreadable" and stays. Setting aside renames, so a copy is in one
+// place at any moment. Without a documents folder nothing is read or written. Main thread only.
 class TemporalBrochure {
 public:
     static TemporalBrochure& shared();
 
-    // The copy, or the recovery copy when there is none, to fill a new draft; afterwards there is no copy.
-    std::optional<SaveBrochuresOrder> takeForOpening();
-    // Takes the copy and, when there is one, replaces the shared draft by a new one filled from it, its file
-    // name included. Answers whether there was one.
+    // The unfinished menu of this kind: the copy, or the recovery copy when there is none, or what was set
+    // aside last (where that is wanted). Afterwards there is no copy.
+    std::optional<SaveBrochuresOrder> takeForOpening(BrochureType kind, bool fromAside = true);
+    // For a wizard that opens in the section of the session: takes the unfinished menu of its kind and, when
+    // there is one, replaces the shared draft by a new one filled from it, its file name included. A shared
+    // draft of another kind gives way to a new one. Answers whether there was a menu to restore. Outside a
+    // brochure section nothing happens.
     bool restoreDraft();
     // Writes the copy of the draft (as makeOrder gives it for the cloud, without validation). Returns at
     // once.
     void write(const BrochureIntermediateData& draft);
-    // Removes the copy and the recovery copy: the draft was reset or sent.
+    // Removes the copy and the recovery copy: the draft was reset or sent. What was set aside stays.
     void removeAll();
-    // Removes the copy of whatever draft was in work because another order is loaded. The recovery copy stays
-    // when it is the one being loaded.
-    void removeForLoading();
+    // Removes the copy of whatever draft of this kind was in work because another order is loaded; a copy of
+    // another kind is set aside. The recovery copy stays when it is the one being loaded.
+    void removeForLoading(BrochureType kind);
     // Waits until what was asked for stands on disk.
     void flush();
 
 private:
-    TemporalBrochure() = default;
-    [[nodiscard]] std::optional<std::filesystem::path> copy() const;
-    [[nodiscard]] std::optional<std::filesystem::path> recoveryCopy() const;
+    // What a place holds.
+    struct Found {
+        std::optional<SaveBrochuresOrder> order;
+        bool unreadable = false;
+        [[nodiscard]] bool isOf(BrochureType kind) const { return order && order->menu.orderType == kind; }
+        [[nodiscard]] bool isForeignTo(BrochureType kind) const {
+            return unreadable || (order && order->menu.orderType != kind);
+        }
+    };
 
-    bool taken_ = false;
+    TemporalBrochure() = default;
+    [[nodiscard]] static Found look(const std::string& name);
+    std::optional<SaveBrochuresOrder> clearPlaces(BrochureType kind);
+    static bool setAside(const std::string& name, const Found& found);
+    std::optional<SaveBrochuresOrder> takeSetAside(BrochureType kind);
+
+    bool taken_ = false;    // the recovery copy is the one that was opened
+    bool occupied_ = false; // a copy that could not be set aside stands in the way
 };
 
 } // namespace kavor

@@ -10,6 +10,7 @@
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
+#include "catalogue/OwnBrand.h"
 #include "device/Reachability.h"
 #include "network/ServiceOperations.h"
 #include "shell/AppSingleton.h"
@@ -99,6 +100,9 @@ void BrochureMenuViewController::viewDidLoad() {
         recoveredMessage_ = QStringLiteral("Se ha recuperado la carta en curso");
     applyParameters();
     showStep(wizard_step::configuration);
+    const auto fallenOut = BrochureIntermediateData::temporalBrochure()->takeFallenOut();
+    if (!fallenOut.empty())
+        services_.alerts.inform(QStringLiteral("Atención"), fromUtf8(fallenOut), this);
 }
 
 void BrochureMenuViewController::viewDidAppear() {
@@ -230,6 +234,8 @@ void BrochureMenuViewController::select(int index) {
 }
 
 void BrochureMenuViewController::askForReset() {
+    if (!AppSingleton::shared().catalogue().ownBrands().empty())
+        catalogueToReset_.prepare();
     services_.alerts.present(
         dialogue(QStringLiteral("Atención"),
                  QStringLiteral("¿Desea borrar todos los datos introducidos en la carta actual?"),
@@ -238,6 +244,7 @@ void BrochureMenuViewController::askForReset() {
         this, [this](const AlertAnswer& answer) {
             if (answer.button == 1)
                 reset();
+            catalogueToReset_ = {};
         });
 }
 
@@ -247,10 +254,13 @@ void BrochureMenuViewController::reset() {
     actualOrder_ = BrochureIntermediateData::replaceTemporalBrochure();
     if (const auto* parameters = sectionParameters(session.catalogue()))
         actualOrder_->brochureTypeParameters = *parameters;
+    actualOrder_->openedAs = session.brochureType();
     TemporalBrochure::shared().removeAll();
     session.resettingBrochure = true;
-    constexpr Int ownBrands = 4; // the property of the brands that the user added by hand
-    session.catalogueToChange().removeProductsOfProperty(ownBrands);
+    // An unfinished menu of another kind builds the brands that it needs again when it is opened.
+    const auto withoutOwnBrands = [](Catalogue& each) { each.removeProductsOfProperty(OwnBrand::property); };
+    if (session.catalogue().hasProductsOfProperty(OwnBrand::property))
+        session.changeCatalogue(withoutOwnBrands, catalogueToReset_.take());
     showStep(wizard_step::configuration);
     select(Configuration);
 }

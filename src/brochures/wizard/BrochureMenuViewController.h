@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
+#include "brochures/wizard/CatalogueCopy.h"
 #include "brochures/wizard/WebPreviewViewController.h"
 #include "brochures/wizard/WizardStep.h"
 
@@ -122,6 +123,7 @@ private:
     WebPreviewViewController* preview_ = nullptr;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     std::vector<NotificationCenter::Subscription> observers_;
+    CatalogueCopy catalogueToReset_; // made while the user is asked
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool veilVisible_ = false;
     bool appeared_ = false;

@@ -7,9 +7,6 @@
 #include "brochures/wizard/StepSupport.h"
 #include "device/AlertPresenter.h"
 #include "shell/AppSingleton.h"
-#include "shell/services/SessionStore.h"
-
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <limits>
@@ -29,8 +26,7 @@ QString labelOf(std::optional<Int> limit) {
 BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services,
                                                                      QObject* parent)
     : WizardStepViewController(parent)
-    , alerts_(services.alerts)
-    , sessions_(services.sessions) {}
+    , alerts_(services.alerts) {}
 
 BrochureProductListViewController::~BrochureProductListViewController() = default;
 
@@ -160,7 +156,7 @@ void BrochureProductListViewController::addNewBrandBtn() {
     if (form_ || !newBrandVisible_)
         return;
     form_ = new NewBrandForm(catalogue_, family_, this);
-    catalogueToGrow_ = QtConcurrent::run([base = catalogue_] { return std::make_shared<Catalogue>(*base); });
+    catalogueToGrow_.prepare();
     emit formChanged();
 }
 
@@ -190,23 +186,16 @@ void BrochureProductListViewController::createNewBrandBtn() {
 
 void BrochureProductListViewController::addBrand() {
     AppSingleton& session = AppSingleton::shared();
-    const std::shared_ptr<const Catalogue> former = catalogue_;
-    std::shared_ptr<Catalogue> grown = catalogueToGrow_.takeResult();
-    if (session.applicationInformation != former) // another catalogue came in the meantime
-        grown = std::make_shared<Catalogue>(session.catalogue());
-    Product product = form_->makeProduct(grown->freeNegativeProductId());
-    const Int brand = product.id;
-    std::vector<Int> formats;
-    std::ranges::transform(product.productList, std::back_inserter(formats), &Product::ProductFormat::id);
-    grown->addProduct(std::move(product));
-    catalogue_ = std::move(grown);
-    session.applicationInformation = catalogue_;
-    for (const Int format : formats)
-        actualOrder_->setFormatSelected(true, format, brand);
+    const Int brand = session.catalogue().freeNegativeProductId();
+    session.changeCatalogue(
+        [&](Catalogue& grown) { grown.addProduct(form_->ownBrand().product(grown.brochures(), brand)); },
+        catalogueToGrow_.take());
+    catalogue_ = session.applicationInformation;
+    for (const auto& format : catalogue_->product(brand)->productList)
+        actualOrder_->setFormatSelected(true, format.id, brand);
     brands_.setBrands(catalogue_, family_);
     runCounter();
     autosave(actualOrder_);
-    sessions_.storeCatalogueInBackground(former);
 }
 
 QString BrochureProductListViewController::minimumProductsSelectedLabel() const {

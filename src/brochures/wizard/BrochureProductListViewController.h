@@ -1,11 +1,10 @@
 #pragma once
 
 #include "brochures/wizard/BrandListModel.h"
+#include "brochures/wizard/CatalogueCopy.h"
 #include "brochures/wizard/NewBrandForm.h"
 #include "brochures/wizard/PriorityBrandSelectorView.h"
 #include "brochures/wizard/WizardStep.h"
-
-#include <QFuture>
 
 #include <memory>
 #include <optional>
@@ -98,14 +97,12 @@ private:
     void addBrand();
 
     AlertPresenter& alerts_;
-    SessionStore& sessions_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     BrandListModel brands_;
     PriorityBrandSelectorView* filter_ = nullptr;
     NewBrandForm* form_ = nullptr;
-    // Made while the user fills in the form: copying a large catalogue would hold up the window.
-    QFuture<std::shared_ptr<Catalogue>> catalogueToGrow_;
+    CatalogueCopy catalogueToGrow_; // made while the user fills in the form
     ApplicationFather family_ = ApplicationFather::orderBeer;
     bool isChalkboard_ = false;
     bool newBrandVisible_ = false;

@@ -1,16 +1,12 @@
 #include "brochures/wizard/NewBrandForm.h"
 
-#include "base/Text.h"
 #include "brochures/wizard/StepSupport.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace kavor {
 
 namespace {
-
-constexpr Int addedByHandProperty = 4;
 
 const QString unselectedString = QStringLiteral("Sin seleccionar");
 
@@ -62,60 +58,16 @@ bool NewBrandForm::isComplete() const {
            !name().empty();
 }
 
-std::optional<HashedResource> NewBrandForm::imageOf(const Brochures::ProductType& type) const {
-    const auto segment = segments_.chosen(segment_);
-    const auto taste = tastes_.chosen(taste_);
-    for (const auto& image : type.imageTastes.value_or(std::vector<Brochures::ProductType::TasteImage>())) {
-        if (image.segmentId == segment && (!image.tasteId || image.tasteId == taste))
-            return image.image;
-    }
-    return type.image;
-}
-
-Product::ProductFormat NewBrandForm::makeFormat(const Brochures::ProductType& type, Int brand) const {
-    // Negative like its brand and of that brand alone, so that it never passes for a format of the catalogue.
-    constexpr Int formatsPerBrand = 1'000'000;
-    Product::ProductFormat format;
-    format.id = brand * formatsPerBrand - type.id;
-    format.typeId = type.id;
-    format.factorCorrection = type.factorCorrection.value_or(1.0);
-    format.icon = type.name;
-    format.image = imageOf(type);
-    format.imageThumb = type.imageThumb;
-    format.position = type.position;
-    format.showOnBrochures = true;
-    format.priceMaximumAvise = std::numeric_limits<double>::max(); // nobody knows what would be too dear
-    return format;
-}
-
-Product NewBrandForm::makeProduct(Int id) const {
-    const Brochures& brochures = catalogue_->brochures();
-    Product product;
-    product.id = id;
-    product.applicationFather = family_;
-    product.name = name();
-    product.nameSanitice = text::sanitised(product.name);
-    if (const std::string description = description_.trimmed().toStdString(); !description.empty())
-        product.description = description;
-    product.isSecondary = true;
-    product.category = Product::Category();
-    product.category->propertyId = addedByHandProperty;
-    product.category->categoryLabel = typologies_.names.value(typology_).toStdString();
-    product.category->segmentId = segments_.chosen(segment_);
-    product.category->typologyId = typologies_.chosen(typology_);
-    product.category->subTypologyId = subTypologies_.chosen(subTypology_);
-    product.category->tasteId = tastes_.chosen(taste_);
-    product.category->ageId = ages_.chosen(age_);
-    const auto segment = std::ranges::find(brochures.brandSegments, product.category->segmentId,
-                                           [](const auto& record) { return std::optional(record.id); });
-    if (segment != brochures.brandSegments.end())
-        product.image = segment->segmentImage;
-    for (const Brochures::ProductType& type : brochures.productTypes) {
-        if (type.applicationFather == family_)
-            product.productList.push_back(makeFormat(type, id));
-    }
-    std::ranges::stable_sort(product.productList, {}, &Product::ProductFormat::position);
-    return product;
+OwnBrand NewBrandForm::ownBrand() const {
+    const std::string description = description_.trimmed().toStdString();
+    return {family_,
+            name(),
+            description.empty() ? std::nullopt : std::optional(description),
+            segments_.chosen(segment_),
+            typologies_.chosen(typology_),
+            tastes_.chosen(taste_),
+            subTypologies_.chosen(subTypology_),
+            ages_.chosen(age_)};
 }
 
 void NewBrandForm::clear() {

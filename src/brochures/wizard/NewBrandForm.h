@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/Catalogue.h"
+#include "catalogue/OwnBrand.h"
 
 #include <QObject>
 #include <QStringList>
@@ -48,8 +49,8 @@ public:
 
     // Whether typology, taste, segment and name are there.
     [[nodiscard]] bool isComplete() const;
-    // The brand as filled in, with the formats that the product types of the family give.
-    [[nodiscard]] Product makeProduct(Int id) const;
+    // The brand as filled in.
+    [[nodiscard]] OwnBrand ownBrand() const;
     void clear();
 
 signals:
@@ -64,8 +65,6 @@ private:
     };
     template <class Record>
     [[nodiscard]] Vocabulary vocabularyOf(const std::vector<Record>& records) const;
-    [[nodiscard]] Product::ProductFormat makeFormat(const Brochures::ProductType& type, Int brand) const;
-    [[nodiscard]] std::optional<HashedResource> imageOf(const Brochures::ProductType& type) const;
 
     std::shared_ptr<const Catalogue> catalogue_;
     ApplicationFather family_;

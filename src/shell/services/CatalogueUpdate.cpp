@@ -2,6 +2,7 @@
 
 #include "catalogue/Catalogue.h"
 #include "catalogue/services/ResourceUpdateRun.h"
+#include "device/Background.h"
 #include "device/Clock.h"
 #include "device/UserDefaults.h"
 #include "network/ServiceOperations.h"
@@ -21,21 +22,36 @@ CatalogueUpdate::CatalogueUpdate(const Services& services, QObject* parent)
     , services_(services) {}
 
 void CatalogueUpdate::start() {
-    const auto arrived = [this](const std::shared_ptr<const Catalogue>& catalogue) {
-        emit catalogueArrived();
-        services_.session.applicationInformation = catalogue;
-        services_.defaults.setInteger(QLatin1String(fetchedAt), services_.clock.now().toSecsSinceEpoch());
-        // A device that dies keeps what it fetched.
-        services_.sessions.storeInBackground();
-        emit progressChanged(2.0 / 3, {});
-        services_.resources.start(catalogue->information(), [this](int count, int total) {
-            emit progressChanged(ResourceUpdateRun::fraction(count, total),
-                                 ResourceUpdateRun::label(count, total));
+    services_.network.appInformation(
+        {this, [this](const std::shared_ptr<const Catalogue>& fetched) { arrived(fetched); },
+         [this](const RequestFailure& failure) { emit failed(failure.messages.value_or(QStringList())); }});
+}
+
+void CatalogueUpdate::arrived(const std::shared_ptr<const Catalogue>& fetched) {
+    const auto& former = services_.session.applicationInformation;
+    if (!former || former->ownBrands().empty())
+        return putInPlace(fetched);
+    // Copying a large catalogue takes longer than a frame. The brands are those of the moment of the change.
+    runInBackground(
+        this, [fetched] { return std::make_shared<Catalogue>(*fetched); },
+        [this](const std::shared_ptr<Catalogue>& copy) {
+            if (const auto& now = services_.session.applicationInformation)
+                copy->addProducts(now->ownBrands());
+            putInPlace(copy);
         });
-    };
-    services_.network.appInformation({this, arrived, [this](const RequestFailure& failure) {
-                                          emit failed(failure.messages.value_or(QStringList()));
-                                      }});
+}
+
+void CatalogueUpdate::putInPlace(const std::shared_ptr<const Catalogue>& catalogue) {
+    emit catalogueArrived();
+    services_.session.applicationInformation = catalogue;
+    services_.defaults.setInteger(QLatin1String(fetchedAt), services_.clock.now().toSecsSinceEpoch());
+    // A device that dies keeps what it fetched.
+    services_.sessions.storeInBackground();
+    emit progressChanged(2.0 / 3, {});
+    services_.resources.start(catalogue->information(), [this](int count, int total) {
+        emit progressChanged(ResourceUpdateRun::fraction(count, total),
+                             ResourceUpdateRun::label(count, total));
+    });
 }
 
 std::optional<qint64> CatalogueUpdate::secondsSinceFetch() const {

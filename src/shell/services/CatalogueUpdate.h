@@ -4,19 +4,22 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace kavor {
 
 class AppSingleton;
+class Catalogue;
 class Clock;
 class ResourceUpdateRun;
 class ServiceOperations;
 class SessionStore;
 class UserDefaults;
 
-// The dashboard's run: fetches the catalogue, puts it into the session and on the disk, then updates pictures
-// and fonts. "UpdatingResourcesDidEnd" is posted at the end of a run that got its catalogue.
+// The dashboard's run: fetches the catalogue, puts it with the user's own brands into the session and on the
+// disk, then updates pictures and fonts. "UpdatingResourcesDidEnd" is posted at the end of a run that got its
+// catalogue.
 class CatalogueUpdate : public QObject {
     Q_OBJECT
 public:
@@ -47,6 +50,9 @@ signals:
     void failed(const QStringList& messages);
 
 private:
+    void arrived(const std::shared_ptr<const Catalogue>& fetched);
+    void putInPlace(const std::shared_ptr<const Catalogue>& catalogue);
+
     Services services_;
 };
 

@@ -80,10 +80,10 @@ TEST_F(TemporalBrochureTest, AWriteThatFailsKeepsTheRecoveryCopy) {
 
 TEST_F(TemporalBrochureTest, ABrokenCopyGivesWayToTheRecoveryCopy) {
     writeDraftOf("La Esquina");
-    ASSERT_TRUE(temporal().takeForOpening());
+    ASSERT_TRUE(temporal().takeForOpening(BrochureType::beer));
     folder.put(copy, "{\"save\":");
     const LogCapture log;
-    EXPECT_TRUE(temporal().takeForOpening());
+    EXPECT_TRUE(temporal().takeForOpening(BrochureType::beer));
     EXPECT_EQ(log.startingWith("temporalBrochure: not a JSON document"), 1);
 }
 
@@ -93,7 +93,7 @@ TEST_F(TemporalBrochureTest, TheLastOfManyWritesStands) {
         draft().selectedNumberOfBrochures->main = copies;
         temporal().write(draft());
     }
-    const auto order = temporal().takeForOpening();
+    const auto order = temporal().takeForOpening(BrochureType::beer);
     ASSERT_TRUE(order);
     EXPECT_EQ(order->orderLines.front().quantity, 200);
 }

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "shell/AppSingleton.h"
+
+#include <QtConcurrent>
+
+#include <memory>
+
+namespace kavor {
+
+// A copy of the session's catalogue for a change of it, made in the background while the user is still asked:
+// copying a large catalogue would hold up the window.
+class CatalogueCopy {
+public:
+    // Begins to copy the catalogue in place.
+    void prepare() {
+        base_ = AppSingleton::shared().applicationInformation;
+        copy_ = QtConcurrent::run([base = base_] { return std::make_shared<Catalogue>(*base); });
+    }
+    // Waits for the copy and gives it away; null when another catalogue has come into place meanwhile.
+    std::shared_ptr<Catalogue> take() {
+        const bool current = base_ && base_ == AppSingleton::shared().applicationInformation;
+        base_.reset();
+        return current ? copy_.takeResult() : nullptr;
+    }
+
+private:
+    std::shared_ptr<const Catalogue> base_;
+    QFuture<std::shared_ptr<Catalogue>> copy_;
+};
+
+} // namespace kavor
