@@ -141,7 +141,7 @@ struct KavorApplication::Parts {
     OrderSyncManager sync;
     AlertPresenter alerts;
     SystemUrlOpener urls;
-    PhotoLibraryViewController photos{alerts, defaults};
+    PhotoLibraryViewController photos{alerts, defaults, clock};
     QtLocationService locationService;
     NoReverseGeocoder geocoder;
     ReverseLocationManager location;

@@ -1,4 +1,5 @@
 #include "device/AlertPresenter.h"
+#include "device/Clock.h"
 #include "shell/screens/PhotoLibraryViewController.h"
 #include "support/DeviceFakes.h"
 #include "support/TemporaryFolder.h"
@@ -18,7 +19,8 @@ protected:
     TemporaryFolder folder;
     AlertPresenter alerts;
     MemoryUserDefaults defaults;
-    PhotoLibraryViewController library{alerts, defaults};
+    ManualClock clock;
+    PhotoLibraryViewController library{alerts, defaults, clock};
     QObject step; // that asks
     std::optional<std::optional<QImage>> answer;
 
@@ -36,7 +38,11 @@ protected:
         EXPECT_TRUE(library.pick(&step, [this](const std::optional<QImage>& photo) { answer = photo; }));
     }
     [[nodiscard]] QString path(const char* name) const { return QString::fromStdString(folder / name); }
-    void open(const char* name) { library.open(QUrl::fromLocalFile(path(name))); }
+    void tap(const char* name) { library.open(QUrl::fromLocalFile(path(name))); }
+    void open(const char* name) {
+        clock.advance(std::chrono::seconds(1));
+        tap(name);
+    }
     [[nodiscard]] QString folderName() const { return QDir(library.folder().toLocalFile()).dirName(); }
 };
 
@@ -91,6 +97,16 @@ TEST_F(PhotoLibrary, OpensInTheFolderInWhichTheUserWasLast) {
     EXPECT_NE(folderName(), "fotos");
     EXPECT_TRUE(QFileInfo(library.folder().toLocalFile()).isDir());
     EXPECT_FALSE(alerts.isVisible());
+}
+
+TEST_F(PhotoLibrary, TheSecondPressOfADoubleClickHitsNothing) {
+    tap("roto.png"); // the button that opened the library was pressed twice
+    EXPECT_FALSE(library.isReading());
+    open("fotos");
+    tap("roto.png"); // what has come under the finger
+    EXPECT_FALSE(library.isReading());
+    open("roto.png");
+    EXPECT_TRUE(library.isReading());
 }
 
 TEST_F(PhotoLibrary, ClosesWithWhoeverAskedForThePhoto) {

@@ -268,7 +268,13 @@ void Tour::chooseLogo() {
     const auto former = draft().customerInformation->imageLogo;
     touch_->tap(QStringLiteral("searchLogoInGallery"));
     touch_->await(QStringLiteral("photoGrid"));
+    const auto settled = [&] {
+        touch_->waitUntil(QStringLiteral("the settled library"),
+                          [&] { return application_->photos().isSettled(); });
+    };
+    settled();
     application_->photos().open(QUrl::fromLocalFile(folder));
+    settled();
     touch_->tap(QStringLiteral("photoEntry0"));
     touch_->awaitGone(QStringLiteral("photoLibrary"));
     touch_->waitUntil(QStringLiteral("the logo in the draft"),

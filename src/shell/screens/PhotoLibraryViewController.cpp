@@ -2,6 +2,7 @@
 
 #include "device/AlertPresenter.h"
 #include "device/Background.h"
+#include "device/Clock.h"
 #include "device/UserDefaults.h"
 
 #include <QDir>
@@ -13,6 +14,8 @@
 namespace kavor {
 
 namespace {
+
+constexpr std::chrono::milliseconds doubleClick(400);
 
 bool isUsable(const QString& folder) {
     const QFileInfo info(folder);
@@ -58,10 +61,11 @@ QList<Place> usualPlaces() {
 } // namespace
 
 PhotoLibraryViewController::PhotoLibraryViewController(AlertPresenter& alerts, UserDefaults& defaults,
-                                                       QObject* parent)
+                                                       Clock& clock, QObject* parent)
     : PhotoPicker(parent)
     , alerts_(alerts)
-    , defaults_(defaults) {}
+    , defaults_(defaults)
+    , clock_(clock) {}
 
 bool PhotoLibraryViewController::pick(QObject* context, Callback callback) {
     if (visible_)
@@ -75,6 +79,7 @@ bool PhotoLibraryViewController::pick(QObject* context, Callback callback) {
         contextGone_ = connect(context, &QObject::destroyed, this, [this] { finish(std::nullopt); });
     callback_ = std::move(callback);
     openFolder(first);
+    letSettle();
     visible_ = true;
     emit visibleChanged();
     return true;
@@ -82,7 +87,7 @@ bool PhotoLibraryViewController::pick(QObject* context, Callback callback) {
 
 void PhotoLibraryViewController::open(const QUrl& entry) {
     const QString path = entry.toLocalFile();
-    if (!visible_ || reading_ || path.isEmpty())
+    if (!visible_ || !settled_ || reading_ || path.isEmpty())
         return;
     if (QFileInfo(path).isDir())
         openFolder(path);
@@ -102,8 +107,18 @@ void PhotoLibraryViewController::openFolder(const QString& folder) {
                        QStringLiteral("No se puede abrir la carpeta \"%1\".").arg(QDir(folder).dirName()));
         return;
     }
-    if (std::exchange(folder_, QDir::cleanPath(folder)) != folder_)
-        emit folderChanged();
+    if (std::exchange(folder_, QDir::cleanPath(folder)) == folder_)
+        return;
+    letSettle();
+    emit folderChanged();
+}
+
+void PhotoLibraryViewController::letSettle() {
+    settled_ = false;
+    clock_.after(doubleClick, this, [this, change = ++changes_] {
+        if (change == changes_)
+            settled_ = true;
+    });
 }
 
 void PhotoLibraryViewController::read(const QString& path) {

@@ -10,6 +10,7 @@
 namespace kavor {
 
 class AlertPresenter;
+class Clock;
 class UserDefaults;
 
 // The photo library of a desktop: the picture files of the device, shown over the window. It opens in the
@@ -33,12 +34,14 @@ public:
     // The key of the folder in which the user was last.
     static constexpr char folderKey[] = "photoFolder";
 
-    // Alerts and defaults outlive the library.
-    PhotoLibraryViewController(AlertPresenter& alerts, UserDefaults& defaults, QObject* parent = nullptr);
+    // The services outlive the library.
+    PhotoLibraryViewController(AlertPresenter& alerts, UserDefaults& defaults, Clock& clock,
+                               QObject* parent = nullptr);
 
     bool pick(QObject* context, Callback callback) override;
 
-    // A folder or a file of the list was tapped.
+    // A folder or a file of the list was tapped. The second press of a double click, which would hit what has
+    // just come under the finger, counts for nothing.
     Q_INVOKABLE void open(const QUrl& entry);
     Q_INVOKABLE void goUp();
     // Closes the library without a photo.
@@ -46,6 +49,8 @@ public:
 
     [[nodiscard]] bool isVisible() const { return visible_; }
     [[nodiscard]] bool isReading() const { return reading_; }
+    // Whether a tap counts.
+    [[nodiscard]] bool isSettled() const { return settled_; }
     [[nodiscard]] QUrl folder() const { return QUrl::fromLocalFile(folder_); }
     [[nodiscard]] QString folderText() const;
     [[nodiscard]] bool isUpPossible() const;
@@ -60,18 +65,22 @@ signals:
 
 private:
     void openFolder(const QString& folder);
+    void letSettle();
     void read(const QString& path);
     void finish(const std::optional<QImage>& photo);
     void setReading(bool reading);
 
     AlertPresenter& alerts_;
     UserDefaults& defaults_;
+    Clock& clock_;
     QString folder_;
     QPointer<QObject> context_;
     bool bound_ = false; // to the context
     QMetaObject::Connection contextGone_;
     Callback callback_;
-    int picks_ = 0; // tells a late reading from the one that is waited for
+    int picks_ = 0;   // tells a late reading from the one that is waited for
+    int changes_ = 0; // of what is listed
+    bool settled_ = false;
     bool visible_ = false;
     bool reading_ = false;
 };
