@@ -40,7 +40,9 @@ public:
         : folder_(std::move(folder))
         , random_(seed)
         , stamp_(firstStamp)
-        , orders_(folder_) {}
+        , orders_(folder_) {
+        openMenu();
+    }
 
     void step() {
         switch (random_() % 12) {
@@ -65,7 +67,7 @@ public:
         case 7:
             return writeTemporaryCopy();
         case 8:
-            TemporalBrochure::shared().takeForOpening(BrochureType::beer);
+            openMenu();
             return random_() % 3 == 0 ? removeTemporaryCopy() : void();
         case 9:
             return storeNetPrices();
@@ -167,24 +169,31 @@ private:
         }
     }
 
+    // Opens this or the other section: the menu of the one that is left is set aside.
+    void openMenu() {
+        kind_ = menuKinds[random_() % std::size(menuKinds)];
+        AppSingleton::shared().actualSection = SectionIdentifier::brochure(kind_);
+        TemporalBrochure::shared().takeForOpening(kind_);
+    }
+
     // Several wishes at once: the latest wins.
     void writeTemporaryCopy() {
         auto& draft = *BrochureIntermediateData::temporalBrochure();
         for (unsigned times = 1 + random_() % 3; times > 0; --times) {
             draft.sourceIdentifier = draft.orderIdentifier = ++stamp_;
             if (times > 1)
-                tell('>', temporaryCopyKey, stamp_);
+                tell('>', menuKey(kind_), stamp_);
             else
-                begin(temporaryCopyKey, stamp_);
+                begin(menuKey(kind_), stamp_);
             TemporalBrochure::shared().write(draft);
         }
-        tellOutcome(temporaryCopyKey, stamp_);
+        tellOutcome(menuKey(kind_), stamp_);
     }
 
     void removeTemporaryCopy() {
-        begin(temporaryCopyKey, 0);
+        begin(menuKey(kind_), 0);
         TemporalBrochure::shared().removeAll();
-        tellOutcome(temporaryCopyKey, 0);
+        tellOutcome(menuKey(kind_), 0);
     }
 
     void storeNetPrices() {
@@ -198,6 +207,7 @@ private:
     std::filesystem::path folder_;
     std::mt19937 random_;
     Int stamp_;
+    BrochureType kind_ = BrochureType::beer;
     OrderDiskManager orders_;
 };
 
@@ -214,7 +224,6 @@ int run(int argc, char** argv) {
     auto& session = AppSingleton::shared();
     session.setFolders(argv[1], argv[1]);
     session.applicationInformation = std::make_shared<const Catalogue>(stamped<ApplicationInformation>(1));
-    session.actualSection = SectionIdentifier::brochure(BrochureType::beer);
     Child child(argv[1], static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)), std::atoll(argv[3]));
     const long operations = argc > 4 ? std::atol(argv[4]) : 0;
     for (long done = 0; operations == 0 || done < operations; ++done)

@@ -79,6 +79,22 @@ std::optional<Int> stampOfFile(const std::filesystem::path& file, bool pretty) {
     return written.value_or("") == *text ? stampOf(*record) : std::nullopt;
 }
 
+// Of the unfinished menu of a kind, in the first place that has one.
+std::optional<Int> stampOfMenu(const std::filesystem::path& documents, BrochureType kind) {
+    for (const auto& name : {temporaryCopyName, recoveryCopyName, menuKey(kind)}) {
+        const auto file = documents / name;
+        struct stat status {};
+        if (::stat(file.c_str(), &status) != 0)
+            continue;
+        const auto order = json::decode<SaveBrochuresOrder>(atomic_file::read(file).value_or(""));
+        if (!order || (status.st_mode & 077) != 0)
+            return std::nullopt;
+        if (order->menu.orderType == kind)
+            return stampOfFile<SaveBrochuresOrder>(file, false);
+    }
+    return 0;
+}
+
 std::optional<Int> stampOfNetPrices(const std::filesystem::path& file) {
     const auto record = json::decode<NetPrices>(atomic_file::read(file).value_or(""));
     return record ? stampOf(*record) : std::nullopt;
@@ -154,11 +170,19 @@ KeychainItem stampedSecret(Int stamp) {
     return {{.server = "server.example"}, text, text};
 }
 
+std::string menuKey(BrochureType kind) {
+    return temporaryCopyName + ".type" + std::to_string(static_cast<Int>(kind));
+}
+
 std::optional<Int> stampIn(const std::filesystem::path& documents, const std::string& key) {
+    for (const auto kind : menuKinds) {
+        if (key == menuKey(kind))
+            return stampOfMenu(documents, kind);
+    }
     const auto file = documents / key;
     struct stat status {};
     if (::stat(file.c_str(), &status) != 0)
-        return key == temporaryCopyKey ? stampIn(documents, recoveryCopyKey) : 0;
+        return 0;
     if ((status.st_mode & 077) != 0)
         return std::nullopt;
     if (key == state_file::applicationInformation)
@@ -167,8 +191,6 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
         return stampOfFile<LoginResult>(file, false);
     if (key == state_file::netPrices)
         return stampOfNetPrices(file);
-    if (key == temporaryCopyKey || key == recoveryCopyKey)
-        return stampOfFile<SaveBrochuresOrder>(file, false);
     if (key == defaultsKey)
         return stampOfDefaults(file);
     if (key == keychainKey)

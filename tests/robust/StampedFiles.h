@@ -15,10 +15,12 @@
 // versions shows two numbers, a torn file none.
 namespace kavor::robust {
 
-// Which file, by its path below the documents folder. The temporary copy of the draft is one key with two
-// places.
-inline const std::string temporaryCopyKey = "temporalBrochure";
-inline const std::string recoveryCopyKey = "temporalBrochure.recovery";
+// Which file, by its path below the documents folder. The unfinished menu of a kind is one key with three
+// places: the temporary copy, the recovery copy, and the one that is set aside, which gives the key.
+inline const std::string temporaryCopyName = "temporalBrochure";
+inline const std::string recoveryCopyName = "temporalBrochure.recovery";
+inline constexpr BrochureType menuKinds[] = {BrochureType::beer, BrochureType::wineA4};
+std::string menuKey(BrochureType kind);
 inline const std::string defaultsKey = "UserDefaults";
 inline const std::string keychainKey = ".keychain/items";
 

@@ -178,6 +178,71 @@ TEST_F(MenuTest, ThePreviewOfTheConfigurationLeavesItOnShowWhateverComesOfIt) {
     EXPECT_EQ(menu.preview(), former); // the answer came too late
 }
 
+TEST_F(MenuTest, ALookIntoAnotherTileLeavesTheDigitalMenuAsItWasChosen) {
+    const auto digital = [](Brochures::Type& type) { type.parameters->allowSelectDigitalBrochure = true; };
+    enter(BrochureType::beer, digital);
+    completeDraft();
+    draft().selectedStyleDigitalIdentifier = 5;
+    draft().includeDigitalBrochure = true;
+    Menu(services).closeSceneAction();
+    enter(BrochureType::wineA4); // on offer on paper alone
+    {
+        Menu look(services);
+        EXPECT_EQ(configuration(look)->fieldText("establishmentNameTextField"), "");
+        look.closeSceneAction();
+    }
+    enter(BrochureType::beer, digital);
+    const Menu menu(services);
+    EXPECT_EQ(configuration(menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_TRUE(configuration(menu)->isDigitalOn());
+    EXPECT_EQ(draft().selectedStyleDigitalIdentifier, 5);
+}
+
+TEST_F(MenuTest, AResetErasesTheMenuAndTheOwnBrandsOfItsKindAndNoOther) {
+    const auto types = [](ApplicationInformation& information) {
+        information.brochures->productTypes.emplace_back().name = "Caña";
+    };
+    enter(BrochureType::beer, {}, types);
+    completeDraft();
+    draft().setFormatSelected(true, ownBrand * 10, ownBrand);
+    draft().setPrice(PriceType::main, ownBrand * 10, ownBrand, 3.4);
+    Menu(services).closeSceneAction();
+    enter(BrochureType::chalkboard, {}, types);
+    {
+        Menu other(services);
+        other.buttonPushedAction(Menu::Reset);
+        EXPECT_TRUE(press("Sí"));
+        EXPECT_FALSE(session.catalogue().product(ownBrand));
+        sessions.flush();
+        const auto stored =
+            state_file::read<ApplicationInformation>(folder.path(), state_file::applicationInformation);
+        ASSERT_TRUE(stored) << "the catalogue without them was not stored";
+        EXPECT_EQ(stored->products.size(), 1U);
+        other.closeSceneAction();
+    }
+    const auto withoutOwnBrand = [&](ApplicationInformation& information) {
+        types(information);
+        information.products.pop_back();
+    };
+    enter(BrochureType::beer, {}, withoutOwnBrand);
+    const Menu menu(services);
+    EXPECT_EQ(alerts.current(), nullptr) << alert();
+    const Product* back = session.catalogue().product(ownBrand);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->name, "Brava");
+    EXPECT_EQ(draft().priceOf(PriceType::main, back->productList.front().id, ownBrand), 3.4);
+}
+
+TEST_F(MenuTest, NamesWhatLeftTheCatalogueSinceTheMenuWasWritten) {
+    completeDraft();
+    Menu(services).closeSceneAction();
+    enter(BrochureType::beer, {}, [](ApplicationInformation& information) {
+        std::erase_if(information.products, [](const Product& each) { return each.id == knownBrand; });
+    });
+    const Menu menu(services);
+    EXPECT_EQ(alert(), "Atención | 1 producto ya no está en el catálogo: Brava");
+}
+
 TEST_F(MenuTest, WithoutACopyTheDraftInMemoryGoesOn) {
     completeDraft();
     Menu menu(services);

@@ -1,6 +1,7 @@
 #include "shell/services/SessionStore.h"
 
 #include "base/StopProcess.h"
+#include "catalogue/OwnBrand.h"
 #include "shell/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/LogCapture.h"
@@ -59,6 +60,24 @@ TEST_F(SessionStoreTest, ABrokenFileReadsAsAbsentAndTheLogNamesThePlace) {
     EXPECT_TRUE(log.contains("ZQLOGINRESULT: msg: expected string, found integer"));
     EXPECT_EXIT(SessionStore(session).storeSession(), testing::ExitedWithCode(stoppedExitStatus),
                 "loginResult");
+}
+
+TEST_F(SessionStoreTest, AChangeOfTheCatalogueIsStoredOwnBrandsWithTheirDescriptions) {
+    const OwnBrand cierva{ApplicationFather::orderBeer, "Cierva", "Turbia"};
+    session.changeCatalogue([&](Catalogue& all) { all.addProduct(cierva.product(all.brochures(), -1)); });
+    sessions.storeSession();
+    forget();
+    SessionStore(session).restoreSession();
+    ASSERT_TRUE(session.catalogue().product(-1));
+    EXPECT_EQ(OwnBrand::of(*session.catalogue().product(-1)), cierva);
+
+    SessionStore later(session);
+    session.changeCatalogue([](Catalogue& all) { all.removeProductsOfProperty(OwnBrand::property); });
+    later.flush(); // a kill asks for no storing
+    forget();
+    SessionStore(session).restoreSession();
+    EXPECT_FALSE(session.catalogue().product(-1)) << "an erased brand came back";
+    EXPECT_EQ(folder.content("ZQAPPLICATIONINFORMATION").find("Turbia"), std::string::npos);
 }
 
 // Storing is asked for in order and done in order: a large catalogue never wins over the one after it.

@@ -164,8 +164,12 @@ void TemporalBrochure::write(const BrochureIntermediateData& draft) {
 
 void TemporalBrochure::removeAll() {
     taken_ = false;
-    if (folder().empty() || occupied_) // nothing of this draft was written
+    if (folder().empty())
         return;
+    if (occupied_) { // nothing of this draft was written
+        logLine(copyName + ": another menu stands there that could not be set aside");
+        return;
+    }
     for (const auto& name : {copyName, recoveryName})
         BackgroundFileWriter::shared().remove(folder() / name);
 }

@@ -33,6 +33,26 @@ FocusScope {
             pinned = atYBeginning;
         }
 
+        // Enter in a price: on to the price below it, from the foot of the first column to the head of the
+        // second. The last price of all is taken and stays; the on-screen keyboard goes.
+        function goOn(row: int, secondary: bool, twoPrices: bool): void {
+            const foot = row + 1 === count;
+            if (foot)
+                priceAt(row, secondary).commit(); // the list may let go of its foot as it turns to its head
+            if (foot && (secondary || !twoPrices))
+                InputMethod.hide();
+            else
+                priceAt(foot ? 0 : row + 1, secondary || foot).forceActiveFocus(Qt.TabFocusReason);
+        }
+        // The price field of a row, whose cell is made where the list hasn't got it yet.
+        function priceAt(row: int, secondary: bool): PriceField {
+            if (!itemAtIndex(row)) {
+                positionViewAtIndex(row, ListView.Contain);
+                forceLayout();
+            }
+            return (itemAtIndex(row) as PriceSetterTableViewCell).priceField(secondary);
+        }
+
         onFocusedChanged: keepInView()
         onHeightChanged: Qt.callLater(keepInView) // qmllint disable
         objectName: "priceTable"
@@ -115,6 +135,8 @@ FocusScope {
             width: list.width
             height: implicitHeight
             controller: view.controller
+            last: index + 1 === list.count
+            onPriceReturned: (secondary) => list.goOn(index, secondary, twoPrices)
         }
     }
 

@@ -24,10 +24,19 @@ Item {
     required property bool isNewProduct
     required property bool hasRecommendation
 
+    property bool last: false // the last row of the table
+
+    // Enter was pressed in a price: the table knows where its column goes on.
+    signal priceReturned(bool secondary)
+
     readonly property bool twoPrices: controller.secondaryPriceVisible
     readonly property bool wide: width >= (twoPrices ? 900 : 700)
     readonly property bool stacked: !wide && width < 560
     readonly property real inner: width - 2 * Theme.spaceM
+
+    function priceField(secondary: bool): PriceField {
+        return secondary ? secondaryPrice : primaryPrice;
+    }
 
     implicitHeight: card.height + Theme.spaceM
 
@@ -108,22 +117,32 @@ Item {
         spacing: Theme.spaceM
 
         PriceField {
+            id: primaryPrice
+
             objectName: "retailPrimaryPriceTextField" + cell.primaryTag
             width: prices.fieldWidth
             label: "PVP Rec"
             emphasised: true
+            inColumn: true
+            lastInColumn: cell.last && !cell.twoPrices
             displayText: cell.primaryText
             editText: cell.primaryEditText
             onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.primaryTag, text)
+            onReturned: cell.priceReturned(false)
         }
         PriceField {
+            id: secondaryPrice
+
             objectName: "retailSecondaryPriceTextField" + cell.secondaryTag
             width: prices.fieldWidth
             visible: cell.twoPrices
             label: cell.controller.orderBySecondaryTitle
+            inColumn: true
+            lastInColumn: cell.last
             displayText: cell.secondaryText
             editText: cell.secondaryEditText
             onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.secondaryTag, text)
+            onReturned: cell.priceReturned(true)
         }
     }
 

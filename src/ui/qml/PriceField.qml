@@ -3,7 +3,8 @@ import QtQuick.Templates as T
 
 // Edits one price. Shows `displayText` (with its currency) at rest and `editText` while it has the focus.
 // Comma and point of the keypad both write the decimal comma. `entered` when the focus comes, `edited` on each
-// change, `finished(text)` with what was typed when it goes; Escape gives back what stood there.
+// change, `finished(text)` with what was typed when it goes; Escape gives back what stood there. Enter goes on to
+// the next item, or, where the field stands in a column of its owner, to where the owner goes on `returned`.
 FocusScope {
     id: price
 
@@ -16,12 +17,22 @@ FocusScope {
     property int maximumDecimals: 2
     property bool readOnly: false
     property bool emphasised: false
+    property bool inColumn: false // Enter is the owner's
+    property bool lastInColumn: false
     readonly property alias field: field
 
     signal entered()
     signal edited(string text)
     signal finished(string text)
+    signal returned()
 
+    // Hands over what was typed and stays, with the whole text selected.
+    function commit(): void {
+        field.end();
+        if (field.activeFocus)
+            field.begin();
+        field.handedOver = true;
+    }
     // What was typed or pasted, with one decimal sign at most.
     function normalised(text: string): string {
         let digits = text.replace(/[^0-9.,]/g, "");
@@ -58,10 +69,12 @@ FocusScope {
         id: field
 
         property bool editing: false
+        property bool handedOver: false // nothing was typed since
         property string before: "" // the text before the last key
 
         function begin(): void {
             editing = true;
+            handedOver = false;
             price.entered();
             text = before = price.editText;
             selectAll();
@@ -71,9 +84,16 @@ FocusScope {
             if (!editing)
                 return;
             editing = false;
-            price.finished(text);
+            if (!handedOver)
+                price.finished(text);
             text = Qt.binding(() => price.displayText);
             deselect();
+        }
+        function goOn(): void {
+            if (price.inColumn)
+                price.returned();
+            else
+                nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
         }
 
         y: price.label !== "" ? caption.implicitHeight + 6 : 0
@@ -117,6 +137,7 @@ FocusScope {
                 cursorPosition = Math.max(0, wanted.length - fromEnd);
             }
             before = text;
+            handedOver = false;
             price.edited(text);
         }
         Keys.onEscapePressed: {
@@ -124,8 +145,9 @@ FocusScope {
             selectAll();
         }
         // Enter goes on to the next field, as one types a column of prices.
-        Keys.onReturnPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-        Keys.onEnterPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+        Keys.onReturnPressed: goOn()
+        Keys.onEnterPressed: goOn()
+        EnterKey.type: price.lastInColumn ? Qt.EnterKeyDone : Qt.EnterKeyNext
 
         background: FieldFrame {
             active: field.activeFocus

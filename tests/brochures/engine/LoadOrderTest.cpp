@@ -1,6 +1,9 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/DraftTest.h"
 #include "brochures/engine/RetrievedOrder.h"
+#include "catalogue/OwnBrand.h"
+
+#include <limits>
 
 namespace kavor {
 
@@ -214,6 +217,135 @@ TEST_F(LoadOrder, StopsForABrandOrFormatWithoutNumber) {
                 "\"brand\"");
     EXPECT_EXIT(load(document().remove("menu.items.0.sub_items.1.product")),
                 testing::ExitedWithCode(stoppedExitStatus), "brand 10");
+}
+
+class OwnBrands : public LoadOrder {
+public:
+    OwnBrands() {
+        constexpr auto family = ApplicationFather::orderBeer;
+        catalogue.brochures().productTypes = {{1, family, 1, "Barril", {}, {}, {}, {}},
+                                              {2, family, 2, "Botella", {}, {}, {}, {}},
+                                              {3, ApplicationFather::orderWine, 1, "Copa", {}, {}, {}, {}}};
+        useCatalogue();
+        session().setCatalogueKeeper([this](const auto&) { ++changes; });
+    }
+    ~OwnBrands() override { session().setCatalogueKeeper({}); }
+
+    static OwnBrand cierva() {
+        return {ApplicationFather::orderBeer, "Cierva", "Turbia, de casa", 41, 22, 31, std::nullopt, 5};
+    }
+    // Adds a brand and selects its formats, as the product step does.
+    static void add(const OwnBrand& brand, Int id) {
+        session().changeCatalogue(
+            [&](Catalogue& all) { all.addProduct(brand.product(all.brochures(), id)); });
+        for (const auto& format : session().catalogue().product(id)->productList)
+            draft().setFormatSelected(true, format.id, id);
+    }
+    SaveBrochuresOrder orderWithCierva() {
+        complete();
+        add(cierva(), -1);
+        const auto format = session().catalogue().product(-1)->productList.front().id;
+        draft().setPrice(PriceType::main, format, -1, 4.2);
+        draft().setNewProduct(true, format, -1);
+        return draft().makeOrder(OrderRequestType::saveCloud, false);
+    }
+    SaveBrochuresOrder reloaded(const SaveBrochuresOrder& order) {
+        changes = 0;
+        Draft::replaceTemporalBrochure()->loadOrder(order);
+        return draft().makeOrder(OrderRequestType::saveCloud, false);
+    }
+    int changes = 0; // of the catalogue, that were to be stored
+};
+
+TEST_F(OwnBrands, AreBuiltAgainFromTheRecordWithAllThatTheUserEntered) {
+    const auto order = orderWithCierva();
+    useCatalogue(); // without it
+    EXPECT_EQ(reloaded(order), order);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(OwnBrand::of(*session().catalogue().product(-1)), cierva());
+    EXPECT_EQ(draft().takeFallenOut(), "");
+    EXPECT_EQ(reloaded(order), order);
+    EXPECT_EQ(changes, 0) << "it is there";
+}
+
+TEST_F(OwnBrands, ANumberThatAnotherBrandBearsDoesNotBringThatOneIn) {
+    const auto order = orderWithCierva();
+    auto other = cierva();
+    const auto expectAnew = [&](Int number) {
+        const auto loaded = reloaded(order);
+        const auto& brands = loaded.menu.beerBrands;
+        const auto found =
+            std::ranges::find(brands, std::optional(number), &SaveBrochuresOrder::Menu::BeerBrand::brand);
+        ASSERT_NE(found, brands.end()) << other.name;
+        EXPECT_EQ(brands.size(), order.menu.beerBrands.size());
+        EXPECT_EQ(found->name, "Cierva");
+        EXPECT_EQ(found->description, "Turbia, de casa");
+        ASSERT_EQ(found->beers.size(), 2U);
+        const auto keg =
+            std::ranges::find(found->beers, 1, &SaveBrochuresOrder::Menu::BeerBrand::Beer::productType);
+        EXPECT_EQ(keg->prices.front().price, 4.2);
+        EXPECT_TRUE(keg->isNew);
+    };
+    // After a reset the numbers start anew; each of these differs in one thing.
+    for (const auto& change :
+         {+[](OwnBrand& brand) { brand.name = "Corza"; }, +[](OwnBrand& brand) { brand.description.reset(); },
+          +[](OwnBrand& brand) { brand.taste = 32; },
+          +[](OwnBrand& brand) { brand.family = ApplicationFather::orderWine; }}) {
+        useCatalogue();
+        Draft::replaceTemporalBrochure();
+        other = cierva();
+        change(other);
+        add(other, -1);
+        expectAnew(-2);
+        EXPECT_EQ(changes, 1);
+        EXPECT_EQ(OwnBrand::of(*session().catalogue().product(-1)), other);
+        expectAnew(-2); // the same again, and no third brand
+        EXPECT_EQ(changes, 0);
+    }
+}
+
+TEST_F(OwnBrands, SeveralKeepTheirNumbersAndAHostileNumberIsReplaced) {
+    auto order = orderWithCierva();
+    auto second = cierva();
+    second.name = "Corza";
+    add(second, -2);
+    order = draft().makeOrder(OrderRequestType::saveCloud, false);
+    useCatalogue();
+    EXPECT_EQ(reloaded(order), order);
+    order.menu.beerBrands.front().brand = std::numeric_limits<Int>::min();
+    useCatalogue();
+    const auto loaded = reloaded(order);
+    EXPECT_EQ(loaded.menu.beerBrands.size(), order.menu.beerBrands.size());
+    EXPECT_GT(*loaded.menu.beerBrands.front().brand, -10);
+}
+
+TEST_F(OwnBrands, WhatCannotComeBackIsCountedAndNamedOnce) {
+    using Order = SaveBrochuresOrder;
+    const auto order = orderWithCierva(); // Cierva, Roble, Encina
+    struct Case {
+        void (*change)(std::vector<Order::Menu::BeerBrand>& brands);
+        const char* text;
+    };
+    for (const Case& each :
+         {Case{[](auto&) {}, ""},
+          Case{[](auto& brands) { brands[1].brand = 99; }, "1 producto ya no está en el catálogo: Roble"},
+          Case{[](auto& brands) { brands[2].beers[0].id = 999; },
+               "1 producto ya no está en el catálogo: Encina"},
+          Case{[](auto& brands) { brands[1].brand = brands[2].brand = 99; },
+               "2 productos ya no están en el catálogo: Roble, Encina"},
+          Case{[](auto& brands) {
+                   for (auto& beer : brands[0].beers)
+                       beer.productType = 77;
+               },
+               "1 producto ya no está en el catálogo: Cierva"},
+          Case{[](auto& brands) { brands[0].name.reset(); }, "1 producto ya no está en el catálogo"}}) {
+        auto changed = order;
+        each.change(changed.menu.beerBrands);
+        useCatalogue();
+        Draft::replaceTemporalBrochure()->loadOrder(changed);
+        EXPECT_EQ(draft().takeFallenOut(), each.text);
+        EXPECT_EQ(draft().takeFallenOut(), "");
+    }
 }
 
 class RetrievedOrder : public LoadOrder {

@@ -19,8 +19,25 @@ public:
         temporal().write(draft());
         temporal().flush();
     }
+    // Opens the wizard in the section of a kind; answers the file name of the menu that came back.
+    std::string open(BrochureType kind) {
+        enter(kind);
+        return temporal().restoreDraft() ? *draft().fileName : "";
+    }
+    // The content that a copy of a kind has.
+    std::string menuOf(BrochureType kind, const std::string& name) {
+        enter(kind);
+        Draft::replaceTemporalBrochure();
+        complete();
+        draft().fileName = name;
+        return json::encode(draft().makeOrder(OrderRequestType::saveCloud, false)).value();
+    }
+    static constexpr auto beer = BrochureType::beer, wine = BrochureType::wineA4;
     const std::string copy = "temporalBrochure";
     const std::string recovery = "temporalBrochure.recovery";
+    const std::string beerAside = "temporalBrochure.type1";
+    const std::string wineAside = "temporalBrochure.type12";
+    const std::string unreadable = "temporalBrochure.unreadable";
 };
 
 TEST_F(TemporalBrochureTest, OpeningTakesTheCopyIntoANewDraft) {
@@ -96,6 +113,93 @@ TEST_F(TemporalBrochureTest, TheLastOfManyWritesStands) {
     const auto order = temporal().takeForOpening(BrochureType::beer);
     ASSERT_TRUE(order);
     EXPECT_EQ(order->orderLines.front().quantity, 200);
+}
+
+TEST_F(TemporalBrochureTest, EachKindHasAnUnfinishedMenuOfItsOwn) {
+    EXPECT_EQ(open(beer), "");
+    writeDraftOf("La Esquina");
+    draft().includeDigitalBrochure = false;
+    EXPECT_EQ(open(wine), "");
+    EXPECT_TRUE(draft().selectedBrands.empty() && draft().includeDigitalBrochure) << "a new draft";
+    EXPECT_EQ(folder.names(), Names{beerAside});
+    writeDraftOf("Bodega");
+    EXPECT_EQ(open(beer), "La Esquina");
+    EXPECT_EQ(folder.names(), (Names{recovery, wineAside}));
+    EXPECT_EQ(open(wine), "Bodega") << "nothing was written in between";
+    temporal().removeAll(); // the reset, of this kind alone
+    temporal().flush();
+    EXPECT_EQ(folder.names(), Names{beerAside});
+    EXPECT_EQ(open(beer), "La Esquina");
+    const auto mode = std::filesystem::status(folder / recovery).permissions();
+    EXPECT_EQ(mode, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+}
+
+// Where a process that opens, writes and changes kinds may die, and what stands on disk then.
+TEST_F(TemporalBrochureTest, ADeathAtAnyMomentLosesNoMenuAndBringsNoneBackTwice) {
+    const std::string cask = menuOf(beer, "La Esquina"), older = menuOf(beer, "La Esquina, antes"),
+                      red = menuOf(wine, "Bodega");
+    using Files = std::map<std::string, std::string>;
+    for (const Files& files :
+         {Files{{copy, cask}, {wineAside, red}}, Files{{copy, red}, {beerAside, cask}},
+          Files{{beerAside, cask}, {wineAside, red}}, Files{{recovery, red}, {beerAside, cask}},
+          Files{{recovery, cask}, {wineAside, red}}, Files{{copy, cask}, {recovery, older}, {wineAside, red}},
+          Files{{copy, cask}, {recovery, red}}}) {
+        for (const auto& [first, second] : {std::pair(beer, wine), std::pair(wine, beer)}) {
+            for (const auto& name : folder.names())
+                std::filesystem::remove(folder / name);
+            for (const auto& [name, content] : files)
+                folder.put(name, content);
+            Draft::replaceTemporalBrochure(); // as a new process has it
+            for (const auto kind : {first, second, first}) {
+                EXPECT_EQ(open(kind), kind == beer ? "La Esquina" : "Bodega")
+                    << files.begin()->first << " and " << files.rbegin()->first;
+            }
+            temporal().removeAll();
+            EXPECT_NE(open(second), "");
+            temporal().removeAll();
+            temporal().flush();
+            EXPECT_TRUE(folder.names().empty());
+        }
+    }
+}
+
+TEST_F(TemporalBrochureTest, TwoOfAKindComeBackOneAfterTheOther) {
+    folder.put(beerAside, menuOf(beer, "La primera"));
+    folder.put(copy, menuOf(beer, "La segunda"));
+    EXPECT_EQ(open(wine), "");
+    EXPECT_EQ(folder.names(), (Names{beerAside, beerAside + "-2"}));
+    EXPECT_EQ(open(beer), "La segunda");
+    temporal().removeAll();
+    Draft::replaceTemporalBrochure(); // it was sent
+    EXPECT_EQ(open(beer), "La primera");
+}
+
+TEST_F(TemporalBrochureTest, WhatCantBeReadIsSetAsideAndStays) {
+    const std::string broken = "{\"save\":";
+    const std::string nameless = JsonData::of(menuOf(beer, "Sin marca")).remove("menu.items.0.brand").text();
+    const LogCapture log;
+    for (const auto& content : {broken, nameless}) {
+        folder.put(copy, content);
+        EXPECT_EQ(open(beer), "");
+    }
+    folder.put(beerAside, broken);
+    EXPECT_EQ(open(wine), "");
+    EXPECT_EQ(open(beer), "");
+    EXPECT_EQ(folder.names(), (Names{unreadable, unreadable + "-2", unreadable + "-3"}));
+    EXPECT_EQ(folder.content(unreadable), broken);
+    EXPECT_EQ(folder.content(unreadable + "-2"), nameless);
+}
+
+TEST_F(TemporalBrochureTest, AnOrderThatIsLoadedGoesBeforeMenusOfItsKindAndLeavesThoseOfOthers) {
+    const auto order = json::decode<SaveBrochuresOrder>(menuOf(wine, "Del archivo")).value();
+    folder.put(copy, menuOf(beer, "La Esquina"));
+    folder.put(wineAside, menuOf(wine, "Bodega"));
+    enter(wine);
+    Draft::replaceTemporalBrochure()->loadOrder(order);
+    draft().fileName = "Del archivo";
+    EXPECT_EQ(open(wine), "");
+    EXPECT_EQ(draft().fileName, "Del archivo") << "the wizard goes on with the order just loaded";
+    EXPECT_EQ(folder.names(), (Names{beerAside, wineAside}));
 }
 
 TEST_F(TemporalBrochureTest, WithoutADocumentsFolderNothingIsKept) {
