@@ -3,6 +3,7 @@
 #include "base/Int.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/engine/SelectHighlightCheckerDelegate.h"
+#include "brochures/engine/SentOrder.h"
 #include "catalogue/Brochures.h"
 
 #include <map>
@@ -170,6 +171,8 @@ public:
     bool withoutPricePennant = false;
     std::optional<Brochures::Type::Parameters>
         brochureTypeParameters; // of the section, set by the wizard's frame
+    UnansweredSends unansweredSends;
+    std::optional<SentOrder> sent; // once the server has taken it to print
 
     // ---- References to the catalogue
     // ------------------------------------------------------------------------- Setters answer false, and
@@ -272,6 +275,8 @@ public:
     // process stops outside a brochure section and for a brand or drink that the catalogue no longer
     // explains.
     [[nodiscard]] SaveBrochuresOrder makeOrder(OrderRequestType save, bool validate) const;
+    // The same for a file of the device, with the sends that wait for their answers.
+    [[nodiscard]] KeptOrder keptOrder(OrderRequestType save, bool validate) const;
     // Fills this (new) draft from a document; what left the catalogue falls out. Deletes the temporary copy
     // on disk. The file name is the caller's to set.
     void loadOrder(const SaveBrochuresOrder& order);

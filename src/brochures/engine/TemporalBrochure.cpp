@@ -33,18 +33,18 @@ std::optional<std::filesystem::path> TemporalBrochure::recoveryCopy() const {
     return inDocuments(recoveryName);
 }
 
-std::optional<SaveBrochuresOrder> TemporalBrochure::takeForOpening() {
+std::optional<KeptOrder> TemporalBrochure::takeForOpening() {
     const auto file = copy();
     if (!file)
         return std::nullopt;
     flush();
     const auto& folder = AppSingleton::shared().documentsFolder();
-    auto order = state_file::read<SaveBrochuresOrder>(folder, state_file::temporalBrochure);
+    auto order = state_file::read<KeptOrder>(folder, state_file::temporalBrochure);
     if (order) {
         if (const auto moved = atomic_file::move(*file, *recoveryCopy()); !moved)
             logLine(moved.error().text());
     } else {
-        order = state_file::read<SaveBrochuresOrder>(folder, recoveryName);
+        order = state_file::read<KeptOrder>(folder, recoveryName);
     }
     taken_ = order.has_value();
     return order;
@@ -57,14 +57,15 @@ bool TemporalBrochure::restoreDraft() {
     const auto& draft = BrochureIntermediateData::replaceTemporalBrochure();
     draft->loadOrder(*order);
     draft->fileName = order->filename; // the copy has no file of its own to be named after
+    draft->unansweredSends = order->unansweredSends.value_or(UnansweredSends());
     return true;
 }
 
 void TemporalBrochure::write(const BrochureIntermediateData& draft) {
     const auto file = copy();
-    if (!file)
+    if (!file || draft.sent)
         return;
-    const auto text = json::encode(draft.makeOrder(OrderRequestType::saveCloud, false));
+    const auto text = json::encode(draft.keptOrder(OrderRequestType::saveCloud, false));
     if (!text) {
         logLine(std::string(state_file::temporalBrochure) + ": " + text.error().text());
         return;

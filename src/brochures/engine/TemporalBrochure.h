@@ -19,12 +19,12 @@ public:
     static TemporalBrochure& shared();
 
     // The copy, or the recovery copy when there is none, to fill a new draft; afterwards there is no copy.
-    std::optional<SaveBrochuresOrder> takeForOpening();
+    std::optional<KeptOrder> takeForOpening();
     // Takes the copy and, when there is one, replaces the shared draft by a new one filled from it, its file
-    // name included. Answers whether there was one.
+    // name and the sends without an answer included. Answers whether there was one.
     bool restoreDraft();
-    // Writes the copy of the draft (as makeOrder gives it for the cloud, without validation). Returns at
-    // once.
+    // Writes the copy of the draft (as keptOrder gives it for the cloud, without validation). Returns at
+    // once. A draft that was sent has no copy.
     void write(const BrochureIntermediateData& draft);
     // Removes the copy and the recovery copy: the draft was reset or sent.
     void removeAll();

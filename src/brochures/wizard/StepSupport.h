@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 // What the steps that choose style, brands and prices share.
 namespace kavor {
@@ -23,8 +24,11 @@ const Brochures::Type* sectionBrochureType(const Catalogue& catalogue);
 const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue);
 
 // Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no
-// longer the shared one, and outside a brochure section.
+// longer the shared one, and outside a brochure section. A draft that was sent has no copy: whoever frames
+// the steps is told instead, by sentDraftSaved.
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
+
+inline constexpr std::string_view sentDraftSaved = "SentDraftSaved";
 
 inline QString fromUtf8(const std::string& utf8) {
     return QString::fromStdString(utf8);
