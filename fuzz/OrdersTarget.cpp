@@ -56,6 +56,7 @@ std::string comparable(SaveBrochuresOrder order) {
 } // namespace
 
 bool brochureOrder(std::string_view document) {
+    static_cast<void>(roundTrip<KeptOrder>(document));
     const auto order = roundTrip<SaveBrochuresOrder>(document);
     if (!order || !isComplete(*order))
         return order.has_value();

@@ -2,6 +2,7 @@
 #include "OnlineSession.h"
 #include "OptionValues.h"
 #include "OrderInputs.h"
+#include "orders/services/SendIntent.h"
 
 #include <CLI/CLI.hpp>
 
@@ -20,15 +21,25 @@ QString failureTitle(OrderRequestType save) {
     }
 }
 
+// The key of the intent that was named, or of a send of the file which nobody answered; empty for a new one.
+QByteArray keyOf(const OrderInputs& inputs, const KeptOrder& order) {
+    if (!inputs.intent.empty())
+        return send_intent::keyOfName(inputs.intent, order.save);
+    return send_intent::keyInFile(order).value_or(QByteArray());
+}
+
 void send(const CommandContext& context, const OrderInputs& inputs) {
-    auto order = readRecord<SaveBrochuresOrder>(inputs.order);
+    auto order = readRecord<KeptOrder>(inputs.order);
     order.save = requestType(inputs.save);
+    const QByteArray key = keyOf(inputs, order);
     OnlineSession online(context);
     online.requireNetwork();
     online.requireLogin();
     const auto answer = online.await<SaveBrochuresOrderResponse>(
         {QStringLiteral("Enviando el pedido"), failureTitle(order.save)},
-        [&](const Completion<SaveBrochuresOrderResponse>& done) { online.network.saveOrder(order, done); });
+        [&](const Completion<SaveBrochuresOrderResponse>& done) {
+            online.network.saveOrder(order, done, key);
+        });
     context.out << prettyText(answer);
 }
 
@@ -39,6 +50,8 @@ void addOrderSend(CLI::App& group, CommandContext& context) {
     CLI::App* command = group.add_subcommand("send", "sends an order; prints the server's answer");
     withValue(command->add_option("FILE", inputs->order, "an order document"))->required();
     addSaveOption(*command, inputs->save);
+    withValue(command->add_option("--intent", inputs->intent,
+                                  "a name for what is meant: repeated under it, the order is placed once"));
     command->callback([&context, inputs] { send(context, *inputs); });
 }
 

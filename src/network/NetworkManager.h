@@ -66,7 +66,8 @@ public:
     void priceRecommendation(Int productId, const QString& postalCode, const QString& locality,
                              Completion<PriceRecommendationResponse> done) override;
 
-    void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done) override;
+    void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
+                   const QByteArray& idempotencyKey = {}) override;
     void retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) override;
     void retrieveBrochureOrder(Int orderId, Completion<RetrieveBrochureOrderListResponse> done) override;
     void deleteOrder(Int id, ApplicationType type, Completion<SimpleResponse> done) override;

@@ -147,8 +147,11 @@ void NetworkManager::priceRecommendation(Int productId, const QString& postalCod
 // ---- Brochure orders
 // --------------------------------------------------------------------------------------------
 
-void NetworkManager::saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done) {
-    request(postingRecord("saveOrderURL", urlOf(networkConfiguration_.urls.saveOrderURL), order), done);
+void NetworkManager::saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
+                               const QByteArray& idempotencyKey) {
+    auto operation = postingRecord("saveOrderURL", urlOf(networkConfiguration_.urls.saveOrderURL), order);
+    operation.idempotencyKey = idempotencyKey;
+    request(operation, done);
 }
 
 void NetworkManager::retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) {

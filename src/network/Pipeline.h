@@ -25,7 +25,8 @@ struct Operation {
     QUrl url;
     QByteArray body = {};
     QByteArray contentType = {};
-    bool changesServer = false; // carries an idempotency key
+    bool changesServer = false;     // carries an idempotency key
+    QByteArray idempotencyKey = {}; // of the caller's intent; empty: a new one
 };
 
 // One request from its start to its end, through all its repeats.
@@ -54,7 +55,8 @@ NetworkManager::RequestPointer NetworkManager::prepare(const Operation& operatio
     auto response = std::make_shared<std::optional<Response>>();
     request->operation = operation;
     if (operation.changesServer)
-        request->idempotencyKey = newIdempotencyKey();
+        request->idempotencyKey =
+            operation.idempotencyKey.isEmpty() ? newIdempotencyKey() : operation.idempotencyKey;
     request->decode = [response, read](const QByteArray& body) -> std::optional<json::Error> {
         auto decoded = read(std::string_view(body.constData(), std::size_t(body.size())));
         if (!decoded)

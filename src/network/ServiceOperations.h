@@ -2,6 +2,7 @@
 
 #include "catalogue/Enumerations.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -136,7 +137,10 @@ public:
     virtual void priceRecommendation(Int productId, const QString& postalCode, const QString& locality,
                                      Completion<PriceRecommendationResponse> done) = 0;
 
-    virtual void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done) = 0;
+    // Under one key the server takes an order once, however often it is sent; without a key each call is an
+    // intent of its own.
+    virtual void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
+                           const QByteArray& idempotencyKey = {}) = 0;
     virtual void retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) = 0;
     virtual void retrieveBrochureOrder(Int orderId, Completion<RetrieveBrochureOrderListResponse> done) = 0;
     virtual void deleteOrder(Int id, ApplicationType type, Completion<SimpleResponse> done) = 0;

@@ -37,6 +37,8 @@ template <class Order>
 void appendFiles(std::vector<DraftOrderRow>& rows, const OrderDiskManager& orders, DirectoryName directory) {
     for (const auto& file : orders.list<Order>(directory)) {
         auto order = orders.retrieve<Order>(file.fileName, directory);
+        if (!order && !orders.moment<Order>(file.fileName, directory))
+            continue; // it vanished since it was listed
         if (!order)
             stopProcess("order file " + file.fileName + " that can be read");
         DraftOrderRow row;

@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <type_traits>
 
 namespace kavor {
@@ -141,12 +142,22 @@ std::optional<Order> OrderDiskManager::retrieve(std::string_view name, Directory
     if (order)
         return std::move(*order);
     const std::string fault = path->string() + ": " + order.error().text();
-    if constexpr (!std::is_same_v<Order, SaveBrochuresOrder>) {
+    if constexpr (!std::is_base_of_v<SaveBrochuresOrder, Order>) {
         if (json::isWellFormed(*text))
             stopProcess(fault);
     }
     logLine(fault);
     return std::nullopt;
+}
+
+template <class Order>
+std::optional<OrderDiskManager::Moment> OrderDiskManager::moment(std::string_view name,
+                                                                 DirectoryName directory) const {
+    const auto path = atomic_file::child(folder(Order::folderName, directory), name);
+    struct statx status {};
+    if (!path || ::statx(AT_FDCWD, path->c_str(), AT_SYMLINK_NOFOLLOW, STATX_MTIME, &status) != 0)
+        return std::nullopt;
+    return Moment{status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec};
 }
 
 template <class Order>
@@ -164,8 +175,11 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName dire
         if (!name.ends_with("." + std::string(extension)))
             continue;
         struct statx status {};
-        if (::statx(AT_FDCWD, entry.path().c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0)
+        if (::statx(AT_FDCWD, entry.path().c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0) {
+            if (errno == ENOENT && !moment<Order>(name, directory)) // it vanished since it was listed
+                continue;
             stopProcess("attributes of " + entry.path().string());
+        }
         // Not every file system keeps the moment of birth.
         const auto birth = (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime : status.stx_mtime;
         result.push_back({name,
@@ -193,10 +207,13 @@ bool OrderDiskManager::remove(std::string_view name, DirectoryName directory) co
     template bool OrderDiskManager::create(const Order&, DirectoryName, std::string_view) const;             \
     template bool OrderDiskManager::update(const Order&, std::string_view, DirectoryName) const;             \
     template std::optional<Order> OrderDiskManager::retrieve(std::string_view, DirectoryName) const;         \
+    template std::optional<OrderDiskManager::Moment> OrderDiskManager::moment<Order>(std::string_view,       \
+                                                                                     DirectoryName) const;   \
     template std::vector<OrderDiskManager::Listing> OrderDiskManager::list<Order>(DirectoryName) const;      \
     template bool OrderDiskManager::remove<Order>(std::string_view, DirectoryName) const;
 
 KAVOR_ORDER_FILES(SaveBrochuresOrder)
+KAVOR_ORDER_FILES(KeptOrder)
 KAVOR_ORDER_FILES(SaveTextileOrder)
 KAVOR_ORDER_FILES(SellingSheetOrder)
 

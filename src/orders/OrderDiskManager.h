@@ -19,7 +19,7 @@ namespace kavor {
 // Orders that aren't finished or can't be sent yet, as files in a fixed tree below the documents folder:
 // orders/draft_orders|outbox_orders/<record name>/<plain name>.zvo. A file's name is the order's identity on
 // the device. "Plain name" means without the extension, "file name" with it; the asymmetry of the operations
-// is meant. Exists for SaveBrochuresOrder, SaveTextileOrder and SellingSheetOrder.
+// is meant. Exists for SaveBrochuresOrder (also as KeptOrder), SaveTextileOrder and SellingSheetOrder.
 class OrderDiskManager {
 public:
     enum class DirectoryName { draft, outbox };
@@ -65,8 +65,11 @@ public:
     // sheet file that is well-formed JSON stops the process: only the application writes them.
     template <class Order>
     [[nodiscard]] std::optional<Order> retrieve(std::string_view fileName, DirectoryName directory) const;
-    // The files with the extension, in the order of the file system; the process stops when the folder can't
-    // be read.
+    // When a file that stands there was written, whether it can be read or not; nothing when there is none.
+    template <class Order>
+    [[nodiscard]] std::optional<Moment> moment(std::string_view fileName, DirectoryName directory) const;
+    // The files with the extension, in the order of the file system, without those that vanish meanwhile; the
+    // process stops when the folder can't be read.
     template <class Order>
     [[nodiscard]] std::vector<Listing> list(DirectoryName directory) const;
     // Removes a file; a failure is logged. Answers whether the file is gone.

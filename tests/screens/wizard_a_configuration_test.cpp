@@ -244,6 +244,53 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
+TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhenTheNextFindsNobody) {
+    auto& request = network.requests.getCustomerDataFromTevoCode;
+    struct Case {
+        std::function<void()> action;
+        bool stays;
+    };
+    const Case cases[] = {
+        {[&] { step->finishText("contactTelephoneTextField", "600"); }, true},
+        {[&] { step->finishText("tevoTextField", "B0001"); }, true}, // the field is left as it was
+        {[&] { step->finishText("tevoTextField", "B0002"); }, false},
+        {[&] { step->finishText("establishmentNameTextField", "Bar Roble"); }, false},
+        {[&] {
+             open(); // the draft fills the form anew
+             step->finishText("establishmentNameTextField", "Bar Roble");
+         },
+         false},
+        {[&] {
+             step->searchTEVOCodeAction();
+             request.succeed({});
+         },
+         false},
+        {[&] {
+             step->searchTEVOCodeAction();
+             request.fail(failureWith({"motivo"}));
+         },
+         true},
+    };
+    Customer found;
+    found.id = 70;
+    found.name = "Bar Pino";
+    found.placeLocalityId = 71;
+    found.placeProvinceId = 72;
+    found.priorityBrandIdentifiers = {11};
+    for (const Case& each : cases) {
+        open().editText("tevoTextField", "B0001");
+        step->searchTEVOCodeAction();
+        request.succeed({found});
+        each.action();
+        const Customer& kept = *draft().customerInformation;
+        EXPECT_EQ(kept.id.has_value(), each.stays);
+        EXPECT_EQ(kept.placeLocalityId.has_value(), each.stays);
+        EXPECT_EQ(kept.placeProvinceId.has_value(), each.stays);
+        EXPECT_EQ(kept.priorityBrandIdentifiers.has_value(), each.stays);
+        EXPECT_EQ(temporaryCopy()->menu.customer.id, kept.id);
+    }
+}
+
 TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVeilAway) {
     struct Case {
         const char* alert;

@@ -323,17 +323,99 @@ TEST_F(MenuTest, TheBannerOfPreferredBrandsIsAskedForUntilItWasClosedAndAgainAft
     EXPECT_EQ(asked, 2);
 }
 
-TEST_F(MenuTest, AnOrderThatWasSentIsNotResumed) {
-    completeDraft();
-    Menu menu(services);
-    menu.buttonPushedAction(Menu::Send);
-    qobject_cast<BrochureSendViewController*>(menu.activeViewController())->sendOrderAction();
-    SaveBrochuresOrderResponse answer;
-    answer.urlOrder = Url{"http://server.example/order"};
-    ASSERT_TRUE(network.requests.saveOrder.succeed(answer));
-    menu.closeSceneAction();
+class SentOrderTest : public MenuTest {
+protected:
+    void SetUp() override {
+        MenuTest::SetUp();
+        enter(
+            BrochureType::beer, [](Brochures::Type& type) { type.parameters->isHighlightable = true; },
+            [](ApplicationInformation& information) {
+                information.products.front().productList.front().positionHighlightable = 1;
+            });
+        completeDraft();
+        draft().orderIdentifier = 7;
+        draft().fileName = "mi carta";
+        menu = std::make_unique<Menu>(services);
+        menu->buttonPushedAction(Menu::Send);
+        send()->sendOrderAction();
+        SaveBrochuresOrderResponse answer;
+        answer.urlOrder = Url{"http://server.example/order"};
+        ASSERT_TRUE(network.requests.saveOrder.succeed(answer));
+        press("Aceptar");
+    }
+    [[nodiscard]] BrochureSendViewController* send() const {
+        return qobject_cast<BrochureSendViewController*>(menu->activeViewController());
+    }
+    void rename(const QString& name) const {
+        configuration(*menu)->finishText("establishmentNameTextField", name);
+    }
+
+    std::unique_ptr<Menu> menu;
+    const std::string question =
+        "Atención | Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?";
+};
+
+TEST_F(SentOrderTest, ChangingStepsForgetsNothingWritesNothingAndAsksNothing) {
+    for (const int button : {Menu::Configuration, Menu::Style, Menu::Products, Menu::Prices, Menu::Send}) {
+        menu->buttonPushedAction(button);
+        EXPECT_NE(alert(), question) << button;
+        press("Aceptar"); // what a step says by itself
+        EXPECT_FALSE(temporaryCopy()) << button;
+    }
+    EXPECT_FALSE(draft().highlightedBrands.empty()) << "proposed by the prices, not chosen by the user";
+    EXPECT_TRUE(send()->isOrderSent());
+    EXPECT_EQ(send()->makeOrderButtonTitle(), "Ver pedido");
+    send()->sendOrderMyselfAction();
+    EXPECT_EQ(urls.opened, QStringList{"http://server.example/order"});
+    EXPECT_EQ(network.requests.saveOrder.calls.size(), 1U);
+    EXPECT_FALSE(alerts.isVisible());
+}
+
+TEST_F(SentOrderTest, TheFirstChangeIsTakenBackOrMakesAnotherOrder) {
+    menu->buttonPushedAction(Menu::Configuration);
+    rename("Bar Pino");
+    EXPECT_EQ(alert(), question);
+    press("No");
+    EXPECT_FALSE(alerts.isVisible());
+    EXPECT_EQ(configuration(*menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_EQ(draft().customerInformation->name, "Bar Olmo");
+    EXPECT_EQ(draft().orderIdentifier, 7);
+    EXPECT_EQ(draft().fileName, "mi carta");
+    EXPECT_TRUE(draft().sent);
     EXPECT_FALSE(temporaryCopy());
+
+    rename("Bar Pino");
+    EXPECT_EQ(alert(), question);
+    press("Sí");
+    EXPECT_EQ(temporaryCopy()->menu.customer.name, "Bar Pino");
+    EXPECT_FALSE(temporaryCopy()->orderIdentifier);
+    rename("Bar Roble");
+    EXPECT_FALSE(alerts.isVisible()) << "it was asked once";
+    menu->buttonPushedAction(Menu::Send);
+    EXPECT_FALSE(send()->isOrderSent());
+    send()->sendOrderAction();
+    const auto& [order, key] = network.requests.saveOrder.calls.back();
+    EXPECT_FALSE(order.orderIdentifier);
+    EXPECT_NE(key, std::get<1>(network.requests.saveOrder.calls.front()));
+}
+
+TEST_F(SentOrderTest, AChangeStillInItsFieldIsAskedAboutOnLeavingTheStep) {
+    menu->buttonPushedAction(Menu::Configuration);
+    configuration(*menu)->editText("establishmentNameTextField", "Bar Pino");
+    menu->buttonPushedAction(Menu::Send);
+    EXPECT_EQ(alert(), question);
+    press("Sí");
+    EXPECT_FALSE(send()->isOrderSent());
+    EXPECT_EQ(send()->localNameLabel(), "Bar Pino");
+}
+
+TEST_F(SentOrderTest, TheNextOpeningAndTheResetStartAnew) {
+    menu->buttonPushedAction(Menu::Products);
+    menu->closeSceneAction();
+    EXPECT_FALSE(temporaryCopy());
+    const Menu again(services);
     EXPECT_TRUE(draft().selectedBrands.empty());
+    EXPECT_FALSE(draft().sent);
 }
 
 } // namespace

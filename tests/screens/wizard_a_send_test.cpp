@@ -1,6 +1,7 @@
 #include "brochures/wizard/BrochureSendSummary.h"
 #include "brochures/wizard/BrochureSendViewController.h"
 #include "brochures/wizard/WebPreviewViewController.h"
+#include "orders/services/SendIntent.h"
 #include "support/ScriptedServer.h"
 #include "wizard_a_fixture.h"
 
@@ -32,6 +33,8 @@ protected:
         step->saveOrderAction();
         EXPECT_TRUE(press("Guardar", name));
     }
+    // The key of the last request.
+    [[nodiscard]] QByteArray lastKey() const { return std::get<1>(network.requests.saveOrder.calls.back()); }
     bool alertComes() {
         return waitFor([this] { return alerts.isVisible() && !veil; });
     }
@@ -327,6 +330,148 @@ TEST_F(SendTest, WhatCannotBeSynchronisedIsPlannedForLater) {
     ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.fail(failureWith({"motivo"})); }));
     EXPECT_EQ(alert(), "El pedido no se puede sincronizar | motivo");
     EXPECT_EQ(sync.planned, 2);
+}
+
+// ---- One order, one key
+
+TEST_F(SendTest, ASecondTapAfterALostAnswerKeepsTheKeyAndAnAnswerEndsIt) {
+    struct Case {
+        RequestFailure failure;
+        bool keeps;
+    };
+    using Kind = RequestError::Kind;
+    completeDraft();
+    for (const Case& each : {Case{lostAnswer(Kind::Transport), true}, Case{lostAnswer(Kind::TimedOut), true},
+                             Case{lostAnswer(Kind::Decoding), true}, Case{failureWith({}, 502), true},
+                             Case{failureWith({}, 504), true}, Case{failureWith({"motivo"}, 422), false},
+                             Case{failureWith({}, 500), false}}) {
+        for (auto action :
+             {&BrochureSendViewController::sendOrderAction, &BrochureSendViewController::previewAction}) {
+            (open().*action)();
+            const QByteArray first = lastKey();
+            EXPECT_FALSE(first.isEmpty());
+            network.requests.saveOrder.fail(each.failure);
+            (open().*action)(); // the step was left and shown again
+            EXPECT_EQ(lastKey() == first, each.keeps) << each.failure.error.status;
+            network.requests.saveOrder.fail(failureWith({}));
+            while (alerts.isVisible())
+                press("Aceptar");
+        }
+    }
+}
+
+TEST_F(SendTest, AnotherContentIsAnotherIntentAndTheFirstIsStillItself) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    step->previewAction();
+    EXPECT_NE(lastKey(), first);
+    network.requests.saveOrder.fail(failureWith({}));
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
+    step->sendOrderAction();
+    EXPECT_NE(lastKey(), first);
+    network.requests.saveOrder.fail(failureWith({}));
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 2);
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, TheKeyOutlivesTheProcess) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    TemporalBrochure::shared().flush();
+    BrochureIntermediateData::replaceTemporalBrochure();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
+    open().sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, NeitherTheServersNumbersNorAFileNameMakeAnotherOrder) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    saveAs("por si acaso");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    SaveBrochuresOrderResponse stored;
+    stored.orderId = 41;
+    stored.customerId = 42;
+    network.requests.saveOrder.succeed(stored);
+    press("Aceptar");
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+    network.requests.saveOrder.succeed({}); // taken, but nobody says where it is
+    press("Aceptar");
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, ACloudSaveGoesUnderTheKeyOfItsFile) {
+    completeDraft();
+    open();
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    const auto file = orders.retrieve<KeptOrder>("mi carta.zvo", Directory::draft);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(send_intent::keyOfFile(*file, Directory::draft, "mi carta.zvo", {}), lastKey());
+}
+
+TEST_F(SendTest, AnOutboxFileIsTheOrderThatMayBeAtTheServerAndElseOneOfItsOwn) {
+    completeDraft();
+    open();
+    const auto queue = [&](const char* name, void (BrochureSendViewController::*action)() =
+                                                 &BrochureSendViewController::sendOrderAction) {
+        network.reachable = false;
+        (step.get()->*action)();
+        EXPECT_TRUE(alertComes());
+        press("Aceptar");
+        network.reachable = true;
+        const std::string file = OrderDiskManager::fileName(name);
+        const auto order = orders.retrieve<KeptOrder>(file, Directory::outbox);
+        const auto moment = orders.moment<KeptOrder>(file, Directory::outbox);
+        return order && moment ? send_intent::keyOfFile(*order, Directory::outbox, file, *moment)
+                               : QByteArray();
+    };
+    const QByteArray queued = queue("Sin enviar");
+    EXPECT_NE(queue("Sin enviar(1)"), queued) << "two files, two orders";
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), queued) << "sent from here, it is the order of the file";
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    EXPECT_EQ(queue("Sin enviar(2)"), queued);
+
+    step->sendOrderMyselfAction(); // who prints is not read back from a file
+    const QByteArray myself = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    EXPECT_EQ(queue("Sin enviar(3)", &BrochureSendViewController::sendOrderMyselfAction), myself);
+}
+
+// ---- What was sent
+
+TEST_F(SendTest, SavingAnOrderThatWasSentAsksWhetherItBecomesAnother) {
+    completeDraft();
+    draft().orderIdentifier = 7;
+    open().sendOrderAction();
+    SaveBrochuresOrderResponse answer;
+    answer.urlOrder = Url{"http://server.example/order/1"};
+    network.requests.saveOrder.succeed(answer);
+    press("Aceptar");
+    step->saveOrderAction();
+    EXPECT_EQ(alert(), "Atención | Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?");
+    press("No");
+    EXPECT_FALSE(alerts.isVisible());
+    EXPECT_TRUE(step->isOrderSent());
+    EXPECT_FALSE(temporaryCopy());
+    step->saveOrderAction();
+    press("Sí");
+    EXPECT_FALSE(step->isOrderSent());
+    EXPECT_FALSE(draft().orderIdentifier);
+    EXPECT_TRUE(press("Guardar", "otro"));
+    EXPECT_TRUE(waitFor([&] { return orders.exists<Order>("otro", Directory::draft); }));
 }
 
 TEST_F(SendTest, TheCommentForSupportGoesToTheDraftWhenItsFieldIsLeft) {

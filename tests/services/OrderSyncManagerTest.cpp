@@ -5,6 +5,7 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "device/Clock.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/services/SendIntent.h"
 #include "shell/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/DeviceFakes.h"
@@ -39,6 +40,9 @@ protected:
     }
     std::optional<Int> storedIdentifier(const std::string& name) {
         return orders.retrieve<SaveBrochuresOrder>(name + ".zvo", DirectoryName::draft)->orderIdentifier;
+    }
+    void run() {
+        manager.handleBrochureSync(std::make_shared<BackgroundTask>(QString(), [](bool) {}));
     }
     void saveInFront() {
         const auto calls = services.requests.saveOrder.calls.size();
@@ -160,9 +164,6 @@ TEST_F(OrderSyncManagerTest, AnOrderWhoseNumberTheDiskRefusedIsNotSentAgainUntil
     int refused = 0;
     QObject::connect(&manager, &OrderSyncManager::identifierNotStored, &manager, [&] { ++refused; });
     auto& sent = services.requests.saveOrder.calls;
-    const auto run = [&] {
-        manager.handleBrochureSync(std::make_shared<BackgroundTask>(QString(), [](bool) {}));
-    };
     run();
     ASSERT_EQ(sent.size(), 1U);
     std::filesystem::rename(file, folder.path() / "kept");
@@ -179,6 +180,105 @@ TEST_F(OrderSyncManagerTest, AnOrderWhoseNumberTheDiskRefusedIsNotSentAgainUntil
     draft("Bar Nube");
     run();
     EXPECT_EQ(sent.size(), 2U) << "a new draft of the same name";
+}
+
+TEST_F(OrderSyncManagerTest, OnlyTheSharedDraftThatIsTheOrderTakesItsNumber) {
+    auto& current = *BrochureIntermediateData::temporalBrochure();
+    draft("Bar Nube");
+    run();
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_FALSE(current.orderIdentifier) << "a new menu";
+
+    draft("Bar Olmo");
+    run();
+    current.fileName = "Bar Olmo";
+    services.requests.saveOrder.succeed(stored(78));
+    EXPECT_EQ(current.orderIdentifier, 78);
+
+    current.orderIdentifier.reset();
+    draft("Bar Pino");
+    current.fileName = "Bar Pino";
+    saveInFront();
+    current.fileName = "Otro nombre"; // kept as another order meanwhile
+    services.requests.saveOrder.succeed(stored(79));
+    EXPECT_FALSE(current.orderIdentifier);
+    EXPECT_EQ(storedIdentifier("Bar Pino"), 79);
+}
+
+TEST_F(OrderSyncManagerTest, AnAnswerChangesOnlyTheNumberInTheFileAsItStandsByThen) {
+    draft("Bar Nube");
+    const auto save = [&](const std::string& name, std::optional<Int> identifier) {
+        SaveBrochuresOrder newer;
+        newer.filename = "Bar Nube";
+        newer.menu.customer.name = name;
+        newer.orderIdentifier = identifier;
+        ASSERT_TRUE(orders.update(newer, "Bar Nube.zvo", DirectoryName::draft));
+    };
+    const auto file = [&] {
+        return orders.retrieve<SaveBrochuresOrder>("Bar Nube.zvo", DirectoryName::draft);
+    };
+    run();
+    save("newer", std::nullopt);
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_EQ(file()->menu.customer.name, "newer");
+    EXPECT_EQ(file()->orderIdentifier, 77);
+
+    save("newest", std::nullopt);
+    run();
+    save("newest", 5); // the send step was first
+    services.requests.saveOrder.succeed(stored(78));
+    EXPECT_EQ(file()->orderIdentifier, 5);
+
+    save("gone", std::nullopt);
+    run();
+    ASSERT_TRUE(orders.remove<SaveBrochuresOrder>("Bar Nube.zvo", DirectoryName::draft));
+    services.requests.saveOrder.succeed(stored(79));
+    EXPECT_FALSE(orders.exists<SaveBrochuresOrder>("Bar Nube", DirectoryName::draft));
+}
+
+TEST_F(OrderSyncManagerTest, ARunSendsCloudSavesAndStoresTheNumberUnderTheFileThatItRead) {
+    SaveBrochuresOrder order;
+    order.save = OrderRequestType::sendToPrint; // a copy of an order that was sent
+    order.filename = "otro nombre";
+    ASSERT_TRUE(orders.create(order, DirectoryName::draft, "copia"));
+    run();
+    EXPECT_EQ(std::get<0>(services.requests.saveOrder.calls.at(0)).save, OrderRequestType::saveCloud);
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_EQ(storedIdentifier("copia"), 77);
+    run();
+    EXPECT_EQ(services.requests.saveOrder.calls.size(), 1U);
+}
+
+TEST_F(OrderSyncManagerTest, AFileKeepsItsKeyThroughLostAnswersUntilItIsSavedAnew) {
+    draft("Bar Nube");
+    auto& calls = services.requests.saveOrder.calls;
+    for (int i = 0; i < 2; ++i) {
+        run();
+        services.requests.saveOrder.fail(lostAnswer());
+    }
+    EXPECT_FALSE(std::get<1>(calls[0]).isEmpty());
+    EXPECT_EQ(std::get<1>(calls[1]), std::get<1>(calls[0]));
+    const auto file = folder / "orders/draft_orders/SaveBrochuresOrder/Bar Nube.zvo";
+    std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) + std::chrono::seconds(1));
+    run();
+    EXPECT_NE(std::get<1>(calls[2]), std::get<1>(calls[0]));
+}
+
+TEST_F(OrderSyncManagerTest, TheUploadOfTheCurrentDraftAndARunOverItsFileAreOneIntent) {
+    auto& current = *BrochureIntermediateData::temporalBrochure();
+    current.fileName = "Bar Nube";
+    const auto order = current.makeOrder(OrderRequestType::saveCloud, false);
+    const QByteArray key = send_intent::keyFor(current.unansweredSends, order);
+    ASSERT_TRUE(orders.create(current.keptOrder(OrderRequestType::saveCloud, false), DirectoryName::draft,
+                              "Bar Nube"));
+    saveInFront();
+    services.requests.saveOrder.fail(lostAnswer());
+    run();
+    for (const auto& [sent, sentKey] : services.requests.saveOrder.calls)
+        EXPECT_EQ(sentKey, key);
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_FALSE(
+        orders.retrieve<KeptOrder>("Bar Nube.zvo", DirectoryName::draft)->unansweredSends.has_value());
 }
 
 TEST_F(OrderSyncManagerTest, ARunWithoutDraftsEndsOnlyByExpiryAndABrokenDraftStopsIt) {

@@ -33,6 +33,11 @@ inline RequestFailure failureWith(const QStringList& messages, int status = 400)
             messages};
 }
 
+// No answer came, so that nobody knows what the server did.
+inline RequestFailure lostAnswer(RequestError::Kind kind = RequestError::Kind::Transport) {
+    return {{kind, 0, QStringLiteral("no answer"), std::nullopt}, std::nullopt};
+}
+
 // One operation of the fake server: what it was called with, and its answers.
 //     services.requests.login.calls.at(0)          the arguments, a tuple
 //     services.requests.login.succeed(result)      answers the oldest call that waits, at once
@@ -97,7 +102,7 @@ public:
         FakeOperation<std::vector<Customer>, QString> getCustomerDataFromTevoCode;
         FakeOperation<SearchMapsResponse, QString> searchMaps;
         FakeOperation<PriceRecommendationResponse, Int, QString, QString> priceRecommendation;
-        FakeOperation<SaveBrochuresOrderResponse, SaveBrochuresOrder> saveOrder;
+        FakeOperation<SaveBrochuresOrderResponse, SaveBrochuresOrder, QByteArray> saveOrder; // with its key
         FakeOperation<OrderList, OrderListFilter> retrieveBrochureOrderList;
         FakeOperation<RetrieveBrochureOrderListResponse, Int> retrieveBrochureOrder;
         FakeOperation<SimpleResponse, Int, ApplicationType> deleteOrder;
@@ -152,8 +157,9 @@ public:
                              Completion<PriceRecommendationResponse> done) override {
         requests.priceRecommendation.called(std::move(done), productId, postalCode, locality);
     }
-    void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done) override {
-        requests.saveOrder.called(std::move(done), order);
+    void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
+                   const QByteArray& idempotencyKey = {}) override {
+        requests.saveOrder.called(std::move(done), order, idempotencyKey);
     }
     void retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) override {
         requests.retrieveBrochureOrderList.called(std::move(done), filter);

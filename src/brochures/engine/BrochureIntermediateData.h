@@ -3,6 +3,7 @@
 #include "base/Int.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/engine/SelectHighlightCheckerDelegate.h"
+#include "brochures/engine/SentOrder.h"
 #include "catalogue/Brochures.h"
 
 #include <map>
@@ -173,6 +174,8 @@ public:
     // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order says
     // comes from the section all the same.
     std::optional<BrochureType> openedAs;
+    UnansweredSends unansweredSends;
+    std::optional<SentOrder> sent; // once the server has taken it to print
 
     // ---- References to the catalogue
     // ------------------------------------------------------------------------- Setters answer false, and
@@ -275,6 +278,8 @@ public:
     // process stops outside a brochure section and for a brand or drink that the catalogue no longer
     // explains.
     [[nodiscard]] SaveBrochuresOrder makeOrder(OrderRequestType save, bool validate) const;
+    // The same for a file of the device, with the sends that wait for their answers.
+    [[nodiscard]] KeptOrder keptOrder(OrderRequestType save, bool validate) const;
     // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own that
     // the catalogue lacks, or has under another number, is built again from the document and enters the
     // catalogue. Deletes the temporary copy on disk. The file name is the caller's to set.

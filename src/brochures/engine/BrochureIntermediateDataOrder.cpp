@@ -185,6 +185,13 @@ SaveBrochuresOrder BrochureIntermediateData::makeOrder(OrderRequestType save, bo
     return order;
 }
 
+KeptOrder BrochureIntermediateData::keptOrder(OrderRequestType save, bool validate) const {
+    KeptOrder order{makeOrder(save, validate)};
+    if (!unansweredSends.empty())
+        order.unansweredSends = unansweredSends;
+    return order;
+}
+
 SaveBrochuresOrder::Menu BrochureIntermediateData::menuOf(OrderRequestType save, bool validate) const {
     Menu menu;
     menu.orderType = sectionKind();

@@ -3,6 +3,7 @@
 #include "base/Url.h"
 #include "catalogue/Enumerations.h"
 #include "orders/OrderSyncState.h"
+#include "orders/UnansweredSend.h"
 
 #include <optional>
 #include <string>
@@ -203,6 +204,12 @@ struct SaveBrochuresOrderResponse {
     std::optional<Int> orderId;
     std::optional<Int> customerId;
     std::optional<std::string> message;
+};
+
+// The order as a file keeps it: beside its keys, the sends of it that nobody has answered yet, so that they
+// outlive the process.
+struct KeptOrder : SaveBrochuresOrder {
+    std::optional<UnansweredSends> unansweredSends = std::nullopt; // absent rather than empty
 };
 
 // The body of "sendRawOrder": the order and the name of its file beside its keys.

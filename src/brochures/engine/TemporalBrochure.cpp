@@ -68,7 +68,7 @@ TemporalBrochure& TemporalBrochure::shared() {
 TemporalBrochure::Found TemporalBrochure::look(const std::string& name) {
     if (!exists(name))
         return {};
-    auto order = state_file::read<SaveBrochuresOrder>(folder(), name);
+    auto order = state_file::read<KeptOrder>(folder(), name);
     if (order && !canBeLoaded(*order)) {
         logLine(name + ": a brand or format without its number");
         order.reset();
@@ -83,7 +83,7 @@ bool TemporalBrochure::setAside(const std::string& name, const Found& found) {
 
 // Sets aside what is of another kind or can't be read, and answers the rest: the copy, or the recovery copy
 // when there is none. A recovery copy beside a copy of its kind is an older state of the same draft.
-std::optional<SaveBrochuresOrder> TemporalBrochure::clearPlaces(BrochureType kind) {
+std::optional<KeptOrder> TemporalBrochure::clearPlaces(BrochureType kind) {
     flush();
     Found copy = look(copyName);
     Found recovery = look(recoveryName);
@@ -101,7 +101,7 @@ std::optional<SaveBrochuresOrder> TemporalBrochure::clearPlaces(BrochureType kin
     return std::move(copy.order);
 }
 
-std::optional<SaveBrochuresOrder> TemporalBrochure::takeSetAside(BrochureType kind) {
+std::optional<KeptOrder> TemporalBrochure::takeSetAside(BrochureType kind) {
     const std::string name = setAsideName(kind);
     for (int last = countOf(name); last > 0; --last) {
         const std::string file = numbered(name, last);
@@ -117,7 +117,7 @@ std::optional<SaveBrochuresOrder> TemporalBrochure::takeSetAside(BrochureType ki
     return std::nullopt;
 }
 
-std::optional<SaveBrochuresOrder> TemporalBrochure::takeForOpening(BrochureType kind, bool fromAside) {
+std::optional<KeptOrder> TemporalBrochure::takeForOpening(BrochureType kind, bool fromAside) {
     if (folder().empty())
         return std::nullopt;
     auto order = clearPlaces(kind);
@@ -140,15 +140,16 @@ bool TemporalBrochure::restoreDraft() {
     if (order) {
         draft->loadOrder(*order);
         draft->fileName = order->filename; // the copy has no file of its own to be named after
+        draft->unansweredSends = order->unansweredSends.value_or(UnansweredSends());
     }
     draft->openedAs = kind;
     return order.has_value();
 }
 
 void TemporalBrochure::write(const BrochureIntermediateData& draft) {
-    if (folder().empty())
+    if (folder().empty() || draft.sent)
         return;
-    const auto order = draft.makeOrder(OrderRequestType::saveCloud, false);
+    const auto order = draft.keptOrder(OrderRequestType::saveCloud, false);
     const auto text = json::encode(order);
     if (!text) {
         logLine(copyName + ": " + text.error().text());

@@ -26,14 +26,14 @@ public:
 
     // The unfinished menu of this kind: the copy, or the recovery copy when there is none, or what was set
     // aside last (where that is wanted). Afterwards there is no copy.
-    std::optional<SaveBrochuresOrder> takeForOpening(BrochureType kind, bool fromAside = true);
+    std::optional<KeptOrder> takeForOpening(BrochureType kind, bool fromAside = true);
     // For a wizard that opens in the section of the session: takes the unfinished menu of its kind and, when
-    // there is one, replaces the shared draft by a new one filled from it, its file name included. A shared
-    // draft of another kind gives way to a new one. Answers whether there was a menu to restore. Outside a
+    // there is one, replaces the shared draft by a new one filled from it, its file name and the sends without
+    // an answer included. A shared draft of another kind gives way to a new one. Answers whether there was a menu to restore. Outside a
     // brochure section nothing happens.
     bool restoreDraft();
-    // Writes the copy of the draft (as makeOrder gives it for the cloud, without validation). Returns at
-    // once.
+    // Writes the copy of the draft (as keptOrder gives it for the cloud, without validation). Returns at
+    // once. A draft that was sent has no copy.
     void write(const BrochureIntermediateData& draft);
     // Removes the copy and the recovery copy: the draft was reset or sent. What was set aside stays.
     void removeAll();
@@ -46,7 +46,7 @@ public:
 private:
     // What a place holds.
     struct Found {
-        std::optional<SaveBrochuresOrder> order;
+        std::optional<KeptOrder> order;
         bool unreadable = false;
         [[nodiscard]] bool isOf(BrochureType kind) const { return order && order->menu.orderType == kind; }
         [[nodiscard]] bool isForeignTo(BrochureType kind) const {
@@ -56,9 +56,9 @@ private:
 
     TemporalBrochure() = default;
     [[nodiscard]] static Found look(const std::string& name);
-    std::optional<SaveBrochuresOrder> clearPlaces(BrochureType kind);
+    std::optional<KeptOrder> clearPlaces(BrochureType kind);
     static bool setAside(const std::string& name, const Found& found);
-    std::optional<SaveBrochuresOrder> takeSetAside(BrochureType kind);
+    std::optional<KeptOrder> takeSetAside(BrochureType kind);
 
     bool taken_ = false;    // the recovery copy is the one that was opened
     bool occupied_ = false; // a copy that could not be set aside stands in the way

@@ -187,7 +187,7 @@ void BrochureConfigurationViewController::commit() {
 
 void BrochureConfigurationViewController::editText(const QString& field, const QString& value) {
     const std::string name = field.toStdString();
-    if (!form_.setText(name, value))
+    if (!form_.editText(name, value))
         return;
     for (auto* model : {contactFields_, placeFields_, onlineFields_, freeTextFields_})
         model->textChanged(name);
@@ -228,6 +228,8 @@ void BrochureConfigurationViewController::searchTEVOCodeAction() {
 
 void BrochureConfigurationViewController::fillFrom(const std::vector<Customer>& customers) {
     if (customers.empty()) {
+        form_.forgetLookup();
+        commit();
         services_.alerts.present(dialogue(
             QStringLiteral("Información"),
             QStringLiteral("No se ha encontrado ningún cliente asociado al código TEVO introducido.\n"

@@ -96,6 +96,8 @@ BrochureMenuViewController::~BrochureMenuViewController() {
 }
 
 void BrochureMenuViewController::viewDidLoad() {
+    if (BrochureIntermediateData::temporalBrochure()->sent) // what was sent isn't resumed
+        BrochureIntermediateData::replaceTemporalBrochure();
     if (TemporalBrochure::shared().restoreDraft() && holdsWork(*BrochureIntermediateData::temporalBrochure()))
         recoveredMessage_ = QStringLiteral("Se ha recuperado la carta en curso");
     applyParameters();
@@ -119,6 +121,8 @@ void BrochureMenuViewController::viewDidAppear() {
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
                        [this](const NotificationInfo&) { alreadyDismissedPreferredBrandsBanner_ = true; }));
+    observers_.push_back(
+        center.observe(sentDraftSaved, [this](const NotificationInfo&) { askAboutSentOrder(); }));
     actualOrder_ = BrochureIntermediateData::temporalBrochure();
 }
 
@@ -143,8 +147,12 @@ void BrochureMenuViewController::showStep(int wizardStep) {
     WizardStepViewController* former = activeViewController_;
     activeViewController_ = step;
     connectStep(step);
+    loadingStep_ = true;
     step->viewDidLoad();
     step->viewWillAppear();
+    loadingStep_ = false;
+    if (!askingAboutSentOrder_) // a step may complete the draft by itself; the user has changed nothing
+        takeAsSent(*BrochureIntermediateData::temporalBrochure());
     emit activeStepChanged();
     emit subtitleChanged();
     if (former) {
@@ -196,7 +204,30 @@ void BrochureMenuViewController::saveActiveStep() {
     if (!autoSave)
         return;
     autoSave->serializeAutoSave();
+    askAboutSentOrder();
     TemporalBrochure::shared().write(*BrochureIntermediateData::temporalBrochure());
+}
+
+// The first change by the user to an order that was sent makes another order of the draft, or is taken back.
+void BrochureMenuViewController::askAboutSentOrder() {
+    if (!appeared_ || loadingStep_ || askingAboutSentOrder_ ||
+        !isChangedSinceSent(*BrochureIntermediateData::temporalBrochure()))
+        return;
+    askingAboutSentOrder_ = true;
+    askForAnotherOrder(services_.alerts, this, [this](bool another) { sentOrderAnswered(another); });
+}
+
+void BrochureMenuViewController::sentOrderAnswered(bool another) {
+    askingAboutSentOrder_ = false;
+    if (!another) {
+        actualOrder_ = restoreSentOrder();
+        AppSingleton::shared().resettingBrochure = true; // the step on show is not saved into it
+        return showStep(entryOf(selected_)->step);
+    }
+    beginAnotherOrder(*actualOrder_);
+    autosave(actualOrder_);
+    if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
+        send->viewWillAppear();
 }
 
 void BrochureMenuViewController::viewWillDisappear() {
@@ -205,10 +236,6 @@ void BrochureMenuViewController::viewWillDisappear() {
     appeared_ = false;
     observers_.clear();
     saveActiveStep(); // also while a reset is under way
-    // What was sent isn't resumed: the next opening starts anew.
-    const auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_);
-    if (send && send->isOrderSent())
-        BrochureIntermediateData::replaceTemporalBrochure();
 }
 
 void BrochureMenuViewController::buttonPushedAction(int index) {

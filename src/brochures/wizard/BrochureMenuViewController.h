@@ -102,6 +102,8 @@ private:
     void showStep(int wizardStep);
     void leaveActiveStep();
     void saveActiveStep();
+    void askAboutSentOrder();
+    void sentOrderAnswered(bool another);
     void enterButton(int index);
     void select(int index);
     void askForReset();
@@ -127,6 +129,8 @@ private:
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool veilVisible_ = false;
     bool appeared_ = false;
+    bool loadingStep_ = false;
+    bool askingAboutSentOrder_ = false;
 };
 
 } // namespace kavor

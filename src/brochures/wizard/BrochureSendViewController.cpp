@@ -11,6 +11,7 @@
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/services/SendIntent.h"
 #include "shell/AppSingleton.h"
 #include "shell/screens/ResourceImages.h"
 
@@ -114,8 +115,8 @@ void BrochureSendViewController::sendOrderMyselfAction() {
 void BrochureSendViewController::sendOrder(bool printedMyself) {
     draft_->printedMyself = printedMyself;
     emit editingShouldEnd();
-    if (orderURL_) {
-        services_.urls.openExternally(orderURL_->toString(QUrl::FullyEncoded));
+    if (draft_->sent) {
+        services_.urls.openExternally(orderURL().toString(QUrl::FullyEncoded));
         return;
     }
     checkAndSend(OrderRequestType::sendToPrint);
@@ -158,10 +159,20 @@ void BrochureSendViewController::send(OrderRequestType type) {
     if (!services_.network.isReachable())
         return sendOffline(type);
     showVeil(true, veilText(type));
+    const Order order = draft_->makeOrder(type, type != OrderRequestType::saveCloud);
+    const QByteArray key = send_intent::keyFor(draft_->unansweredSends, order);
+    autosave(draft_); // the key outlives the process
     services_.network.saveOrder(
-        draft_->makeOrder(type, type != OrderRequestType::saveCloud),
-        {this, [this, type](const SaveBrochuresOrderResponse& answer) { sent(type, answer); },
-         [this, type](const RequestFailure& failure) { failed(type, failure); }});
+        order,
+        {this, [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
+         [this, order](const RequestFailure& failure) { failed(order, failure); }},
+        key);
+}
+
+// An answer ends the intent, a lost one keeps its key for the next tap.
+void BrochureSendViewController::endIntent(const SaveBrochuresOrder& order) {
+    send_intent::answered(draft_->unansweredSends, order);
+    autosave(draft_);
 }
 
 void BrochureSendViewController::sendOffline(OrderRequestType type) {
@@ -180,8 +191,11 @@ void BrochureSendViewController::sendOffline(OrderRequestType type) {
     }
 }
 
-void BrochureSendViewController::failed(OrderRequestType type, const RequestFailure& failure) {
+void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const RequestFailure& failure) {
+    const OrderRequestType type = order.save;
     showVeil(false);
+    if (!send_intent::isAnswerLost(failure))
+        endIntent(order);
     showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
     if (type == OrderRequestType::saveCloud)
         services_.sync.startOrderSync();
@@ -190,9 +204,13 @@ void BrochureSendViewController::failed(OrderRequestType type, const RequestFail
 // ---- Answers
 // ---------------------------------------------------------------------------------------------------
 
-void BrochureSendViewController::sent(OrderRequestType type, const SaveBrochuresOrderResponse& response) {
+void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
+                                      const SaveBrochuresOrderResponse& response) {
     showVeil(false);
-    switch (type) {
+    // An order that was taken without saying where it is may be sent again, and is still the same one.
+    if (order.save != OrderRequestType::sendToPrint || response.urlOrder)
+        endIntent(order);
+    switch (order.save) {
     case OrderRequestType::sendToPrint:
         return printed(response);
     case OrderRequestType::sendPreview:
@@ -217,7 +235,7 @@ void BrochureSendViewController::printed(const SaveBrochuresOrderResponse& respo
         return;
     }
     TemporalBrochure::shared().removeAll();
-    orderURL_ = qurl(*response.urlOrder);
+    markSent(*draft_, response.urlOrder->text);
     emit buttonsChanged();
     services_.alerts.inform(QStringLiteral("Éxito"), fromUtf8(response.message.value_or("")));
 }
@@ -238,7 +256,7 @@ void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& 
     // The identifiers stand on disk too, so that the order is not kept twice in the cloud.
     runInBackground(
         this,
-        [&orders = services_.orders, order = draft_->makeOrder(OrderRequestType::saveCloud, false),
+        [&orders = services_.orders, order = draft_->keptOrder(OrderRequestType::saveCloud, false),
          file = OrderDiskManager::fileName(*draft_->fileName)] {
             return orders.update(order, file, Directory::draft);
         },
@@ -253,13 +271,17 @@ void BrochureSendViewController::queueOffline() {
     std::string name = "Sin enviar";
     for (int number = 1; services_.orders.exists<Order>(name, Directory::outbox); ++number)
         name = "Sin enviar(" + std::to_string(number) + ")";
+    KeptOrder order{draft_->makeOrder(OrderRequestType::sendToPrint, true)};
+    // What may be at the server already goes by the key under which it was sent.
+    if (auto known = send_intent::sentWithoutAnswer(draft_->unansweredSends, order); !known.empty())
+        order.unansweredSends = std::move(known);
     runInBackground(
         this,
-        [&orders = services_.orders, name, order = draft_->makeOrder(OrderRequestType::sendToPrint, true)] {
-            return orders.create(order, Directory::outbox, name);
-        },
-        [this, name](bool written) {
+        [&orders = services_.orders, name, order] { return orders.create(order, Directory::outbox, name); },
+        [this, name, order](bool written) {
             showVeil(false);
+            if (written)
+                noteQueued(order, OrderDiskManager::fileName(name));
             services_.alerts.inform(
                 QStringLiteral("Sin conexión a internet."),
                 written ? QStringLiteral("Su pedido ha sido guardado en borradores con el nombre "
@@ -269,9 +291,28 @@ void BrochureSendViewController::queueOffline() {
         });
 }
 
+// The order may still be sent from here once the network is back: then it is the one of the file.
+void BrochureSendViewController::noteQueued(const KeptOrder& order, const std::string& fileName) {
+    const auto moment = services_.orders.moment<KeptOrder>(fileName, Directory::outbox);
+    if (!moment)
+        return;
+    send_intent::noteQueued(draft_->unansweredSends, order,
+                            send_intent::keyOfFile(order, Directory::outbox, fileName, *moment));
+    autosave(draft_);
+}
+
 void BrochureSendViewController::saveOrderAction() {
     emit editingShouldEnd();
-    askForName(fromUtf8(draft_->fileName.value_or("")));
+    const auto ask = [this] { askForName(fromUtf8(draft_->fileName.value_or(""))); };
+    if (!draft_->sent)
+        return ask();
+    askForAnotherOrder(services_.alerts, this, [this, ask](bool another) {
+        if (!another)
+            return;
+        beginAnotherOrder(*draft_);
+        viewWillAppear();
+        ask();
+    });
 }
 
 void BrochureSendViewController::askForName(const QString& proposal) {
@@ -306,10 +347,12 @@ void BrochureSendViewController::saveUnderName(const QString& name) {
 void BrochureSendViewController::writeDraftFile(const std::string& name) {
     showVeil(true, savingText);
     const auto former = std::exchange(draft_->fileName, name);
+    // Whoever sends the file afterwards does so under the key under which this step sends it.
+    send_intent::keyFor(draft_->unansweredSends, draft_->makeOrder(OrderRequestType::saveCloud, false));
     autosave(draft_);
     runInBackground(
         this,
-        [&orders = services_.orders, name, order = draft_->makeOrder(OrderRequestType::saveCloud, false)] {
+        [&orders = services_.orders, name, order = draft_->keptOrder(OrderRequestType::saveCloud, false)] {
             return orders.exists<Order>(name, Directory::draft)
                        ? orders.update(order, OrderDiskManager::fileName(name), Directory::draft)
                        : orders.create(order, Directory::draft, name);
@@ -445,7 +488,7 @@ QString BrochureSendViewController::freeTextForSupport() const {
 }
 
 QString BrochureSendViewController::makeOrderButtonTitle() const {
-    if (orderURL_)
+    if (draft_->sent)
         return QStringLiteral("Ver pedido");
     if (type_ == BrochureType::video)
         return QStringLiteral("Realizar pedido");
@@ -453,12 +496,20 @@ QString BrochureSendViewController::makeOrderButtonTitle() const {
                                           : QStringLiteral("Realizar pedido con impresión");
 }
 
+bool BrochureSendViewController::isOrderSent() const {
+    return draft_->sent.has_value();
+}
+
+QUrl BrochureSendViewController::orderURL() const {
+    return draft_->sent ? qurl(Url{draft_->sent->url}) : QUrl();
+}
+
 bool BrochureSendViewController::isPrintedKavorButtonVisible() const {
-    return !orderURL_ && type_ != BrochureType::video;
+    return !draft_->sent && type_ != BrochureType::video;
 }
 
 bool BrochureSendViewController::isPrintedMyselfVisible() const {
-    return !orderURL_ && brochureTypeParameters_.withPrinter &&
+    return !draft_->sent && brochureTypeParameters_.withPrinter &&
            catalogue_->information().validations.withPrintedMyself;
 }
 

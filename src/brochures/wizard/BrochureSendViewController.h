@@ -104,7 +104,9 @@ public:
     [[nodiscard]] bool isPrintedKavorButtonVisible() const;
     [[nodiscard]] bool isPrintedMyselfVisible() const;
     // Whether the server has taken the order to print.
-    [[nodiscard]] bool isOrderSent() const { return orderURL_.has_value(); }
+    [[nodiscard]] bool isOrderSent() const;
+    // Where the order sent can be seen; it stays with the draft. Empty while nothing was sent.
+    [[nodiscard]] QUrl orderURL() const;
 
 signals:
     void summaryChanged();
@@ -121,11 +123,13 @@ private:
     void askAboutPrices(OrderRequestType type, const QString& warnings);
     void send(OrderRequestType type);
     void sendOffline(OrderRequestType type);
-    void sent(OrderRequestType type, const SaveBrochuresOrderResponse& response);
+    void endIntent(const SaveBrochuresOrder& order);
+    void sent(const SaveBrochuresOrder& order, const SaveBrochuresOrderResponse& response);
     void printed(const SaveBrochuresOrderResponse& response);
     void savedInCloud(const SaveBrochuresOrderResponse& response);
-    void failed(OrderRequestType type, const RequestFailure& failure);
+    void failed(const SaveBrochuresOrder& order, const RequestFailure& failure);
     void queueOffline();
+    void noteQueued(const KeptOrder& order, const std::string& fileName);
     void askForName(const QString& proposal);
     void saveUnderName(const QString& name);
     void writeDraftFile(const std::string& name);
@@ -141,7 +145,6 @@ private:
     std::vector<const Brochures::Logo*> styleLogosInfo_; // of the style, in its order
     QStringList missing_;
     std::optional<QUrl> previewURL_;
-    std::optional<QUrl> orderURL_;
     bool panelInfoOrderVisible_ = false;
 };
 

@@ -113,6 +113,14 @@ bool CustomerForm::setText(std::string_view name, const QString& text) {
     return true;
 }
 
+bool CustomerForm::editText(std::string_view name, const QString& text) {
+    if (!setText(name, text))
+        return false;
+    if (name == "tevoTextField" || name == "establishmentNameTextField")
+        forgetLookup();
+    return true;
+}
+
 std::string CustomerForm::dataText(const QByteArray& png) {
     return png.isEmpty() ? std::string() : std::string(pngPrefix) + png.toBase64().toStdString();
 }

@@ -48,6 +48,10 @@ public:
     [[nodiscard]] QString text(std::string_view name) const;
     // Answers whether the text changed. The process stops for a name that is no field.
     bool setText(std::string_view name, const QString& text);
+    // The same by the user's hand: with another code or name it is another point of sale.
+    bool editText(std::string_view name, const QString& text);
+    // What a lookup brought along besides the fields goes: the numbers of the point of sale and its brands.
+    void forgetLookup() { found_ = Found{}; }
 
     // The logo as "data:image/png;base64,...", empty for none.
     [[nodiscard]] const std::string& imageLogo() const { return imageLogo_; }

@@ -1,5 +1,6 @@
 #include "brochures/wizard/StepSupport.h"
 
+#include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
@@ -34,7 +35,11 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 }
 
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
-    if (draft == BrochureIntermediateData::temporalBrochure() && AppSingleton::shared().brochureType())
+    if (draft != BrochureIntermediateData::temporalBrochure() || !AppSingleton::shared().brochureType())
+        return;
+    if (draft->sent)
+        NotificationCenter::shared().post(sentDraftSaved);
+    else
         TemporalBrochure::shared().write(*draft);
 }
 

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // What the steps that choose style, brands and prices share.
@@ -24,8 +25,11 @@ const Brochures::Type* sectionBrochureType(const Catalogue& catalogue);
 const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue);
 
 // Writes the temporary copy of a draft, without waiting for the disk. Does nothing for a draft that is no
-// longer the shared one, and outside a brochure section.
+// longer the shared one, and outside a brochure section. A draft that was sent has no copy: whoever frames
+// the steps is told instead, by sentDraftSaved.
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
+
+inline constexpr std::string_view sentDraftSaved = "SentDraftSaved";
 
 // Says that a quantity of the draft is none of those that its picker offers, which are not empty.
 QString notOffered(Int quantity, const std::vector<Int>& offered);

@@ -10,6 +10,8 @@
 #include "device/LocalNotifications.h"
 #include "network/ServiceOperations.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/services/SendIntent.h"
+#include "shell/AppSingleton.h"
 
 #include <QTimer>
 
@@ -61,32 +63,42 @@ void OrderSyncManager::startOrderSync() {
 
 void OrderSyncManager::queueCurrentDraft() {
     services_.useBackgroundSession();
-    const SaveBrochuresOrder order =
-        BrochureIntermediateData::temporalBrochure()->makeOrder(OrderRequestType::saveCloud, false);
+    const Draft draft = BrochureIntermediateData::temporalBrochure();
+    const SaveBrochuresOrder order = draft->makeOrder(OrderRequestType::saveCloud, false);
     sendLocalNotification(
         QStringLiteral("Borrador Encolado"),
         QStringLiteral("Su pedido ") + nameOf(order) +
             QStringLiteral(" se sincronizará con la nube cuando tenga conexión a internet."),
         {}, {});
-    uploadCurrentDraft(order);
+    uploadCurrentDraft(draft, order);
 }
 
-void OrderSyncManager::uploadCurrentDraft(const SaveBrochuresOrder& order) {
+void OrderSyncManager::uploadCurrentDraft(const Draft& draft, const SaveBrochuresOrder& order) {
     beginExtension();
-    const auto succeeded = [this, order](const SaveBrochuresOrderResponse& answer) {
+    const auto succeeded = [this, draft, order](const SaveBrochuresOrderResponse& answer) {
+        send_intent::answered(draft->unansweredSends, order);
         // Without an id nothing happens: the extension ends by its expiry.
         if (answer.orderId)
-            finishForegroundUpload(order, *answer.orderId);
+            finishForegroundUpload(draft, order, *answer.orderId);
     };
-    const auto failed = [this](const RequestFailure&) {
+    const auto failed = [this, draft, order](const RequestFailure& failure) {
+        if (!send_intent::isAnswerLost(failure))
+            send_intent::answered(draft->unansweredSends, order);
         endExtension();
         services_.useDefaultSession();
     };
-    services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed));
+    services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),
+                                send_intent::keyFor(draft->unansweredSends, order));
 }
 
-void OrderSyncManager::finishForegroundUpload(SaveBrochuresOrder order, Int orderId) {
-    storeIdentifier(order, orderId);
+void OrderSyncManager::finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId) {
+    if (!order.filename)
+        stopProcess("file name of the synchronised order");
+    // The user may have kept the draft under another name meanwhile, which is another order.
+    if (draft->fileName == order.filename && !draft->sent)
+        draft->orderIdentifier = orderId;
+    storeIdentifier({OrderDiskManager::fileName(*order.filename), bytesAsRead(order), order, {}}, orderId);
+    order.orderIdentifier = orderId;
     services_.notifications.registerCategory(QLatin1String(notificationCategory),
                                              {{QLatin1String(showAction), QStringLiteral("Ver pedido")}});
     notifySynchronised(order, QLatin1String(notificationCategory));
@@ -94,32 +106,51 @@ void OrderSyncManager::finishForegroundUpload(SaveBrochuresOrder order, Int orde
     services_.useDefaultSession();
 }
 
-// The identifier also goes to the shared draft, whichever order that holds by now: the system has it so.
-// False when the file could not take it.
-bool OrderSyncManager::storeIdentifier(SaveBrochuresOrder& order, Int orderId) {
-    const std::string sent = bytesAsRead(order);
-    order.orderIdentifier = orderId;
-    BrochureIntermediateData::temporalBrochure()->orderIdentifier = orderId;
-    if (!order.filename)
-        stopProcess("file name of the synchronised order");
-    const bool stored =
-        services_.orders.update(order, OrderDiskManager::fileName(*order.filename), DirectoryName::draft);
+// The shared draft takes the number only while it is the order of the file, not another one.
+void OrderSyncManager::numberSharedDraft(const Upload& upload, Int orderId) {
+    const auto kind = AppSingleton::shared().brochureType();
+    const Draft& draft = BrochureIntermediateData::temporalBrochure();
+    const bool isThatOrder = draft->fileName == OrderDiskManager::plainName(upload.fileName) &&
+                             (!kind || kind == upload.order.menu.orderType);
+    if (isThatOrder && !draft->sent && !draft->orderIdentifier)
+        draft->orderIdentifier = orderId;
+}
+
+// False when the file could not take the number of its order.
+bool OrderSyncManager::storeIdentifier(const Upload& upload, Int orderId) {
+    const bool stored = writeIdentifier(upload.fileName, upload.order, orderId);
     if (stored)
-        unstored_.erase(*order.filename);
+        unstored_.erase(upload.fileName);
     else
-        unstored_[*order.filename] = {sent, orderId};
+        unstored_[upload.fileName] = {upload.bytes, orderId};
     return stored;
+}
+
+// The file may have been saved anew meanwhile, or be gone: only the number changes, and one that it has by
+// now stays.
+bool OrderSyncManager::writeIdentifier(const std::string& fileName, const SaveBrochuresOrder& sent,
+                                       Int orderId) {
+    auto order = services_.orders.retrieve<KeptOrder>(fileName, DirectoryName::draft);
+    if (!order)
+        return !services_.orders.moment<KeptOrder>(fileName, DirectoryName::draft);
+    if (order->orderIdentifier)
+        return true;
+    order->orderIdentifier = orderId;
+    if (order->unansweredSends) {
+        send_intent::answered(*order->unansweredSends, sent);
+        if (order->unansweredSends->empty())
+            order->unansweredSends.reset();
+    }
+    return services_.orders.update(*order, fileName, DirectoryName::draft);
 }
 
 // Whether the server has the order, which a full disk could not take down. The file gets its number now, if
 // it can; it is not sent a second time.
-bool OrderSyncManager::catchUp(const SaveBrochuresOrder& order) {
-    const auto found = unstored_.find(order.filename.value_or(""));
+bool OrderSyncManager::catchUp(const std::string& fileName, const SaveBrochuresOrder& order) {
+    const auto found = unstored_.find(fileName);
     if (found == unstored_.end() || found->second.bytes != bytesAsRead(order))
         return false;
-    SaveBrochuresOrder known = order;
-    known.orderIdentifier = found->second.orderId;
-    if (services_.orders.update(known, OrderDiskManager::fileName(*order.filename), DirectoryName::draft))
+    if (writeIdentifier(fileName, order, found->second.orderId))
         unstored_.erase(found);
     return true;
 }
@@ -137,37 +168,55 @@ void OrderSyncManager::handleBrochureSync(const std::shared_ptr<BackgroundTask>&
         if (const auto expired = weak.lock())
             expired->complete(false);
     });
-    std::vector<SaveBrochuresOrder> taken;
+    std::vector<Upload> taken;
     for (const auto& file : services_.orders.list<SaveBrochuresOrder>(DirectoryName::draft)) {
-        auto order = services_.orders.retrieve<SaveBrochuresOrder>(file.fileName, DirectoryName::draft);
-        if (!order)
-            stopProcess("draft " + file.fileName + " that can be read");
-        if (!order->orderIdentifier && taken.size() < ordersPerRun && !catchUp(*order))
-            taken.push_back(std::move(*order));
+        auto upload = uploadOf(file.fileName);
+        if (upload && taken.size() < ordersPerRun)
+            taken.push_back(std::move(*upload));
     }
-    const auto run = std::make_shared<Run>(Run{task, taken.empty() ? std::string() : bytesOf(taken.back())});
+    const auto run =
+        std::make_shared<Run>(Run{task, taken.empty() ? std::string() : bytesOf(taken.back().order)});
     answersAwaited_ += static_cast<int>(taken.size());
-    for (const SaveBrochuresOrder& order : taken)
-        uploadOfRun(order, run);
+    for (const Upload& upload : taken)
+        uploadOfRun(upload, run);
     if (taken.empty())
         QTimer::singleShot(0, this, &OrderSyncManager::runAnswered);
 }
 
-void OrderSyncManager::uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run) {
-    const auto succeeded = [this, order, run](const SaveBrochuresOrderResponse& answer) {
-        SaveBrochuresOrder sent = order;
+// What a run has to send of a draft file: nothing when the server has it, or when the file vanished since it
+// was listed. The process stops for a file that stands there and cannot be read.
+std::optional<OrderSyncManager::Upload> OrderSyncManager::uploadOf(const std::string& fileName) {
+    // The moment first: with one that is too old the order has a key of its own, never another's.
+    const auto moment = services_.orders.moment<KeptOrder>(fileName, DirectoryName::draft);
+    const auto order = services_.orders.retrieve<KeptOrder>(fileName, DirectoryName::draft);
+    if (!order && services_.orders.moment<KeptOrder>(fileName, DirectoryName::draft))
+        stopProcess("draft " + fileName + " that can be read");
+    if (!order || !moment || order->orderIdentifier || catchUp(fileName, *order))
+        return std::nullopt;
+    KeptOrder sent = *order;
+    sent.save = OrderRequestType::saveCloud; // a run prints nothing, whatever the file says
+    return Upload{fileName, bytesAsRead(*order), sent,
+                  send_intent::keyOfFile(sent, DirectoryName::draft, fileName, *moment)};
+}
+
+void OrderSyncManager::uploadOfRun(const Upload& upload, const std::shared_ptr<Run>& run) {
+    const auto succeeded = [this, upload, run](const SaveBrochuresOrderResponse& answer) {
+        SaveBrochuresOrder sent = upload.order;
         if (answer.orderId) {
-            if (!storeIdentifier(sent, *answer.orderId))
+            sent.orderIdentifier = answer.orderId;
+            numberSharedDraft(upload, *answer.orderId);
+            if (!storeIdentifier(upload, *answer.orderId))
                 emit identifierNotStored(nameOf(sent));
             notifySynchronised(sent, {});
         }
         answeredOfRun(sent, run);
     };
-    const auto failed = [this, order, run](const RequestFailure& failure) {
-        emit uploadFailed(nameOf(order), failure);
-        answeredOfRun(order, run);
+    const auto failed = [this, upload, run](const RequestFailure& failure) {
+        emit uploadFailed(nameOf(upload.order), failure);
+        answeredOfRun(upload.order, run);
     };
-    services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed));
+    services_.network.saveOrder(upload.order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),
+                                upload.key);
 }
 
 // An order that has its identifier by now differs from what the run began with, so a run whose last order

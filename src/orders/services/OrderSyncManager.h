@@ -4,6 +4,7 @@
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "orders/services/OrderSync.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
@@ -12,11 +13,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace kavor {
 
 class BackgroundTasks;
+class BrochureIntermediateData;
 class Clock;
 class LocalNotifications;
 class OrderDiskManager;
@@ -67,14 +70,26 @@ signals:
 
 private:
     struct Run;
+    using Draft = std::shared_ptr<BrochureIntermediateData>;
+
+    // A draft file on its way to the cloud.
+    struct Upload {
+        std::string fileName; // with the extension
+        std::string bytes;    // of the order as its file gave it
+        SaveBrochuresOrder order;
+        QByteArray key;
+    };
 
     void queueCurrentDraft();
-    void uploadCurrentDraft(const SaveBrochuresOrder& order);
-    void finishForegroundUpload(SaveBrochuresOrder order, Int orderId);
-    void uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
+    void uploadCurrentDraft(const Draft& draft, const SaveBrochuresOrder& order);
+    void finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId);
+    [[nodiscard]] std::optional<Upload> uploadOf(const std::string& fileName);
+    void uploadOfRun(const Upload& upload, const std::shared_ptr<Run>& run);
     void answeredOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
-    bool storeIdentifier(SaveBrochuresOrder& order, Int orderId);
-    bool catchUp(const SaveBrochuresOrder& order);
+    static void numberSharedDraft(const Upload& upload, Int orderId);
+    bool storeIdentifier(const Upload& upload, Int orderId);
+    bool writeIdentifier(const std::string& fileName, const SaveBrochuresOrder& sent, Int orderId);
+    bool catchUp(const std::string& fileName, const SaveBrochuresOrder& order);
     void notifySynchronised(const SaveBrochuresOrder& order, const QString& category);
     void sendLocalNotification(const QString& title, const QString& body, const QVariantMap& userInfo,
                                const QString& category);
