@@ -60,7 +60,6 @@ void OrderSyncManager::startOrderSync() {
 }
 
 void OrderSyncManager::queueCurrentDraft() {
-    services_.useBackgroundSession();
     const SaveBrochuresOrder order =
         BrochureIntermediateData::temporalBrochure()->makeOrder(OrderRequestType::saveCloud, false);
     sendLocalNotification(
@@ -68,19 +67,46 @@ void OrderSyncManager::queueCurrentDraft() {
         QStringLiteral("Su pedido ") + nameOf(order) +
             QStringLiteral(" se sincronizará con la nube cuando tenga conexión a internet."),
         {}, {});
-    uploadCurrentDraft(order);
+    if (isUnderWay(order))
+        underWay_[*order.filename] = order;
+    else
+        uploadCurrentDraft(order);
+}
+
+bool OrderSyncManager::isUnderWay(const SaveBrochuresOrder& order) const {
+    return order.filename && underWay_.contains(*order.filename);
+}
+
+void OrderSyncManager::beginUpload(const SaveBrochuresOrder& order) {
+    if (order.filename)
+        underWay_[*order.filename] = std::nullopt;
+}
+
+// A save that came while its draft was on its way goes up now, as the order that the server has by then.
+void OrderSyncManager::endUpload(const SaveBrochuresOrder& order, std::optional<Int> orderId) {
+    const auto ended = underWay_.extract(order.filename.value_or(""));
+    if (!ended || !ended.mapped())
+        return;
+    SaveBrochuresOrder newer = std::move(*ended.mapped());
+    if (!newer.orderIdentifier)
+        newer.orderIdentifier = orderId;
+    uploadCurrentDraft(newer);
 }
 
 void OrderSyncManager::uploadCurrentDraft(const SaveBrochuresOrder& order) {
+    services_.useBackgroundSession();
     beginExtension();
+    beginUpload(order);
     const auto succeeded = [this, order](const SaveBrochuresOrderResponse& answer) {
         // Without an id nothing happens: the extension ends by its expiry.
         if (answer.orderId)
             finishForegroundUpload(order, *answer.orderId);
+        endUpload(order, answer.orderId);
     };
-    const auto failed = [this](const RequestFailure&) {
+    const auto failed = [this, order](const RequestFailure&) {
         endExtension();
         services_.useDefaultSession();
+        endUpload(order, std::nullopt);
     };
     services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed));
 }
@@ -142,7 +168,8 @@ void OrderSyncManager::handleBrochureSync(const std::shared_ptr<BackgroundTask>&
         auto order = services_.orders.retrieve<SaveBrochuresOrder>(file.fileName, DirectoryName::draft);
         if (!order)
             stopProcess("draft " + file.fileName + " that can be read");
-        if (!order->orderIdentifier && taken.size() < ordersPerRun && !catchUp(*order))
+        const bool isNew = !order->orderIdentifier && !isUnderWay(*order);
+        if (isNew && taken.size() < ordersPerRun && !catchUp(*order))
             taken.push_back(std::move(*order));
     }
     const auto run = std::make_shared<Run>(Run{task, taken.empty() ? std::string() : bytesOf(taken.back())});
@@ -154,6 +181,7 @@ void OrderSyncManager::handleBrochureSync(const std::shared_ptr<BackgroundTask>&
 }
 
 void OrderSyncManager::uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run) {
+    beginUpload(order);
     const auto succeeded = [this, order, run](const SaveBrochuresOrderResponse& answer) {
         SaveBrochuresOrder sent = order;
         if (answer.orderId) {
@@ -161,10 +189,12 @@ void OrderSyncManager::uploadOfRun(const SaveBrochuresOrder& order, const std::s
                 emit identifierNotStored(nameOf(sent));
             notifySynchronised(sent, {});
         }
+        endUpload(order, answer.orderId);
         answeredOfRun(sent, run);
     };
     const auto failed = [this, order, run](const RequestFailure& failure) {
         emit uploadFailed(nameOf(order), failure);
+        endUpload(order, std::nullopt);
         answeredOfRun(order, run);
     };
     services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed));

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace kavor {
@@ -70,6 +71,9 @@ private:
 
     void queueCurrentDraft();
     void uploadCurrentDraft(const SaveBrochuresOrder& order);
+    [[nodiscard]] bool isUnderWay(const SaveBrochuresOrder& order) const;
+    void beginUpload(const SaveBrochuresOrder& order);
+    void endUpload(const SaveBrochuresOrder& order, std::optional<Int> orderId);
     void finishForegroundUpload(SaveBrochuresOrder order, Int orderId);
     void uploadOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
     void answeredOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
@@ -92,6 +96,9 @@ private:
         Int orderId;
     };
     std::map<std::string, Unstored> unstored_;
+    // The drafts whose uploads have no answer yet, by name, each with the save that came since and waits for
+    // it.
+    std::map<std::string, std::optional<SaveBrochuresOrder>> underWay_;
 };
 
 } // namespace kavor
