@@ -175,7 +175,11 @@ TEST_F(OnlineCommandsTest, FetchesThePicturesOfTheBackgroundTooAndTellsEachThatF
          {std::pair("one", 1), {"lost", 1}, {"two", 2}, {"broken", 2}, {"three", 3}})
         catalogue.images.push_back(
             {name, {server.address(QLatin1Char('/') + QLatin1String(name)).toStdString()}, downloadType});
-    catalogue.textile.reset();
+    Textile::Typography font;
+    font.filename = "lost.ttf";
+    font.mimetype = "Lost";
+    font.fontURL.text = server.address("/font").toStdString();
+    catalogue.textile.emplace().typographies = {font};
     server.answer("/api/catalogue",
                   ScriptedAnswer::json(QByteArray::fromStdString(json::encode(catalogue).value())));
     server.answer("/one", ScriptedAnswer::bytes("1", "image/png"));
@@ -192,12 +196,15 @@ TEST_F(OnlineCommandsTest, FetchesThePicturesOfTheBackgroundTooAndTellsEachThatF
         << failed.err;
     EXPECT_NE(failed.err.find(server.address("/broken").toStdString() + ": "), std::string::npos)
         << failed.err;
-    EXPECT_TRUE(failed.err.ends_with("kavorctl: resources that could not be had: 2\n")) << failed.err;
+    EXPECT_NE(failed.err.find(server.address("/font").toStdString() + ": Lost\n"), std::string::npos)
+        << failed.err;
+    EXPECT_TRUE(failed.err.ends_with("kavorctl: resources that could not be had: 3\n")) << failed.err;
     EXPECT_EQ(stored(), 2);
     EXPECT_TRUE(server.requestsTo("/three").isEmpty());
 
     server.answer("/lost", ScriptedAnswer::bytes("3", "image/png"));
     server.answer("/broken", ScriptedAnswer::bytes("4", "image/png"));
+    server.answer("/font", ScriptedAnswer::bytes("5", "font/ttf"));
     const Outcome whole = online({"catalogue", "fetch"});
     EXPECT_EQ(whole.status, ctl::fine);
     EXPECT_EQ(whole.err, "");

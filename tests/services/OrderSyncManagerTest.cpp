@@ -122,6 +122,29 @@ TEST_F(OrderSyncManagerTest, ASecondUploadTakesTheExtensionOfTheFirst) {
     EXPECT_EQ(sessions.last(), QStringLiteral("default"));
 }
 
+TEST_F(OrderSyncManagerTest, SendsADraftOnceAtATimeAndANewerSaveAsTheSameOrder) {
+    draft("Bar Nube");
+    BrochureIntermediateData::temporalBrochure()->fileName = "Bar Nube";
+    saveInFront();
+    const auto& calls = services.requests.saveOrder.calls;
+    // A second tap, and a run that finds the file without a number: the first is still on its way.
+    for (int i = 0; i < 2; ++i) {
+        manager.startOrderSync();
+        const auto notices = clock.pending();
+        ASSERT_TRUE(waitFor([&] { return clock.pending() > notices; }));
+    }
+    tasks.run(QLatin1String(OrderSyncManager::taskIdentifier), [](bool) {});
+    EXPECT_EQ(calls.size(), 1U);
+    services.requests.saveOrder.succeed(stored(7));
+    ASSERT_EQ(calls.size(), 2U);
+    EXPECT_EQ(std::get<0>(calls.back()).orderIdentifier, 7);
+    EXPECT_EQ(sessions.last(), QStringLiteral("background"));
+    services.requests.saveOrder.succeed(stored(7));
+    EXPECT_EQ(calls.size(), 2U);
+    EXPECT_EQ(sessions.last(), QStringLiteral("default"));
+    EXPECT_EQ(storedIdentifier("Bar Nube"), 7);
+}
+
 TEST_F(OrderSyncManagerTest, AnOrderWithoutANameStopsTheProcessOnceItIsStored) {
     saveInFront();
     clock.advance(std::chrono::seconds(1));

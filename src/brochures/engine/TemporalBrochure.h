@@ -16,10 +16,10 @@ class BrochureIntermediateData;
 // beside it as a recovery copy until the next write stands on disk, or the draft is reset or sent.
 //
 // A copy of another kind than the one opened is set aside, as "temporalBrochure.type1" (the number of its
-// kind), and comes back when its own kind is opened: each kind has an unfinished menu of its own. Where one of
-// that kind lies aside already, the further one is "temporalBrochure.type1-2" and comes back first. What can't
-// be read is set aside as "temporalBrochure.unreadable" and stays. Setting aside renames, so a copy is in one
-// place at any moment. Without a documents folder nothing is read or written. Main thread only.
+// kind), and comes back when its own kind is opened: each kind has an unfinished menu of its own. Where one
+// of that kind lies aside already, the further one is "temporalBrochure.type1-2" and comes back first. What
+// can't be read is set aside as "temporalBrochure.unreadable" and stays. Setting aside renames, so a copy is
+// in one place at any moment. Without a documents folder nothing is read or written. Main thread only.
 class TemporalBrochure {
 public:
     static TemporalBrochure& shared();
@@ -28,9 +28,9 @@ public:
     // aside last (where that is wanted). Afterwards there is no copy.
     std::optional<KeptOrder> takeForOpening(BrochureType kind, bool fromAside = true);
     // For a wizard that opens in the section of the session: takes the unfinished menu of its kind and, when
-    // there is one, replaces the shared draft by a new one filled from it, its file name and the sends without
-    // an answer included. A shared draft of another kind gives way to a new one. Answers whether there was a menu to restore. Outside a
-    // brochure section nothing happens.
+    // there is one, replaces the shared draft by a new one filled from it, its file name and the sends
+    // without an answer included. A shared draft of another kind gives way to a new one. Answers whether
+    // there was a menu to restore. Outside a brochure section nothing happens.
     bool restoreDraft();
     // Writes the copy of the draft (as keptOrder gives it for the cloud, without validation). Returns at
     // once. A draft that was sent has no copy.

@@ -35,6 +35,11 @@ std::string bytesOf(const SaveBrochuresOrder& order) {
     return *text;
 }
 
+// The file of a draft, with the extension; empty for one without a name.
+std::string fileOf(const SaveBrochuresOrder& order) {
+    return order.filename ? OrderDiskManager::fileName(*order.filename) : std::string();
+}
+
 // The bytes of an order as its file gives it back: who prints is never read.
 std::string bytesAsRead(SaveBrochuresOrder order) {
     order.printedMyself = false;
@@ -62,7 +67,6 @@ void OrderSyncManager::startOrderSync() {
 }
 
 void OrderSyncManager::queueCurrentDraft() {
-    services_.useBackgroundSession();
     const Draft draft = BrochureIntermediateData::temporalBrochure();
     const SaveBrochuresOrder order = draft->makeOrder(OrderRequestType::saveCloud, false);
     sendLocalNotification(
@@ -70,25 +74,45 @@ void OrderSyncManager::queueCurrentDraft() {
         QStringLiteral("Su pedido ") + nameOf(order) +
             QStringLiteral(" se sincronizará con la nube cuando tenga conexión a internet."),
         {}, {});
-    uploadCurrentDraft(draft, order);
+    const auto underWay = underWay_.find(fileOf(order));
+    if (underWay == underWay_.end())
+        uploadCurrentDraft({draft, order});
+    else
+        underWay->second = Save{draft, order};
 }
 
-void OrderSyncManager::uploadCurrentDraft(const Draft& draft, const SaveBrochuresOrder& order) {
+// A save that came while its draft was on its way goes up now, as the order that the server has by then.
+void OrderSyncManager::endUpload(const std::string& fileName, std::optional<Int> orderId) {
+    const auto ended = underWay_.extract(fileName);
+    if (!ended || !ended.mapped())
+        return;
+    Save newer = std::move(*ended.mapped());
+    if (!newer.order.orderIdentifier)
+        newer.order.orderIdentifier = orderId;
+    uploadCurrentDraft(newer);
+}
+
+void OrderSyncManager::uploadCurrentDraft(const Save& save) {
+    services_.useBackgroundSession();
     beginExtension();
-    const auto succeeded = [this, draft, order](const SaveBrochuresOrderResponse& answer) {
-        send_intent::answered(draft->unansweredSends, order);
+    const std::string file = fileOf(save.order);
+    underWay_[file] = std::nullopt;
+    const auto succeeded = [this, save, file](const SaveBrochuresOrderResponse& answer) {
+        send_intent::answered(save.draft->unansweredSends, save.order);
         // Without an id nothing happens: the extension ends by its expiry.
         if (answer.orderId)
-            finishForegroundUpload(draft, order, *answer.orderId);
+            finishForegroundUpload(save.draft, save.order, *answer.orderId);
+        endUpload(file, answer.orderId);
     };
-    const auto failed = [this, draft, order](const RequestFailure& failure) {
+    const auto failed = [this, save, file](const RequestFailure& failure) {
         if (!send_intent::isAnswerLost(failure))
-            send_intent::answered(draft->unansweredSends, order);
+            send_intent::answered(save.draft->unansweredSends, save.order);
         endExtension();
         services_.useDefaultSession();
+        endUpload(file, std::nullopt);
     };
-    services_.network.saveOrder(order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),
-                                send_intent::keyFor(draft->unansweredSends, order));
+    services_.network.saveOrder(save.order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),
+                                send_intent::keyFor(save.draft->unansweredSends, save.order));
 }
 
 void OrderSyncManager::finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId) {
@@ -171,7 +195,7 @@ void OrderSyncManager::handleBrochureSync(const std::shared_ptr<BackgroundTask>&
     std::vector<Upload> taken;
     for (const auto& file : services_.orders.list<SaveBrochuresOrder>(DirectoryName::draft)) {
         auto upload = uploadOf(file.fileName);
-        if (upload && taken.size() < ordersPerRun)
+        if (upload && !underWay_.contains(file.fileName) && taken.size() < ordersPerRun)
             taken.push_back(std::move(*upload));
     }
     const auto run =
@@ -200,6 +224,7 @@ std::optional<OrderSyncManager::Upload> OrderSyncManager::uploadOf(const std::st
 }
 
 void OrderSyncManager::uploadOfRun(const Upload& upload, const std::shared_ptr<Run>& run) {
+    underWay_[upload.fileName] = std::nullopt;
     const auto succeeded = [this, upload, run](const SaveBrochuresOrderResponse& answer) {
         SaveBrochuresOrder sent = upload.order;
         if (answer.orderId) {
@@ -209,10 +234,12 @@ void OrderSyncManager::uploadOfRun(const Upload& upload, const std::shared_ptr<R
                 emit identifierNotStored(nameOf(sent));
             notifySynchronised(sent, {});
         }
+        endUpload(upload.fileName, answer.orderId);
         answeredOfRun(sent, run);
     };
     const auto failed = [this, upload, run](const RequestFailure& failure) {
         emit uploadFailed(nameOf(upload.order), failure);
+        endUpload(upload.fileName, std::nullopt);
         answeredOfRun(upload.order, run);
     };
     services_.network.saveOrder(upload.order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),

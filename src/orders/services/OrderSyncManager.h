@@ -72,6 +72,11 @@ private:
     struct Run;
     using Draft = std::shared_ptr<BrochureIntermediateData>;
 
+    // A draft that the user saved, and the order that it was then.
+    struct Save {
+        Draft draft;
+        SaveBrochuresOrder order;
+    };
     // A draft file on its way to the cloud.
     struct Upload {
         std::string fileName; // with the extension
@@ -81,7 +86,8 @@ private:
     };
 
     void queueCurrentDraft();
-    void uploadCurrentDraft(const Draft& draft, const SaveBrochuresOrder& order);
+    void uploadCurrentDraft(const Save& save);
+    void endUpload(const std::string& fileName, std::optional<Int> orderId);
     void finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId);
     [[nodiscard]] std::optional<Upload> uploadOf(const std::string& fileName);
     void uploadOfRun(const Upload& upload, const std::shared_ptr<Run>& run);
@@ -107,6 +113,9 @@ private:
         Int orderId;
     };
     std::map<std::string, Unstored> unstored_;
+    // The drafts whose uploads have no answer yet, by name, each with the save that came since and waits for
+    // it.
+    std::map<std::string, std::optional<Save>> underWay_;
 };
 
 } // namespace kavor
