@@ -42,14 +42,13 @@ qsizetype pastBackslashes(QStringView text, qsizetype at) {
     return at;
 }
 
-// The letter itself, or the mark that stands for letters that could not be read.
+// The letter itself, "+" for a blank, or the mark that stands for letters that could not be read.
 void plainForm(QStringView text, qsizetype at, char32_t letter, Positions& ends) {
     const auto units = QChar::fromUcs4(letter);
+    const QChar standsForIt = letter == U' ' ? QLatin1Char('+') : QChar(replacement);
     if (text.mid(at).startsWith(QStringView(units)))
         ends.append(at + QStringView(units).size());
-    else if (letter > 0x7F && at < text.size() && text[at] == replacement)
-        ends.append(at + 1);
-    else if (letter == U' ' && at < text.size() && text[at] == QLatin1Char('+'))
+    else if ((letter == U' ' || letter > 0x7F) && at < text.size() && text[at] == standsForIt)
         ends.append(at + 1);
 }
 

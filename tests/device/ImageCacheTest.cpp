@@ -163,12 +163,12 @@ TEST_F(ImageCacheTest, ShowsAtOnceWhatIsStillToBeFetchedInTheBackgroundAndFetche
     waiting.push_back(resource("later", "/later"));
     Prefetcher first(cache, waiting, {}, {});
     Prefetcher second(cache, {resource("queued", "/queued")}, {}, {});
-    for (Prefetcher* each : {&first, &second}) {
-        each->setLane(PlainDownloader::Lane::Background);
-        each->start();
-    }
-    ASSERT_TRUE(waitFor(
-        [&] { return server.requests().size() == 5 && downloader.isFetching(server.url("/queued")); }));
+    first.setLane(PlainDownloader::Lane::Background);
+    second.setLane(PlainDownloader::Lane::Background);
+    first.start();
+    ASSERT_TRUE(waitFor([&] { return server.requests().size() == 5; }));
+    second.start();
+    ASSERT_TRUE(waitFor([&] { return downloader.isFetching(server.url("/queued")); }));
     for (const char* key : {"later", "queued"})
         EXPECT_EQ(load(resource(key, QLatin1Char('/') + QString(key))).size(), QSize(8, 4)) << key;
     EXPECT_TRUE(waitFor([&] { return second.isFinished(); }));
