@@ -117,8 +117,8 @@ bool holdsChoices(const Draft& draft) {
 
 bool holdsWork(const Draft& draft) {
     // An order that has a file or a number was kept by the user.
-    return draft.fileName.value_or("") != "" || draft.orderIdentifier || draft.sourceIdentifier ||
-           holdsCustomer(draft.customerInformation) || draft.supportComment.value_or("") != "" ||
+    return !draft.fileName.value_or("").empty() || draft.orderIdentifier || draft.sourceIdentifier ||
+           holdsCustomer(draft.customerInformation) || !draft.supportComment.value_or("").empty() ||
            holdsProducts(draft) || holdsChoices(draft) || holdsChalkboard(draft) || holdsStyle(draft) ||
            holdsLogos(draft) || holdsQuantities(draft);
 }

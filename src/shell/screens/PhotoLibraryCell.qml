@@ -49,7 +49,8 @@ Tappable {
                 autoTransform: true
                 cache: false
                 fillMode: Image.PreserveAspectFit
-                sourceSize: Qt.size(192, 192)
+                sourceSize.width: 192
+                sourceSize.height: 192
             }
             FocusRing { shown: cell.marked }
         }

@@ -63,7 +63,7 @@ FocusScope {
             rightPadding: Theme.spaceM
             accessibleName: picker.label !== "" ? picker.label : picker.placeholder
             Accessible.role: Accessible.ComboBox
-            Accessible.description: [picker.currentText, picker.error].filter((text) => text !== "").join(". ")
+            Accessible.description: picker.currentText + (picker.error !== "" ? ". " + picker.error : "")
             onClicked: picker.open()
             Keys.onDownPressed: picker.open()
 
