@@ -170,8 +170,8 @@ public:
     bool withoutPricePennant = false;
     std::optional<Brochures::Type::Parameters>
         brochureTypeParameters; // of the section, set by the wizard's frame
-    // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order says
-    // comes from the section all the same.
+    // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order
+    // says comes from the section all the same.
     std::optional<BrochureType> openedAs;
 
     // ---- References to the catalogue
@@ -275,8 +275,8 @@ public:
     // process stops outside a brochure section and for a brand or drink that the catalogue no longer
     // explains.
     [[nodiscard]] SaveBrochuresOrder makeOrder(OrderRequestType save, bool validate) const;
-    // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own that
-    // the catalogue lacks, or has under another number, is built again from the document and enters the
+    // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own
+    // that the catalogue lacks, or has under another number, is built again from the document and enters the
     // catalogue. Deletes the temporary copy on disk. The file name is the caller's to set.
     void loadOrder(const SaveBrochuresOrder& order);
     // One line for the user that counts and names the brands (or formats of them) that fell out of the order

@@ -16,10 +16,10 @@ class BrochureIntermediateData;
 // beside it as a recovery copy until the next write stands on disk, or the draft is reset or sent.
 //
 // A copy of another kind than the one opened is set aside, as "temporalBrochure.type1" (the number of its
-// kind), and comes back when its own kind is opened: each kind has an unfinished menu of its own. Where one of
-// that kind lies aside already, the further one is "temporalBrochure.type1-2" and comes back first. What can't
-// be read is set aside as "temporalBrochure.unreadable" and stays. Setting aside renames, so a copy is in one
-// place at any moment. Without a documents folder nothing is read or written. Main thread only.
+// kind), and comes back when its own kind is opened: each kind has an unfinished menu of its own. Where one
+// of that kind lies aside already, the further one is "temporalBrochure.type1-2" and comes back first. What
+// can't be read is set aside as "temporalBrochure.unreadable" and stays. Setting aside renames, so a copy is
+// in one place at any moment. Without a documents folder nothing is read or written. Main thread only.
 class TemporalBrochure {
 public:
     static TemporalBrochure& shared();
@@ -61,7 +61,7 @@ private:
     std::optional<SaveBrochuresOrder> takeSetAside(BrochureType kind);
 
     bool taken_ = false;    // the recovery copy is the one that was opened
-    bool occupied_ = false; // a copy that could not be set aside stands in the way
+    bool occupied_ = false; // a menu that could not be moved is in the way
 };
 
 } // namespace kavor
