@@ -36,9 +36,8 @@ Product::ProductFormat formatOf(const OwnBrand& brand, const Brochures::ProductT
 // The record of the family with this id, or null.
 template <class Record>
 const Record* find(const std::vector<Record>& records, std::optional<Int> id, ApplicationFather family) {
-    const auto found = std::ranges::find_if(records, [&](const Record& record) {
-        return record.id == id && record.applicationFather == family;
-    });
+    const auto found = std::ranges::find_if(
+        records, [&](const Record& record) { return record.id == id && record.applicationFather == family; });
     return found == records.end() ? nullptr : &*found;
 }
 
@@ -51,14 +50,9 @@ bool OwnBrand::is(const Product& product) {
 OwnBrand OwnBrand::of(const Product& product) {
     const auto category = product.category.value_or(Product::Category());
     const bool described = product.description && !product.description->empty();
-    return {product.applicationFather,
-            product.name,
-            described ? product.description : std::nullopt,
-            category.segmentId,
-            category.typologyId,
-            category.tasteId,
-            category.subTypologyId,
-            category.ageId};
+    return {product.applicationFather, product.name,        described ? product.description : std::nullopt,
+            category.segmentId,        category.typologyId, category.tasteId,
+            category.subTypologyId,    category.ageId};
 }
 
 Product OwnBrand::product(const Brochures& brochures, Int id) const {

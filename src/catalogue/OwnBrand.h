@@ -7,8 +7,8 @@
 
 namespace kavor {
 
-// A brand that the user added by hand: the customer's own. In the catalogue it is a product with a negative id
-// and this property, so everything else treats it like any brand.
+// A brand that the user added by hand: the customer's own. In the catalogue it is a product with a negative
+// id and this property, so everything else treats it like any brand.
 struct OwnBrand {
     static constexpr Int property = 4;
 

@@ -37,9 +37,9 @@ public:
 
     // The catalogue; the process stops without one.
     [[nodiscard]] const Catalogue& catalogue() const;
-    // The one way to change the catalogue (brands added by hand): copies it, lets the copy be changed, puts it
-    // in place and has it stored. Whoever still holds the former one keeps it unchanged. A copy that was made
-    // ahead, of this very catalogue, spares the time.
+    // The one way to change the catalogue (brands added by hand): copies it, lets the copy be changed, puts
+    // it in place and has it stored. Whoever still holds the former one keeps it unchanged. A copy that was
+    // made ahead, of this very catalogue, spares the time.
     void changeCatalogue(const std::function<void(Catalogue&)>& change,
                          std::shared_ptr<Catalogue> copy = nullptr);
     // Takes the former catalogue after each change and stores the one in place; set by what keeps the files.

@@ -67,8 +67,7 @@ public:
         case 7:
             return writeTemporaryCopy();
         case 8:
-            openMenu();
-            return random_() % 3 == 0 ? removeTemporaryCopy() : void();
+            return openMenu() && random_() % 3 == 0 ? removeTemporaryCopy() : void();
         case 9:
             return storeNetPrices();
         case 10:
@@ -170,10 +169,11 @@ private:
     }
 
     // Opens this or the other section: the menu of the one that is left is set aside.
-    void openMenu() {
+    // Answers whether there was one to come back.
+    bool openMenu() {
         kind_ = menuKinds[random_() % std::size(menuKinds)];
         AppSingleton::shared().actualSection = SectionIdentifier::brochure(kind_);
-        TemporalBrochure::shared().takeForOpening(kind_);
+        return TemporalBrochure::shared().takeForOpening(kind_).has_value();
     }
 
     // Several wishes at once: the latest wins.

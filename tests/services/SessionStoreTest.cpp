@@ -63,7 +63,9 @@ TEST_F(SessionStoreTest, ABrokenFileReadsAsAbsentAndTheLogNamesThePlace) {
 }
 
 TEST_F(SessionStoreTest, AChangeOfTheCatalogueIsStoredOwnBrandsWithTheirDescriptions) {
-    const OwnBrand cierva{ApplicationFather::orderBeer, "Cierva", "Turbia"};
+    OwnBrand cierva;
+    cierva.name = "Cierva";
+    cierva.description = "Turbia";
     session.changeCatalogue([&](Catalogue& all) { all.addProduct(cierva.product(all.brochures(), -1)); });
     sessions.storeSession();
     forget();

@@ -171,8 +171,8 @@ public:
     bool withoutPricePennant = false;
     std::optional<Brochures::Type::Parameters>
         brochureTypeParameters; // of the section, set by the wizard's frame
-    // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order says
-    // comes from the section all the same.
+    // The kind of the section in which a wizard opened it, or of the order that was loaded. What an order
+    // says comes from the section all the same.
     std::optional<BrochureType> openedAs;
     UnansweredSends unansweredSends;
     std::optional<SentOrder> sent; // once the server has taken it to print
@@ -280,8 +280,8 @@ public:
     [[nodiscard]] SaveBrochuresOrder makeOrder(OrderRequestType save, bool validate) const;
     // The same for a file of the device, with the sends that wait for their answers.
     [[nodiscard]] KeptOrder keptOrder(OrderRequestType save, bool validate) const;
-    // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own that
-    // the catalogue lacks, or has under another number, is built again from the document and enters the
+    // Fills this (new) draft from a document; what left the catalogue falls out. A brand of the user's own
+    // that the catalogue lacks, or has under another number, is built again from the document and enters the
     // catalogue. Deletes the temporary copy on disk. The file name is the caller's to set.
     void loadOrder(const SaveBrochuresOrder& order);
     // One line for the user that counts and names the brands (or formats of them) that fell out of the order

@@ -110,8 +110,7 @@ std::optional<KeptOrder> TemporalBrochure::takeSetAside(BrochureType kind) {
             setAside(file, found);
             continue;
         }
-        if (!occupied_)
-            move(file, recoveryName);
+        occupied_ = occupied_ || !move(file, recoveryName);
         return std::move(found.order);
     }
     return std::nullopt;
@@ -168,7 +167,7 @@ void TemporalBrochure::removeAll() {
     if (folder().empty())
         return;
     if (occupied_) { // nothing of this draft was written
-        logLine(copyName + ": another menu stands there that could not be set aside");
+        logLine(copyName + ": a menu could not be moved, so nothing is removed");
         return;
     }
     for (const auto& name : {copyName, recoveryName})

@@ -61,7 +61,7 @@ private:
     std::optional<KeptOrder> takeSetAside(BrochureType kind);
 
     bool taken_ = false;    // the recovery copy is the one that was opened
-    bool occupied_ = false; // a copy that could not be set aside stands in the way
+    bool occupied_ = false; // a menu that could not be moved is in the way
 };
 
 } // namespace kavor

@@ -23,9 +23,8 @@ SessionStore::SessionStore(AppSingleton& session)
     : session_(session)
     , folder_(session.documentsFolder()) {
     worker_.setMaxThreadCount(1);
-    session_.setCatalogueKeeper([this](std::shared_ptr<const Catalogue> former) {
-        storeCatalogueInBackground(std::move(former));
-    });
+    session_.setCatalogueKeeper(
+        [this](std::shared_ptr<const Catalogue> former) { storeCatalogueInBackground(std::move(former)); });
 }
 
 SessionStore::~SessionStore() {

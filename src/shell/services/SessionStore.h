@@ -34,9 +34,9 @@ public:
     void storeSession();
     // Writes what is present as it is now; returns at once.
     void storeInBackground();
-    // Writes the catalogue as it is now, after each change of the session's catalogue, so that a brand added by
-    // hand outlives the process even when that ends without warning, and one that was removed does not come
-    // back; returns at once. The former catalogue is let go in the worker too.
+    // Writes the catalogue as it is now, after each change of the session's catalogue, so that a brand added
+    // by hand outlives the process even when that ends without warning, and one that was removed does not
+    // come back; returns at once. The former catalogue is let go in the worker too.
     void storeCatalogueInBackground(std::shared_ptr<const Catalogue> former);
     // Waits for all that was begun.
     void flush();
