@@ -83,5 +83,9 @@ FocusScope {
         anchors.fill: parent
     }
 
-    Veil { shown: view.controller.veilVisible }
+    Veil {
+        shown: view.controller.veilVisible
+        leavable: view.controller.veilLeavable
+        onAbandoned: view.controller.leaveVeil()
+    }
 }

@@ -7,8 +7,10 @@
 #include "brochures/wizard/BrochureSendViewController.h"
 #include "brochures/wizard/BrochureStyleSelectorViewController.h"
 #include "brochures/wizard/StepSupport.h"
+#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
+#include "device/PressGuard.h"
 #include "device/Reachability.h"
 #include "network/ServiceOperations.h"
 #include "shell/AppSingleton.h"
@@ -67,6 +69,12 @@ bool holdsWork(const BrochureIntermediateData& draft) {
            (customer && (!customer->name.empty() || customer->tevo || customer->email || customer->contact));
 }
 
+bool isOn(const NotificationInfo& info, const char* key) {
+    const auto entry = info.find(key);
+    const bool* value = entry == info.end() ? nullptr : std::get_if<bool>(&entry->second);
+    return value && *value;
+}
+
 QString styleCaption(BrochureType type) {
     switch (type) {
     case BrochureType::chalkboard:
@@ -113,9 +121,7 @@ void BrochureMenuViewController::viewDidAppear() {
     auto& center = NotificationCenter::shared();
     observers_.push_back(
         center.observe(notification::visibilityVeilView, [this](const NotificationInfo& info) {
-            const auto show = info.find("show");
-            const bool* visible = show == info.end() ? nullptr : std::get_if<bool>(&show->second);
-            setVeilVisible(visible && *visible);
+            setVeil(isOn(info, "show"), isOn(info, VeiledRun::leavable));
         }));
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
@@ -147,6 +153,7 @@ void BrochureMenuViewController::showStep(int wizardStep) {
     step->viewWillAppear();
     emit activeStepChanged();
     emit subtitleChanged();
+    NotificationCenter::shared().post(notification::viewChanged);
     if (former) {
         former->disconnect(this);
         former->deleteLater(); // after its view, which went in the line above
@@ -273,11 +280,17 @@ void BrochureMenuViewController::closePreview() {
     emit previewChanged();
 }
 
-void BrochureMenuViewController::setVeilVisible(bool visible) {
-    if (veilVisible_ == visible)
+void BrochureMenuViewController::setVeil(bool visible, bool leavable) {
+    if (veilVisible_ == visible && veilLeavable_ == leavable)
         return;
     veilVisible_ = visible;
+    veilLeavable_ = leavable;
     emit veilVisibleChanged();
+}
+
+void BrochureMenuViewController::leaveVeil() {
+    if (veilLeavable_)
+        NotificationCenter::shared().post(notification::veilViewLeft);
 }
 
 QString BrochureMenuViewController::title() const {

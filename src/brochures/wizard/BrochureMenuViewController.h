@@ -32,6 +32,8 @@ class BrochureMenuViewController : public QObject {
     Q_PROPERTY(kavor::WizardStepViewController* activeViewController READ activeViewController NOTIFY
                    activeStepChanged)
     Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
+    // Whether what the veil waits for can be left.
+    Q_PROPERTY(bool veilLeavable READ isVeilLeavable NOTIFY veilVisibleChanged)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
     // The document on show over the wizard, null when there is none.
     Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
@@ -67,6 +69,7 @@ public:
     [[nodiscard]] int selectedButton() const { return selected_; }
     [[nodiscard]] WizardStepViewController* activeViewController() const { return activeViewController_; }
     [[nodiscard]] bool isVeilVisible() const { return veilVisible_; }
+    [[nodiscard]] bool isVeilLeavable() const { return veilLeavable_; }
     [[nodiscard]] bool isOffline() const;
     [[nodiscard]] WebPreviewViewController* preview() const { return preview_; }
     [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }
@@ -75,6 +78,8 @@ public:
     Q_INVOKABLE void buttonPushedAction(int index);
     // Closes the wizard at once.
     Q_INVOKABLE void closeSceneAction();
+    // The user waits no longer for what the veil stands for.
+    Q_INVOKABLE void leaveVeil();
     // Shows a document over the wizard.
     void showPreview(const QUrl& document);
     // Saves the step on show and the temporary copy, as when the wizard goes off the screen.
@@ -100,7 +105,7 @@ private:
     void select(int index);
     void askForReset();
     void reset();
-    void setVeilVisible(bool visible);
+    void setVeil(bool visible, bool leavable);
     void closePreview();
     void connectStep(WizardStepViewController* step);
 
@@ -115,6 +120,7 @@ private:
     std::vector<NotificationCenter::Subscription> observers_;
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool veilVisible_ = false;
+    bool veilLeavable_ = false;
     bool appeared_ = false;
 };
 

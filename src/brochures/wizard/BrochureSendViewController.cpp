@@ -7,7 +7,7 @@
 #include "brochures/wizard/WizardAlerts.h"
 #include "catalogue/Catalogue.h"
 #include "device/Background.h"
-#include "device/UrlOpener.h"
+#include "device/OpenLink.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/OrderDiskManager.h"
@@ -99,7 +99,7 @@ void BrochureSendViewController::sendOrder(bool printedMyself) {
     draft_->printedMyself = printedMyself;
     emit editingShouldEnd();
     if (orderURL_) {
-        services_.urls.openExternally(orderURL_->toString(QUrl::FullyEncoded));
+        openLink(services_.urls, services_.alerts, orderURL_->toString(QUrl::FullyEncoded));
         return;
     }
     checkAndSend(OrderRequestType::sendToPrint);
@@ -141,10 +141,10 @@ void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QSt
 void BrochureSendViewController::send(OrderRequestType type) {
     if (!services_.network.isReachable())
         return sendOffline(type);
-    showVeil(true);
     services_.network.saveOrder(
         draft_->makeOrder(type, type != OrderRequestType::saveCloud),
-        {this, [this, type](const SaveBrochuresOrderResponse& answer) { sent(type, answer); },
+        {wait_.begin([this, type] { left(type); }),
+         [this, type](const SaveBrochuresOrderResponse& answer) { sent(type, answer); },
          [this, type](const RequestFailure& failure) { failed(type, failure); }});
 }
 
@@ -165,17 +165,38 @@ void BrochureSendViewController::sendOffline(OrderRequestType type) {
 }
 
 void BrochureSendViewController::failed(OrderRequestType type, const RequestFailure& failure) {
-    showVeil(false);
+    wait_.end();
     showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
     if (type == OrderRequestType::saveCloud)
         services_.sync.startOrderSync();
+}
+
+// The same as a lost answer: the order may have been made, and its key stays for the next send.
+void BrochureSendViewController::left(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        services_.alerts.inform(
+            QStringLiteral("Atención"),
+            QStringLiteral(
+                "Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin cambiarlo, "
+                "no se realizará dos veces."));
+        return;
+    case OrderRequestType::sendPreview:
+        return;
+    case OrderRequestType::saveCloud:
+        services_.alerts.inform(
+            QStringLiteral("Guardado sólo localmente"),
+            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
+        services_.sync.startOrderSync();
+        return;
+    }
 }
 
 // ---- Answers
 // ---------------------------------------------------------------------------------------------------
 
 void BrochureSendViewController::sent(OrderRequestType type, const SaveBrochuresOrderResponse& response) {
-    showVeil(false);
+    wait_.end();
     switch (type) {
     case OrderRequestType::sendToPrint:
         return printed(response);

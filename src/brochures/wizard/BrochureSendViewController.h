@@ -2,6 +2,7 @@
 
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/wizard/BrochureSendSummary.h"
+#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardStep.h"
 #include "catalogue/Brochures.h"
 
@@ -124,6 +125,7 @@ private:
     void sent(OrderRequestType type, const SaveBrochuresOrderResponse& response);
     void printed(const SaveBrochuresOrderResponse& response);
     void savedInCloud(const SaveBrochuresOrderResponse& response);
+    void left(OrderRequestType type);
     void failed(OrderRequestType type, const RequestFailure& failure);
     void queueOffline();
     void saveUnderName(const QString& name);
@@ -132,6 +134,7 @@ private:
     void setMissing(const QStringList& sentences);
 
     WizardServices services_;
+    VeiledRun wait_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> draft_;
     std::optional<BrochureType> type_;

@@ -33,9 +33,15 @@ void CatalogueUpdate::start() {
                                  ResourceUpdateRun::label(count, total));
         });
     };
-    services_.network.appInformation({this, arrived, [this](const RequestFailure& failure) {
-                                          emit failed(failure.messages.value_or(QStringList()));
-                                      }});
+    const auto refused = [this](const RequestFailure& failure) {
+        emit failed(failure.messages.value_or(QStringList()));
+    };
+    services_.network.appInformation({run_.begin(), arrived, refused});
+}
+
+void CatalogueUpdate::leave() {
+    run_.end();
+    services_.resources.leave();
 }
 
 std::optional<qint64> CatalogueUpdate::secondsSinceFetch() const {
