@@ -47,6 +47,7 @@
 #include <QQuickWindow>
 #include <QStyleHints>
 
+#include <chrono>
 #include <utility>
 
 // In a static library nothing else would keep it.
@@ -183,8 +184,12 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
                                    std::unique_ptr<SessionStore> sessions)
     : options_(options)
     , parts_(std::make_unique<Parts>(options, std::move(configuration), std::move(sessions))) {
-    // Two quick taps are two taps: a touch screen would swallow the second one as a double click.
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+    // Two quick taps are two taps: a touch screen would swallow the second one as a double click. Only a
+    // change of screen keeps the platform's own time.
+    QStyleHints* hints = QGuiApplication::styleHints();
+    static const int doublePress = hints->mouseDoubleClickInterval(); // before it is changed, once
+    hints->setMouseDoubleClickInterval(0);
+    parts_->root.setDoublePressInterval(std::chrono::milliseconds(doublePress));
     if (options.offline)
         setOffline(true);
     // What the wizard wrote last stands on disk before the session is stored.

@@ -1,7 +1,7 @@
 #include "network/ShowRequestFailure.h"
 
 #include "device/AlertPresenter.h"
-#include "device/UrlOpener.h"
+#include "device/OpenLink.h"
 
 namespace kavor {
 
@@ -13,11 +13,11 @@ void offerUpdate(const FailurePresenter& presenter, const ServerResponseError& u
     alert.text = update.errorMessage;
     alert.buttons = {{QStringLiteral("No"), AlertButton::Role::Cancel},
                      {QStringLiteral("Actualizar"), AlertButton::Role::Normal}};
-    presenter.alerts.present(alert, nullptr,
-                             [&urls = presenter.urls, link = update.updateLink](const AlertAnswer& answer) {
-                                 if (answer.button == 1)
-                                     urls.openExternally(link.toString(QUrl::FullyEncoded));
-                             });
+    presenter.alerts.present(
+        alert, nullptr, [presenter, link = update.updateLink](const AlertAnswer& answer) {
+            if (answer.button == 1)
+                openLink(presenter.urls, presenter.alerts, link.toString(QUrl::FullyEncoded));
+        });
 }
 
 } // namespace

@@ -216,4 +216,27 @@ TEST_F(ShellTest, AStateFileThatCannotBeWrittenIsIgnored) {
     EXPECT_NE(contentOf(folder / "ZQAPPLICATIONINFORMATION"), "");
 }
 
+TEST_F(ShellTest, AnAutomaticLoginThatIsLeftEndsAsOneThatFailed) {
+    for (const bool stored : {true, false}) {
+        roots.clear();
+        remember();
+        if (stored) {
+            storeRights(rights("stored"));
+            storeCatalogue();
+        } else {
+            std::filesystem::remove_all(folder.path() / state_file::loginResult);
+        }
+        application.loadIntoInitialViewController();
+        application.leaveAutomaticLogin();
+        const auto expected =
+            std::vector{Root::Launch, stored ? Root::MainNavigation : Root::LoginNavigation};
+        EXPECT_EQ(roots, expected);
+        network.requests.login.succeed(rights("late"));
+        application.leaveAutomaticLogin(); // once is enough
+        EXPECT_EQ(roots, expected);
+        EXPECT_EQ(session.loginResult.has_value(), stored);
+        EXPECT_FALSE(session.loginResult && session.loginResult->msg == "late");
+    }
+}
+
 } // namespace kavor

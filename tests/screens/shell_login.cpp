@@ -158,4 +158,60 @@ TEST_F(Login, BothHelpersOpenTheSamePage) {
     EXPECT_EQ(urls.opened, QStringList(2, QStringLiteral("http://server.example/forgotten")));
 }
 
+TEST_F(Login, AnAnswerToALoginThatWasLeftChangesNothing) {
+    LoginViewController login(loginServices());
+    int dashboards = 0;
+    QObject::connect(&login, &LoginViewController::showUserApplications, &login, [&] { ++dashboards; });
+    type(login, "ana", "secret");
+    login.rememberPasswordSwitchValueChangedAction(true);
+    for (const bool accepted : {true, false}) {
+        login.loginAction();
+        login.cancelLoginAction();
+        EXPECT_FALSE(login.isVeilShown());
+        EXPECT_TRUE(login.isLoginEnabled());
+        if (accepted)
+            network.requests.login.succeed(rights());
+        else
+            network.requests.login.fail(failureWith({QStringLiteral("no")}));
+        EXPECT_FALSE(session.loginResult || session.userEmail);
+        EXPECT_EQ(network.token, u"");
+        EXPECT_EQ(keychain.writes, 0);
+        EXPECT_FALSE(loadsItself());
+        EXPECT_FALSE(alerts.isVisible());
+    }
+    EXPECT_EQ(dashboards, 0);
+    login.loginAction();
+    network.requests.login.succeed(rights());
+    EXPECT_EQ(dashboards, 1);
+}
+
+TEST_F(Login, ALoginByTokenKeepsTheRememberedPasswordOfTheSameUser) {
+    for (const auto& [url, after] :
+         {std::pair("kavor://open?login=ana&token=once", Stored{"ana", "secret", "stored"}),
+          std::pair("kavor://open?login=eva&token=once", Stored{"eva", "", "fresh"})}) {
+        remember();
+        LoginViewController login(loginServices());
+        login.setPassword({}); // as on the way back from the dashboard
+        application.openUrl(QLatin1String(url));
+        ASSERT_TRUE(network.requests.login.succeed(rights()));
+        EXPECT_EQ(stored(), after);
+    }
+}
+
+TEST_F(Login, ALinkThatCannotBeOpenedIsToldWithItsAddress) {
+    urls.opens = false;
+    LoginViewController login(loginServices());
+    login.resetPasswordAction();
+    answer(QStringLiteral("Atención"),
+           QStringLiteral("No se ha podido abrir el enlace:\nhttp://server.example/forgotten"));
+    RequestFailure outdated = failureWith({}, 505);
+    outdated.error.updateNeeded = {QStringLiteral("nueva"), QUrl(QStringLiteral("http://new.example"))};
+    type(login, "ana", "secret");
+    login.loginAction();
+    network.requests.login.fail(outdated);
+    answer(QStringLiteral("Atención"), QStringLiteral("nueva"), 1);
+    answer(QStringLiteral("Atención"),
+           QStringLiteral("No se ha podido abrir el enlace:\nhttp://new.example"));
+}
+
 } // namespace kavor

@@ -112,4 +112,37 @@ TEST_F(Roots, BannersShowOneAfterTheOtherAndATapAnswersItsOwn) {
     EXPECT_TRUE(tapped.isEmpty());
 }
 
+TEST_F(Roots, AUrlOverADashboardLeadsBackToTheLoginScreenFirst) {
+    application.didFinishLaunching();
+    root.login()->setEmail(QStringLiteral("ana"));
+    root.login()->setPassword(QStringLiteral("secret"));
+    root.login()->loginAction();
+    network.requests.login.succeed(rights());
+    QCoreApplication::processEvents(); // the dashboard asks for the catalogue
+    root.welcome()->openSection(1);
+    const auto url = QStringLiteral("kavor://open?login=eva&token=once");
+
+    network.reachable = false;
+    application.openUrl(url);
+    EXPECT_EQ(stack(), u"LoginView WelcomeView showBrochureSegue") << "nobody is sent away for nothing";
+    answer(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+
+    network.reachable = true;
+    application.openUrl(url);
+    EXPECT_EQ(stack(), u"LoginView");
+    EXPECT_FALSE(session.userEmail);
+    const auto before = session.applicationInformation;
+    network.requests.appInformation.succeed(catalogueWith());
+    EXPECT_EQ(session.applicationInformation, before) << "asked for by the dashboard that went";
+    network.requests.login.succeed(rights());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(stack(), u"LoginView WelcomeView");
+    EXPECT_EQ(session.userEmail, "eva");
+    EXPECT_EQ(network.requests.appInformation.calls.size(), 2U);
+    notifications.post(notification::needToUpdateResources);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(network.requests.userInformation.calls.size(), 1U);
+}
+
 } // namespace kavor

@@ -316,6 +316,103 @@ TEST_F(Dashboard, CountsTheOrdersThatWaitInTheOutbox) {
     EXPECT_TRUE(waitFor([&] { return screen.unsentOrders() == u"2 pedidos sin enviar"; }));
 }
 
+TEST_F(Dashboard, AnAnswerToARefreshThatWasLeftChangesNothing) {
+    WelcomeViewController& screen = open();
+    const auto old = catalogueWith();
+    session.applicationInformation = old;
+    int ended = 0;
+    const auto observer = notifications.observe(notification::updatingResourcesDidEnd,
+                                                [&](const NotificationInfo&) { ++ended; });
+    const auto refresh = [&] {
+        screen.updateInfoapp();
+        settle();
+    };
+    const auto leave = [&] {
+        EXPECT_TRUE(screen.isProgressVeilShown());
+        screen.cancelUpdateAction();
+        EXPECT_FALSE(screen.isProgressVeilShown());
+    };
+    refresh();
+    leave();
+    network.requests.userInformation.succeed(rights("late"));
+    EXPECT_EQ(session.loginResult->msg, "ok");
+    EXPECT_TRUE(network.requests.appInformation.calls.empty());
+
+    for (const bool arrives : {true, false}) {
+        refresh();
+        LoginResult answered = rights();
+        answered.notifications = std::vector<UserNotification>{{"Aviso", std::nullopt, std::nullopt}};
+        network.requests.userInformation.succeed(answered);
+        leave();
+        if (arrives)
+            network.requests.appInformation.succeed(catalogueWith());
+        else
+            network.requests.appInformation.fail(failureWith({QStringLiteral("no")}));
+        EXPECT_EQ(session.applicationInformation, old);
+        EXPECT_FALSE(screen.areNotificationsShown() || alerts.isVisible() || screen.isProgressVeilShown());
+    }
+
+    ScriptedServer server;
+    server.answer("/p", ScriptedAnswer::bytes("picture", "image/png"));
+    server.hold();
+    refresh();
+    network.requests.userInformation.succeed(rights());
+    network.requests.appInformation.succeed(
+        catalogueWith({{"p", Url{server.address("/p").toStdString()}, 1}}));
+    ASSERT_TRUE(waitFor([&] { return server.waiting() > 0; }));
+    leave();
+    server.release();
+    ASSERT_TRUE(waitFor([&] { return !downloader.isFetching(server.url("/p")); }));
+    settle();
+    EXPECT_EQ(ended, 0);
+    EXPECT_EQ(screen.progressMessage(), u"Actualizando imágenes 0/1");
+    EXPECT_TRUE(roots.empty()) << "there is a catalogue to work with";
+}
+
+TEST_F(Dashboard, AnUploadThatWasLeftSendsNothingMore) {
+    for (const char* name : {"one", "two"})
+        putOrder(OrderDiskManager::DirectoryName::draft, name);
+    session.applicationInformation = catalogueWith();
+    session.loginResult->sendOrderInformation = true;
+    WelcomeViewController& screen = open();
+    screen.updateInfoapp();
+    settle();
+    notifications.post(notification::updatingResourcesDidEnd);
+    ASSERT_TRUE(waitFor([&] { return network.requests.sendRawOrder.waiting() == 1; }));
+    screen.cancelUpdateAction();
+    EXPECT_FALSE(screen.isProgressVeilShown());
+    network.requests.sendRawOrder.succeed({});
+    settle();
+    EXPECT_EQ(sentFiles().size(), 1U);
+}
+
+TEST_F(Dashboard, LeavingTheFirstCatalogueLeadsBackToTheLogin) {
+    WelcomeViewController& screen = open();
+    screen.downloadApplicationInformation = true;
+    screen.viewWillAppear();
+    settle();
+    screen.cancelUpdateAction();
+    EXPECT_EQ(roots, std::vector{Root::LoginNavigation}) << "a section stops without a catalogue";
+    EXPECT_FALSE(screen.downloadApplicationInformation);
+}
+
+TEST_F(Dashboard, ArrowsLeadFromTileToTile) {
+    for (auto flag : {&LoginResult::showBeerBrochures, &LoginResult::showBeveragesBrochures,
+                      &LoginResult::showFoodBrochures, &LoginResult::showFlyer, &LoginResult::showTextile})
+        (*session.loginResult).*flag = true;
+    WelcomeViewController& screen = open();
+    screen.viewWillAppear();
+    struct Case {
+        int from, key, to;
+    };
+    for (const Case& each :
+         {Case{-1, Qt::Key_Down, 0}, Case{-1, Qt::Key_Left, -1}, Case{0, Qt::Key_Left, -1},
+          Case{0, Qt::Key_Right, 1}, Case{2, Qt::Key_Right, 3}, Case{4, Qt::Key_Right, -1},
+          Case{1, Qt::Key_Down, 4}, Case{2, Qt::Key_Down, -1}, Case{4, Qt::Key_Up, 1},
+          Case{1, Qt::Key_Up, -1}, Case{3, Qt::Key_Home, 0}, Case{0, Qt::Key_End, 4}, Case{0, Qt::Key_A, -1}})
+        EXPECT_EQ(screen.tileAfter(each.from, each.key, 3), each.to) << each.from << " " << each.key;
+}
+
 TEST(CatalogueAge, IsToldInTheLargestWholeUnit) {
     const std::vector<std::pair<qint64, QString>> table{
         {59, QStringLiteral("un momento")},   {60, QStringLiteral("1 minuto")},

@@ -417,5 +417,32 @@ TEST_F(SentOrderTest, TheNextOpeningAndTheResetStartAnew) {
     EXPECT_FALSE(draft().sent);
 }
 
+TEST_F(MenuTest, TheVeilOfARequestCanBeLeftAndItsAnswerFillsNothing) {
+    Menu menu(services);
+    NotificationCenter::shared().post(notification::visibilityVeilView, {{"show", true}});
+    EXPECT_FALSE(menu.isVeilLeavable()) << "a file that is being written is waited for";
+    menu.leaveVeil();
+    EXPECT_TRUE(menu.isVeilVisible());
+
+    configuration(menu)->editText("establishmentNameTextField", "Bar Olmo");
+    configuration(menu)->searchTEVOCodeAction();
+    EXPECT_TRUE(menu.isVeilVisible() && menu.isVeilLeavable());
+    menu.leaveVeil();
+    EXPECT_FALSE(menu.isVeilVisible() || menu.isVeilLeavable());
+    Customer other;
+    other.name = "Bar Otro";
+    network.requests.getCustomerDataFromTevoCode.succeed({other});
+    menu.buttonPushedAction(Menu::Products);
+    EXPECT_EQ(draft().customerInformation->name, "Bar Olmo");
+
+    // A place of which nothing is known is never answered.
+    menu.buttonPushedAction(Menu::Configuration);
+    configuration(menu)->locateDeviceAndFillFields();
+    EXPECT_TRUE(menu.isVeilLeavable());
+    menu.leaveVeil();
+    location.onReverseHandler(Placemark{"28001", "Madrid", "Madrid", {}}, std::nullopt);
+    EXPECT_FALSE(menu.isVeilVisible() || alerts.isVisible());
+}
+
 } // namespace
 } // namespace kavor

@@ -504,5 +504,47 @@ TEST_F(SendTest, ADocumentThatDoesNotComeInTimeFailsForGoodUntilItIsAskedForAgai
     EXPECT_TRUE(preview.source().isLocalFile() || preview.bytes() == "%PDF");
 }
 
+TEST_F(SendTest, AnAnswerToASendThatWasLeftChangesNothing) {
+    completeDraft();
+    TemporalBrochure::shared().write(draft());
+    open();
+    const auto leave = [&] {
+        EXPECT_TRUE(veil);
+        NotificationCenter::shared().post(notification::veilViewLeft);
+        EXPECT_FALSE(veil);
+    };
+    SaveBrochuresOrderResponse answer;
+    answer.orderId = 41;
+    answer.urlOrder = Url{"http://server.example/order/1"};
+    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
+
+    step->sendOrderAction();
+    leave();
+    EXPECT_EQ(alert(), "Atención | Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin "
+                       "cambiarlo, no se realizará dos veces.");
+    press("Aceptar");
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(step->isOrderSent());
+    EXPECT_TRUE(temporaryCopy());
+
+    step->previewAction();
+    leave();
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(previewed.isValid());
+
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    leave();
+    EXPECT_EQ(alert(), "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha "
+                       "podido sincronizar.");
+    EXPECT_EQ(sync.planned, 1);
+    press("Aceptar");
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(draft().orderIdentifier);
+    EXPECT_FALSE(alerts.isVisible());
+    NotificationCenter::shared().post(notification::veilViewLeft); // nothing is waited for
+    EXPECT_FALSE(alerts.isVisible());
+}
+
 } // namespace
 } // namespace kavor

@@ -69,7 +69,8 @@ private:
 class RecordingUrlOpener : public UrlOpener {
 public:
     QStringList opened;
-    bool openExternally(const QString& url) override { return opened.append(url), true; }
+    bool opens = true; // false: nothing on the device opens an address
+    bool openExternally(const QString& url) override { return opened.append(url), opens; }
 };
 
 class RecordingNotifications : public LocalNotifications {

@@ -36,6 +36,12 @@ QPointF middle(const QQuickItem* item) {
     return item->mapToScene({item->width() / 2, item->height() / 2});
 }
 
+// After a change of screen the client takes no press for a moment.
+bool takesPresses(const QQuickWindow& window) {
+    const QVariant open = window.property("takesPresses");
+    return !open.isValid() || open.toBool();
+}
+
 bool isFlickable(const QQuickItem* item) {
     return item->inherits("QQuickFlickable");
 }
@@ -119,7 +125,7 @@ void TouchDriver::tap(const QString& name) {
     // Lists make their rows anew while they filter, so the item is looked up until it stands still.
     waitUntil(QStringLiteral("\"%1\" within reach and enabled").arg(name), [&] {
         item = find(name);
-        if (!item || !item->isEnabled())
+        if (!item || !item->isEnabled() || !takesPresses(window_))
             return false;
         bringIntoView(item);
         return item && item == find(name) && isReachable(item);

@@ -131,4 +131,19 @@ TEST(StepMenu, KeepsItsEntriesAndTheFocusWhenTheModelIsReplaced) {
     }
 }
 
+TEST(Carousel, ItsButtonsStandBesideTheCards) {
+    for (const int width : {1024, 620, 390}) {
+        UiScene scene(QString::fromUtf8(kCarousel), {width, 400});
+        const auto* view = scene.item("styles")->property("view").value<QQuickItem*>();
+        for (const char* name : {"stylesPrevious", "stylesNext"}) {
+            if (const QQuickItem* button = scene.isOnShow(name) ? scene.item(name) : nullptr) {
+                EXPECT_FALSE(view->mapRectToScene(view->boundingRect())
+                                 .intersects(button->mapRectToScene(button->boundingRect())))
+                    << name << width;
+            }
+        }
+        EXPECT_EQ(scene.isOnShow("stylesNext"), width > 600) << width;
+    }
+}
+
 } // namespace kavor

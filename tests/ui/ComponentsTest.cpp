@@ -136,4 +136,26 @@ TEST(BannerHost, ShowsOneMessageAfterTheOther) {
     EXPECT_FALSE(host->property("shown").toBool());
 }
 
+TEST(Veil, OffersAWayOutByTapAndKeyboardWhenItStandsTooLong) {
+    UiScene scene(R"(
+        Veil { shown: true; leavable: true; text: "Enviando…"; onAbandoned: window.log = window.log.concat("left") }
+    )");
+    QQuickItem* veil = scene.item("veilView");
+    EXPECT_EQ(veil->property("patience"), 5000);
+    scene.key(Qt::Key_Escape);
+    EXPECT_FALSE(scene.isOnShow("wayOut")) << "not at once";
+    veil->setProperty("patience", 1);
+    ASSERT_NE(scene.item("wayOut"), nullptr);
+    scene.click("wayOut");
+    scene.key(Qt::Key_Escape);
+    scene.key(Qt::Key_Tab);
+    EXPECT_EQ(scene.focusName(), "wayOut");
+    scene.key(Qt::Key_Space);
+    EXPECT_EQ(scene.log(), QStringList({"left", "left", "left"}));
+    veil->setProperty("patience", 5000);
+    for (const bool shown : {false, true})
+        veil->setProperty("shown", shown);
+    EXPECT_FALSE(scene.isOnShow("wayOut")) << "each veil waits anew";
+}
+
 } // namespace kavor

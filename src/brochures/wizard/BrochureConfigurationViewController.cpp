@@ -212,15 +212,14 @@ void BrochureConfigurationViewController::searchTEVOCodeAction() {
         services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
         return;
     }
-    showVeil(true, "Buscando el cliente…");
     services_.network.getCustomerDataFromTevoCode(
-        tevo(), {this,
+        tevo(), {wait_.begin("Buscando el cliente…"),
                  [this](const std::vector<Customer>& customers) {
-                     showVeil(false);
+                     wait_.end();
                      fillFrom(customers);
                  },
                  [this](const RequestFailure& failure) {
-                     showVeil(false);
+                     wait_.end();
                      showRequestFailure({services_.alerts, services_.urls}, {}, failure, true,
                                         QStringLiteral("Incidencia"));
                  }});
@@ -243,34 +242,34 @@ void BrochureConfigurationViewController::fillFrom(const std::vector<Customer>& 
 }
 
 void BrochureConfigurationViewController::locateDeviceAndFillFields() {
-    showVeil(true, "Buscando la ubicación…");
-    startLocation();
+    startLocation(wait_.begin("Buscando la ubicación…"));
 }
 
-void BrochureConfigurationViewController::startLocation() {
+void BrochureConfigurationViewController::startLocation(QObject* run) {
     if (services_.location) {
-        services_.location->onReverseHandler = [self = QPointer(this)](const std::optional<Placemark>& place,
+        services_.location->onReverseHandler = [this,
+                                                guard = QPointer(run)](const std::optional<Placemark>& place,
                                                                        const std::optional<QString>& error) {
-            if (!self || (!place && !error))
+            if (!guard || (!place && !error))
                 return;
-            showVeil(false);
+            wait_.end();
             if (place)
-                return self->confirmPlace(*place);
-            self->services_.alerts.present(
+                return confirmPlace(*place);
+            services_.alerts.present(
                 dialogue(QStringLiteral("Error"),
                          QStringLiteral("No se ha podido obtener la localización. Habilite los permisos de "
                                         "ubicación para la app."),
                          {{QStringLiteral("Reintentar"), AlertButton::Role::Cancel},
                           {QStringLiteral("Cancelar"), AlertButton::Role::Normal}}),
-                self, [self](const AlertAnswer& answer) {
+                this, [this](const AlertAnswer& answer) {
                     if (answer.button == 0)
-                        self->locateDeviceAndFillFields();
+                        locateDeviceAndFillFields();
                 });
         };
         if (services_.location->start())
             return;
     }
-    showVeil(false);
+    wait_.end();
     services_.alerts.inform({}, QStringLiteral("No se puede utilizar la ubicación, está deshabilitada."));
 }
 

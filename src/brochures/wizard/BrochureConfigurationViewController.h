@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brochures/wizard/CustomerForm.h"
+#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardStep.h"
 #include "catalogue/Brochures.h"
 
@@ -192,12 +193,13 @@ private:
     void commit();
     void allTextsChanged();
     void fillFrom(const std::vector<Customer>& customers);
-    void startLocation();
+    void startLocation(QObject* run);
     void confirmPlace(const Placemark& place);
     void setLogo(std::string dataText);
     void tellAboutDemand();
 
     WizardServices services_;
+    VeiledRun wait_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> draft_;
     std::optional<BrochureType> type_;

@@ -83,5 +83,10 @@ FocusScope {
         anchors.fill: parent
     }
 
-    Veil { shown: view.controller.veilVisible; text: view.controller.veilText }
+    Veil {
+        shown: view.controller.veilVisible
+        text: view.controller.veilText
+        leavable: view.controller.veilLeavable
+        onAbandoned: view.controller.leaveVeil()
+    }
 }

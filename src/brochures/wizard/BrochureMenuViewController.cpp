@@ -8,9 +8,11 @@
 #include "brochures/wizard/BrochureSendViewController.h"
 #include "brochures/wizard/BrochureStyleSelectorViewController.h"
 #include "brochures/wizard/StepSupport.h"
+#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
 #include "catalogue/OwnBrand.h"
+#include "device/PressGuard.h"
 #include "device/Reachability.h"
 #include "network/ServiceOperations.h"
 #include "shell/AppSingleton.h"
@@ -59,6 +61,12 @@ const Entry* entryOf(int button) {
             return &entry;
     }
     return nullptr;
+}
+
+bool isOn(const NotificationInfo& info, const char* key) {
+    const auto entry = info.find(key);
+    const bool* value = entry == info.end() ? nullptr : std::get_if<bool>(&entry->second);
+    return value && *value;
 }
 
 QString styleCaption(BrochureType type) {
@@ -110,14 +118,12 @@ void BrochureMenuViewController::viewDidLoad() {
 void BrochureMenuViewController::viewDidAppear() {
     appeared_ = true;
     auto& center = NotificationCenter::shared();
-    observers_.push_back(
-        center.observe(notification::visibilityVeilView, [this](const NotificationInfo& info) {
-            const auto show = info.find("show");
-            const bool* visible = show == info.end() ? nullptr : std::get_if<bool>(&show->second);
-            const auto text = info.find("text");
-            const auto* words = text == info.end() ? nullptr : std::get_if<std::string>(&text->second);
-            setVeilVisible(visible && *visible, words ? fromUtf8(*words) : QString());
-        }));
+    observers_.push_back(center.observe(notification::visibilityVeilView, [this](
+                                                                              const NotificationInfo& info) {
+        const auto text = info.find("text");
+        const auto* words = text == info.end() ? nullptr : std::get_if<std::string>(&text->second);
+        setVeil(isOn(info, "show"), isOn(info, VeiledRun::leavable), words ? fromUtf8(*words) : QString());
+    }));
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
                        [this](const NotificationInfo&) { alreadyDismissedPreferredBrandsBanner_ = true; }));
@@ -155,6 +161,7 @@ void BrochureMenuViewController::showStep(int wizardStep) {
         takeAsSent(*BrochureIntermediateData::temporalBrochure());
     emit activeStepChanged();
     emit subtitleChanged();
+    NotificationCenter::shared().post(notification::viewChanged);
     if (former) {
         former->disconnect(this);
         former->deleteLater(); // after its view, which went in the line above
@@ -313,15 +320,21 @@ void BrochureMenuViewController::closePreview() {
     emit previewChanged();
 }
 
-void BrochureMenuViewController::setVeilVisible(bool visible, const QString& text) {
+void BrochureMenuViewController::setVeil(bool visible, bool leavable, const QString& text) {
     if (visible && text != veilText_) { // a veil that goes keeps its words until it is gone
         veilText_ = text;
         emit veilTextChanged();
     }
-    if (veilVisible_ == visible)
+    if (veilVisible_ == visible && veilLeavable_ == leavable)
         return;
     veilVisible_ = visible;
+    veilLeavable_ = leavable;
     emit veilVisibleChanged();
+}
+
+void BrochureMenuViewController::leaveVeil() {
+    if (veilLeavable_)
+        NotificationCenter::shared().post(notification::veilViewLeft);
 }
 
 QString BrochureMenuViewController::title() const {

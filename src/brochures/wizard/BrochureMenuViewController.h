@@ -36,6 +36,8 @@ class BrochureMenuViewController : public QObject {
     Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
     // What the veil waits for; empty when its poster does not say.
     Q_PROPERTY(QString veilText READ veilText NOTIFY veilTextChanged)
+    // Whether what the veil waits for can be left.
+    Q_PROPERTY(bool veilLeavable READ isVeilLeavable NOTIFY veilVisibleChanged)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
     // The document on show over the wizard, null when there is none.
     Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
@@ -72,6 +74,7 @@ public:
     [[nodiscard]] WizardStepViewController* activeViewController() const { return activeViewController_; }
     [[nodiscard]] bool isVeilVisible() const { return veilVisible_; }
     [[nodiscard]] QString veilText() const { return veilText_; }
+    [[nodiscard]] bool isVeilLeavable() const { return veilLeavable_; }
     [[nodiscard]] bool isOffline() const;
     [[nodiscard]] WebPreviewViewController* preview() const { return preview_; }
     [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }
@@ -80,6 +83,8 @@ public:
     Q_INVOKABLE void buttonPushedAction(int index);
     // Closes the wizard at once.
     Q_INVOKABLE void closeSceneAction();
+    // The user waits no longer for what the veil stands for.
+    Q_INVOKABLE void leaveVeil();
     // Shows a document over the wizard.
     void showPreview(const QUrl& document);
     // Saves the step on show and the temporary copy, as when the wizard goes off the screen.
@@ -108,7 +113,7 @@ private:
     void select(int index);
     void askForReset();
     void reset();
-    void setVeilVisible(bool visible, const QString& text);
+    void setVeil(bool visible, bool leavable, const QString& text);
     void previewFromConfiguration();
     void closePreview();
     void connectStep(WizardStepViewController* step);
@@ -128,6 +133,7 @@ private:
     CatalogueCopy catalogueToReset_; // made while the user is asked
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool veilVisible_ = false;
+    bool veilLeavable_ = false;
     bool appeared_ = false;
     bool loadingStep_ = false;
     bool askingAboutSentOrder_ = false;

@@ -69,6 +69,8 @@ FocusScope {
                 Qt.callLater(positionViewAtBeginning); // qmllint disable
         }
 
+        FocusFollower { view: list }
+
         header: Item {
             width: list.width
             height: intro.implicitHeight + 2 * Theme.spaceM

@@ -7,7 +7,7 @@
 #include "brochures/wizard/WizardAlerts.h"
 #include "catalogue/Catalogue.h"
 #include "device/Background.h"
-#include "device/UrlOpener.h"
+#include "device/OpenLink.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/OrderDiskManager.h"
@@ -116,7 +116,7 @@ void BrochureSendViewController::sendOrder(bool printedMyself) {
     draft_->printedMyself = printedMyself;
     emit editingShouldEnd();
     if (draft_->sent) {
-        services_.urls.openExternally(orderURL().toString(QUrl::FullyEncoded));
+        openLink(services_.urls, services_.alerts, orderURL().toString(QUrl::FullyEncoded));
         return;
     }
     checkAndSend(OrderRequestType::sendToPrint);
@@ -158,13 +158,13 @@ void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QSt
 void BrochureSendViewController::send(OrderRequestType type) {
     if (!services_.network.isReachable())
         return sendOffline(type);
-    showVeil(true, veilText(type));
     const Order order = draft_->makeOrder(type, type != OrderRequestType::saveCloud);
     const QByteArray key = send_intent::keyFor(draft_->unansweredSends, order);
     autosave(draft_); // the key outlives the process
     services_.network.saveOrder(
         order,
-        {this, [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
+        {wait_.begin(veilText(type), [this, type] { left(type); }),
+         [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
          [this, order](const RequestFailure& failure) { failed(order, failure); }},
         key);
 }
@@ -193,7 +193,7 @@ void BrochureSendViewController::sendOffline(OrderRequestType type) {
 
 void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const RequestFailure& failure) {
     const OrderRequestType type = order.save;
-    showVeil(false);
+    wait_.end();
     if (!send_intent::isAnswerLost(failure))
         endIntent(order);
     showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
@@ -201,12 +201,33 @@ void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const R
         services_.sync.startOrderSync();
 }
 
+// The same as a lost answer: the order may have been made, and its key stays for the next send.
+void BrochureSendViewController::left(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        services_.alerts.inform(
+            QStringLiteral("Atención"),
+            QStringLiteral(
+                "Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin cambiarlo, "
+                "no se realizará dos veces."));
+        return;
+    case OrderRequestType::sendPreview:
+        return;
+    case OrderRequestType::saveCloud:
+        services_.alerts.inform(
+            QStringLiteral("Guardado sólo localmente"),
+            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
+        services_.sync.startOrderSync();
+        return;
+    }
+}
+
 // ---- Answers
 // ---------------------------------------------------------------------------------------------------
 
 void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
                                       const SaveBrochuresOrderResponse& response) {
-    showVeil(false);
+    wait_.end();
     // An order that was taken without saying where it is may be sent again, and is still the same one.
     if (order.save != OrderRequestType::sendToPrint || response.urlOrder)
         endIntent(order);

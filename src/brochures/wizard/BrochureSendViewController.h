@@ -2,6 +2,7 @@
 
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/wizard/BrochureSendSummary.h"
+#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardStep.h"
 #include "catalogue/Brochures.h"
 
@@ -127,6 +128,7 @@ private:
     void sent(const SaveBrochuresOrder& order, const SaveBrochuresOrderResponse& response);
     void printed(const SaveBrochuresOrderResponse& response);
     void savedInCloud(const SaveBrochuresOrderResponse& response);
+    void left(OrderRequestType type);
     void failed(const SaveBrochuresOrder& order, const RequestFailure& failure);
     void queueOffline();
     void noteQueued(const KeptOrder& order, const std::string& fileName);
@@ -137,6 +139,7 @@ private:
     void setMissing(const QStringList& sentences);
 
     WizardServices services_;
+    VeiledRun wait_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> draft_;
     std::optional<BrochureType> type_;

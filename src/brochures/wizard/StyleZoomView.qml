@@ -95,9 +95,15 @@ T.Popup {
         Flickable {
             id: flick
 
+            // The buttons have a margin of their own, at the sides of a wide window and at the foot of a tall one.
+            readonly property bool wide: parent.width > parent.height
+            readonly property real side: wide && leftButton.visible ? Theme.touch + 2 * Theme.spaceS : 0
+
             anchors.top: head.bottom
             anchors.bottom: parent.bottom
-            width: parent.width
+            anchors.bottomMargin: !wide && leftButton.visible ? Theme.touch + 2 * Theme.spaceS : 0
+            x: side
+            width: parent.width - 2 * side
             contentWidth: page.width
             contentHeight: page.height
             clip: true
@@ -131,10 +137,12 @@ T.Popup {
         }
 
         IconButton {
+            id: leftButton
+
             objectName: "leftButton"
             anchors.left: parent.left
             anchors.leftMargin: Theme.spaceS
-            anchors.verticalCenter: flick.verticalCenter
+            y: flick.wide ? flick.y + (flick.height - height) / 2 : parent.height - height - Theme.spaceS
             visible: (view.controller?.count ?? 0) > 1
             enabled: view.controller?.hasLeft ?? false
             framed: true
@@ -146,7 +154,7 @@ T.Popup {
             objectName: "rightButton"
             anchors.right: parent.right
             anchors.rightMargin: Theme.spaceS
-            anchors.verticalCenter: flick.verticalCenter
+            y: leftButton.y
             visible: (view.controller?.count ?? 0) > 1
             enabled: view.controller?.hasRight ?? false
             framed: true

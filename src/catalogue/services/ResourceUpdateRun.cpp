@@ -5,6 +5,8 @@
 #include "catalogue/services/FontUpdater.h"
 #include "device/Prefetcher.h"
 
+#include <QPointer>
+
 #include <memory>
 #include <utility>
 #include <vector>
@@ -59,12 +61,14 @@ void ResourceUpdateRun::start(const ApplicationInformation& catalogue, const Pro
     };
     auto typographies =
         catalogue.textile ? catalogue.textile->typographies : std::vector<Textile::Typography>();
-    const auto goOn = [this, typographies](const auto&, const auto&, const auto&) {
-        fonts_.update(typographies, [&notifications = notifications_] {
-            notifications.post(notification::updatingResourcesDidEnd);
+    QObject* run = run_.begin();
+    const auto goOn = [this, typographies, guard = QPointer(run)](const auto&, const auto&, const auto&) {
+        fonts_.update(typographies, [guard, &notifications = notifications_] {
+            if (guard)
+                notifications.post(notification::updatingResourcesDidEnd);
         });
     };
-    launch(new Prefetcher(cache_, std::move(waitedFor), advance, goOn, this), Lane::Ahead);
+    launch(new Prefetcher(cache_, std::move(waitedFor), advance, goOn, run), Lane::Ahead);
     launch(new Prefetcher(cache_, ofType(catalogue.images, inBackground), {}, {}, this), Lane::Background);
 }
 

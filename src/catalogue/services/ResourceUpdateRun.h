@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/PendingRun.h"
+
 #include <QObject>
 #include <QString>
 
@@ -27,6 +29,9 @@ public:
     // Starts a run over a catalogue, of which nothing is kept. Progress begins with 0 inside this call.
     void start(const ApplicationInformation& catalogue, const Progress& progress);
 
+    // The run is waited for no longer: the pictures with progress stop, and nothing is told of its end.
+    void leave() { run_.end(); }
+
     // "Actualizando imágenes 3/12"
     [[nodiscard]] static QString label(int count, int total);
     // The position of the progress indicator, from two thirds to one.
@@ -40,6 +45,7 @@ private:
     ImageCache& cache_;
     FontUpdater& fonts_;
     NotificationCenter& notifications_;
+    PendingRun run_;
 };
 
 } // namespace kavor

@@ -170,15 +170,15 @@ void drawShelf(QPainter& p, const QRectF& area, const Palette& colours, std::spa
     const double height = unit * 0.74;
     const double width = height * 0.30;
     const double step = width * 1.5;
-    const double stop =
-        area.left() + area.width() * (area.width() > area.height() * 1.5 ? 0.56 : 0.0) - width;
+    const bool calm = area.width() > area.height() * 1.5;
+    const double stop = area.left() + (calm ? area.width() * 0.56 : -width);
 
     p.fillRect(area, colours.ground);
     p.setPen(Qt::NoPen);
     p.setBrush(colours.glow);
     p.drawEllipse(QPointF(area.right() - unit * 0.9, floor), unit * 1.15, unit * 0.95);
     p.setBrush(colours.far);
-    for (int i = 0; area.right() - i * step > stop; ++i) {
+    for (int i = 0; area.right() - i * step - width * 1.6 > stop; ++i) {
         const double tall = height * (i % 3 == 0 ? 1.02 : i % 3 == 1 ? 0.84 : 0.93);
         p.drawPath(longneck({area.right() - i * step - width * 1.6, floor - tall, width * 0.86, tall}));
     }

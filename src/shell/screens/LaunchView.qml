@@ -2,11 +2,17 @@ import QtQuick
 import Kavor.Screens
 import Kavor.Ui
 
-// While the automatic login runs.
+// While the automatic login runs; who has waited too long can leave it.
 FocusScope {
     id: view
 
+    required property LaunchViewController controller
+
     objectName: "launchView"
+    Keys.onEscapePressed: {
+        if (wayOut.visible)
+            wayOut.trigger();
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -37,6 +43,13 @@ FocusScope {
             width: 36
             height: 36
             running: view.visible
+        }
+        WayOut {
+            id: wayOut
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            waiting: view.visible
+            onClicked: view.controller.cancelAction()
         }
     }
 }

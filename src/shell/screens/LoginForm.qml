@@ -8,7 +8,18 @@ FocusScope {
 
     required property LoginViewController controller
 
+    // Where typing goes on: the first empty field, or the button when nothing is missing.
+    function focusFirstEmpty(): void {
+        if (controller.email === "")
+            emailField.forceActiveFocus();
+        else if (controller.password === "")
+            passwordField.forceActiveFocus();
+        else
+            loginButton.forceActiveFocus();
+    }
+
     implicitHeight: column.implicitHeight
+    Component.onCompleted: focusFirstEmpty()
 
     Connections {
         target: form.controller
@@ -18,6 +29,8 @@ FocusScope {
                 emailField.text = form.controller.email;
             if (passwordField.text !== form.controller.password)
                 passwordField.text = form.controller.password;
+            if (loginButton.activeFocus) // what it waited for may be gone
+                form.focusFirstEmpty();
         }
         function onPasswordResigned(): void {
             if (passwordField.activeFocus)
@@ -67,7 +80,6 @@ FocusScope {
 
             objectName: "emailTextField"
             width: parent.width
-            focus: true
             label: "Usuario"
             icon: "user"
             inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText

@@ -69,6 +69,7 @@ FocusScope {
         margin: Theme.compact ? Theme.pageMargin : Math.max(Theme.pageMargin, (height - 520) / (view.wide ? 2 : 4))
 
         LoginForm {
+            focus: true
             implicitWidth: page.width < 420 + 2 * page.margin ? page.width - 2 * page.margin : 420
             controller: view.controller
         }
@@ -83,5 +84,11 @@ FocusScope {
         color: Theme.mutedInk
         font.family: Theme.fontFamily
         font.pixelSize: Theme.fontSmall
+    }
+    Veil {
+        shown: view.controller.veilShown
+        text: "Iniciando sesión"
+        leavable: true
+        onAbandoned: view.controller.cancelLoginAction()
     }
 }

@@ -2,7 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "device/AlertPresenter.h"
-#include "device/UrlOpener.h"
+#include "device/OpenLink.h"
 #include "device/UserDefaults.h"
 #include "network/AuthManager.h"
 #include "network/ServiceOperations.h"
@@ -68,7 +68,12 @@ void LoginViewController::loginWithToken() {
     const auto& token = services_.session.autoLoginToken;
     if (!user || !token)
         return;
-    setEmail(QString::fromStdString(*user));
+    if (services_.network.isReachable())
+        emit urlLoginBegins();
+    const QString name = QString::fromStdString(*user);
+    if (name != email_)
+        setPassword({}); // it was typed for somebody else
+    setEmail(name);
     performLogin(email_, std::nullopt, QString::fromStdString(*token));
 }
 
@@ -80,7 +85,10 @@ void LoginViewController::performLogin(const QString& login, const std::optional
         return;
     }
     setLoggingIn(true);
+    passwordUsed_ = password.has_value();
+    QObject* context = login_.begin();
     const auto failed = [this](const RequestFailure& failure) {
+        login_.end();
         setLoginEnabled(true);
         showRequestFailure(
             {services_.alerts, services_.urls}, [this] { setLoggingIn(false); }, failure, true,
@@ -89,12 +97,13 @@ void LoginViewController::performLogin(const QString& login, const std::optional
         setLoggingIn(false);
     };
     services_.network.login({login, password, token},
-                            {this, [this](const LoginResult& result) { loginSucceeded(result); }, failed});
+                            {context, [this](const LoginResult& result) { loginSucceeded(result); }, failed});
 }
 
 void LoginViewController::loginSucceeded(const LoginResult& result) {
     if (!result.token)
         stopProcess("token in the login answer");
+    login_.end();
     setLoggingIn(false);
     services_.network.setAccessToken(QString::fromStdString(*result.token));
     rememberCredentials();
@@ -105,10 +114,21 @@ void LoginViewController::loginSucceeded(const LoginResult& result) {
     emit showUserApplications();
 }
 
+void LoginViewController::cancelLoginAction() {
+    if (!login_.isUnderWay())
+        return;
+    login_.end();
+    setLoginEnabled(true);
+    setLoggingIn(false);
+}
+
 void LoginViewController::rememberCredentials() {
     if (!rememberPassword_)
         return; // nothing is deleted here
     const std::string account = email_.toStdString();
+    // Logged in by a token, the same user keeps the remembered password: it repairs an expired session.
+    if (!passwordUsed_ && retrievedCredentials_ && retrievedCredentials_->account == account)
+        return;
     const std::string password = password_.toStdString();
     const std::string token = services_.network.accessToken().toStdString();
     if (!retrievedCredentials_) {
@@ -133,7 +153,7 @@ void LoginViewController::rememberPasswordSwitchValueChangedAction(bool on) {
 }
 
 void LoginViewController::resetPasswordAction() {
-    services_.urls.openExternally(services_.network.forgotPasswordUrl());
+    openLink(services_.urls, services_.alerts, services_.network.forgotPasswordUrl());
 }
 
 // The same action as for a forgotten password, on purpose.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
+#include "device/PendingRun.h"
 #include "network/ShowRequestFailure.h"
 
 #include <QObject>
@@ -52,6 +53,8 @@ public:
     void setPassword(const QString& password);
 
     Q_INVOKABLE void loginAction();
+    // Leaves the login under way; its answer changes nothing any more.
+    Q_INVOKABLE void cancelLoginAction();
     Q_INVOKABLE void rememberPasswordSwitchValueChangedAction(bool on);
     Q_INVOKABLE void resetPasswordAction();
     Q_INVOKABLE void activateUserAction();
@@ -66,6 +69,8 @@ signals:
     void veilShownChanged();
     // The password field gives up the focus.
     void passwordResigned();
+    // A login by an opened address starts now; the form is to be on show.
+    void urlLoginBegins();
     // The way to the dashboard, which then downloads the catalogue at once.
     void showUserApplications();
 
@@ -91,6 +96,8 @@ private:
     bool rememberPassword_ = false;
     bool loginEnabled_ = true;
     bool loggingIn_ = false;
+    bool passwordUsed_ = false; // by the last login
+    PendingRun login_;
     std::optional<Retrieved> retrievedCredentials_;
 };
 

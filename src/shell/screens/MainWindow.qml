@@ -14,6 +14,13 @@ AppWindow {
     minimumWidth: 320
     minimumHeight: 480
     onClosing: root.reportWindowClosed()
+    onActiveFocusItemChanged: Qt.callLater(keepFocus) // qmllint disable
+
+    // The keyboard always works on something: what had the focus before a dialogue may be gone.
+    function keepFocus(): void {
+        if (!activeFocusItem || activeFocusItem === contentItem)
+            topScreen?.forceActiveFocus();
+    }
 
     Repeater {
         id: stack
@@ -34,6 +41,7 @@ AppWindow {
             focus: onTop
             Component.onCompleted: controller ? setSource(view, { controller: controller }) : setSource(view)
             onLoaded: {
+                item.focus = true;
                 if (onTop)
                     forceActiveFocus();
             }

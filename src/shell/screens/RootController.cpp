@@ -3,6 +3,7 @@
 #include "device/AlertPresenter.h"
 #include "device/LocalNotifications.h"
 #include "shell/AppSingleton.h"
+#include "shell/screens/LaunchViewController.h"
 #include "shell/screens/Screens.h"
 
 #include <QQuickWindow>
@@ -14,7 +15,12 @@ namespace kavor {
 
 RootController::RootController(Services services, QObject* parent)
     : QObject(parent)
-    , services_(std::move(services)) {
+    , services_(std::move(services))
+    , presses_(services_.welcome.clock) {
+    connect(&screens_, &ScreenStack::rowsInserted, &presses_, &PressGuard::screenChanged);
+    connect(&screens_, &ScreenStack::rowsRemoved, &presses_, &PressGuard::screenChanged);
+    viewChanged_ = services_.welcome.notifications.observe(
+        notification::viewChanged, [this](const NotificationInfo&) { presses_.screenChanged(); });
     connect(&services_.application, &AppDelegate::rootSet, this, &RootController::setRoot);
     connect(&services_.notifications, &LocalNotifications::bannerWanted, this,
             [this](int number, const QString& title, const QString& body) {
@@ -27,6 +33,7 @@ RootController::RootController(Services services, QObject* parent)
 void RootController::setWindow(QQuickWindow* window, bool animated) {
     window_ = window;
     animated_ = animated;
+    presses_.watch(window);
 }
 
 QObject* RootController::alerts() const {
@@ -66,12 +73,13 @@ Screen RootController::makeRoot(AppDelegate::RootKind kind) {
     case AppDelegate::RootKind::Launch:
         break;
     }
-    return {screenView("LaunchView"), nullptr};
+    return {screenView("LaunchView"), new LaunchViewController(services_.application, this)};
 }
 
 Screen RootController::makeLogin() {
     login_ = new LoginViewController(services_.login, this);
     connect(login_, &LoginViewController::showUserApplications, this, &RootController::showUserApplications);
+    connect(login_, &LoginViewController::urlLoginBegins, this, &RootController::cutToLogin);
     return {screenView("LoginView"), login_};
 }
 
@@ -98,6 +106,16 @@ void RootController::showUserApplications() {
     welcome_->downloadApplicationInformation = true;
     welcome_->viewWillAppear();
     login_->viewWillDisappear();
+}
+
+// Whoever was logged in leaves first: two dashboards above each other would both send what is asked of one.
+void RootController::cutToLogin() {
+    if (!screens_.top() || screens_.top()->controller == login_)
+        return;
+    if (welcome_)
+        welcome_->cancelUpdateAction();
+    if (screens_.removeAbove(login_))
+        login_->unwindToLoginView();
 }
 
 void RootController::openSection(const QString& transition) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/NotificationCenter.h"
+#include "device/PressGuard.h"
 #include "shell/screens/LoginViewController.h"
 #include "shell/screens/ScreenStack.h"
 #include "shell/screens/WelcomeViewController.h"
@@ -9,6 +11,7 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 
@@ -50,6 +53,9 @@ public:
     // The window whose picture a transition shows; without one, or without animation, roots change at once.
     void setWindow(QQuickWindow* window, bool animated);
 
+    // The platform's time between the halves of a double press; zero until it is told.
+    void setDoublePressInterval(std::chrono::milliseconds interval) { presses_.setInterval(interval); }
+
     [[nodiscard]] QAbstractItemModel* screens() { return &screens_; }
     [[nodiscard]] QObject* alerts() const;
     [[nodiscard]] QVariant snapshot() const { return snapshot_; }
@@ -79,10 +85,13 @@ private:
     [[nodiscard]] Screen makeWelcome();
     [[nodiscard]] Screen makeAllOrders();
     void showUserApplications();
+    void cutToLogin();
     void openSection(const QString& transition);
     void takeSnapshot();
 
     Services services_;
+    PressGuard presses_;
+    NotificationCenter::Subscription viewChanged_;
     ScreenStack screens_;
     QPointer<QQuickWindow> window_;
     QPointer<WelcomeViewController> welcome_;

@@ -19,6 +19,14 @@ void ScreenStack::remove(const QObject* controller) {
         truncate(int(found - screens_.begin()));
 }
 
+bool ScreenStack::removeAbove(const QObject* controller) {
+    const auto found = std::ranges::find(screens_, controller, &Screen::controller);
+    if (found == screens_.end())
+        return false;
+    truncate(int(found - screens_.begin()) + 1);
+    return true;
+}
+
 void ScreenStack::replaceAll(const Screen& screen) {
     truncate(0);
     push(screen);

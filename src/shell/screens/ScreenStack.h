@@ -25,6 +25,8 @@ public:
     void push(const Screen& screen);
     // Removes the screen of this controller and all above it; a controller that is not there is no fault.
     void remove(const QObject* controller);
+    // Removes all screens above the one of this controller; false, and nothing changes, when it is not there.
+    bool removeAbove(const QObject* controller);
     // Makes a screen the only one.
     void replaceAll(const Screen& screen);
     [[nodiscard]] const Screen* top() const { return screens_.empty() ? nullptr : &screens_.back(); }

@@ -9,6 +9,7 @@ FocusScope {
     required property WelcomeViewController controller
 
     objectName: "welcomeView"
+    Keys.onPressed: (event) => event.accepted = tiles.step(event.key)
 
     Rectangle {
         anchors.fill: parent
@@ -41,6 +42,7 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
+        FocusFollower { view: scroll }
         Column {
             id: content
 
@@ -53,6 +55,8 @@ FocusScope {
                 controller: view.controller
             }
             ButtonsContainerView {
+                id: tiles
+
                 x: Theme.pageMargin
                 width: parent.width - 2 * x
                 controller: view.controller
@@ -106,5 +110,7 @@ FocusScope {
         shown: view.controller.progressVeilShown
         text: view.controller.progressMessage
         progress: view.controller.progress
+        leavable: true
+        onAbandoned: view.controller.cancelUpdateAction()
     }
 }

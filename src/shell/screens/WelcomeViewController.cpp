@@ -75,7 +75,11 @@ void WelcomeViewController::observe() {
                 onMainQueue([this, reaction] { (this->*reaction)(); });
             }));
     };
-    on(notification::updatingResourcesDidEnd, &WelcomeViewController::tryToUploadOrders);
+    subscriptions_.push_back(services_.notifications.observe(
+        notification::updatingResourcesDidEnd, [this](const NotificationInfo&) {
+            QMetaObject::invokeMethod(
+                waiting(), [this] { tryToUploadOrders(); }, Qt::QueuedConnection);
+        }));
     on(notification::needToUpdateResources, &WelcomeViewController::updateUserInformation);
     on(notification::reloadOrders, &WelcomeViewController::countUnsentOrders);
     connect(&services_.catalogue, &CatalogueUpdate::progressChanged, this,
@@ -112,6 +116,26 @@ bool WelcomeViewController::isOffline() const {
 
 int WelcomeViewController::columns(int total, bool landscape) const {
     return welcomeColumns(total, landscape);
+}
+
+int WelcomeViewController::tileAfter(int index, int key, int columns) const {
+    const int total = int(welcomeButtons_.size());
+    const auto tile = [total](int wanted) { return wanted >= 0 && wanted < total ? wanted : -1; };
+    switch (key) {
+    case Qt::Key_Left:
+        return index < 0 ? -1 : tile(index - 1);
+    case Qt::Key_Right:
+    case Qt::Key_Home:
+        return tile(key == Qt::Key_Home ? 0 : index + 1);
+    case Qt::Key_Up:
+        return index < 0 ? -1 : tile(index - columns);
+    case Qt::Key_Down:
+        return tile(index < 0 ? 0 : index + columns);
+    case Qt::Key_End:
+        return tile(total - 1);
+    default:
+        return -1;
+    }
 }
 
 void WelcomeViewController::viewWillAppear() {
@@ -155,7 +179,7 @@ void WelcomeViewController::updateInfoapp() {
 
 void WelcomeViewController::updateUserInformation() {
     setProgress(0, QString::fromUtf8(CatalogueUpdate::updatingText));
-    showVeil(true);
+    beginRun();
     const auto answered = [this](const LoginResult& rights) {
         setProgress(1.0 / 3, {});
         services_.session.loginResult = rights;
@@ -169,13 +193,32 @@ void WelcomeViewController::updateUserInformation() {
         showRequestFailure(
             {services_.alerts, services_.urls}, [this] { showVeil(false); }, failure, true, serverTrouble);
     };
-    services_.network.userInformation({this, answered, failed});
+    services_.network.userInformation({run_.context(), answered, failed});
 }
 
 void WelcomeViewController::fetchCatalogue() {
     setProgress(progress_, QString::fromUtf8(CatalogueUpdate::updatingText));
-    showVeil(true);
+    if (!run_.isUnderWay())
+        beginRun();
     services_.catalogue.start();
+}
+
+void WelcomeViewController::beginRun() {
+    run_.begin();
+    showVeil(true);
+}
+
+void WelcomeViewController::cancelUpdateAction() {
+    if (!run_.isUnderWay())
+        return;
+    services_.catalogue.leave();
+    uploadProgress_ = {};
+    uploadManager_.reset();
+    uploadDispatchGroup_.reset();
+    downloadApplicationInformation = false; // the user asks for it again
+    showVeil(false);
+    if (!services_.session.applicationInformation) // nothing can be ordered without any
+        services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation);
 }
 
 void WelcomeViewController::catalogueFetchFailed(const QStringList& messages) {
@@ -233,12 +276,12 @@ void WelcomeViewController::tryToUploadOrders() {
         uploadDispatchGroup_ = std::make_shared<DispatchGroup>();
         for (std::size_t i = 0; i < orders.size(); ++i)
             uploadDispatchGroup_->enter();
-        uploadDispatchGroup_->notify(this, [this] { showVeil(false); });
+        uploadDispatchGroup_->notify(waiting(), [this] { showVeil(false); });
         uploadOrders(std::move(orders), uploadDispatchGroup_);
     };
     if (wanted)
         runInBackground(
-            this, [disk = &services_.orders] { return readOrders(*disk); }, send);
+            waiting(), [disk = &services_.orders] { return readOrders(*disk); }, send);
     else
         send({});
 }
@@ -313,6 +356,8 @@ void WelcomeViewController::setProgress(double progress, const QString& message)
 }
 
 void WelcomeViewController::showVeil(bool shown) {
+    if (!shown)
+        run_.end();
     if (std::exchange(progressVeilShown_, shown) != shown)
         emit progressChanged();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
+#include "device/PendingRun.h"
 #include "network/ShowRequestFailure.h"
 #include "shell/services/OrderUploadManager.h"
 
@@ -83,8 +84,13 @@ public:
     [[nodiscard]] QString unsentOrders() const { return unsentOrders_; }
 
     Q_INVOKABLE int columns(int total, bool landscape) const;
+    // The tile that a key of the keyboard leads to from another one (-1: from none); -1 when it leads
+    // nowhere.
+    Q_INVOKABLE int tileAfter(int index, int key, int columns) const;
     Q_INVOKABLE void openSection(int identifier);
     Q_INVOKABLE void updateInfoapp();
+    // Leaves the refresh under way; what was under way changes nothing any more.
+    Q_INVOKABLE void cancelUpdateAction();
     Q_INVOKABLE void logout();
     Q_INVOKABLE void dismissNotificationsAction();
 
@@ -106,6 +112,9 @@ private:
     void observe();
     void onMainQueue(std::function<void()> work);
     void updateUserInformation();
+    void beginRun();
+    // What hears only as long as the refresh is waited for.
+    [[nodiscard]] QObject* waiting() { return run_.isUnderWay() ? run_.context() : this; }
     void fetchCatalogue();
     void catalogueFetchFailed(const QStringList& messages);
     void refreshNotifications();
@@ -124,6 +133,7 @@ private:
     NotificationCenter::Subscription uploadProgress_;
     std::shared_ptr<DispatchGroup> uploadDispatchGroup_;
     std::unique_ptr<OrderUploadManager> uploadManager_;
+    PendingRun run_;
     bool progressVeilShown_ = false;
     QString progressMessage_;
     double progress_ = 0;

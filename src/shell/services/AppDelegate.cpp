@@ -105,12 +105,20 @@ void AppDelegate::logInAutomatically(const LoginParameters& parameters) {
     const auto loggedIn = [this](const LoginResult& answer) {
         // The access token stays as it was read from the store; only the login form takes the answer's. It is
         // meant.
+        automaticLogin_.end();
         services_.session.loginResult = answer;
         setRoot(RootKind::MainNavigation);
         services_.notifications.post(notification::needToUpdateResources);
     };
-    services_.network.login(parameters,
-                            {this, loggedIn, [this](const RequestFailure&) { fallBackToRestoredSession(); }});
+    services_.network.login(parameters, {automaticLogin_.begin(), loggedIn,
+                                         [this](const RequestFailure&) { leaveAutomaticLogin(); }});
+}
+
+void AppDelegate::leaveAutomaticLogin() {
+    if (!automaticLogin_.isUnderWay())
+        return;
+    automaticLogin_.end();
+    fallBackToRestoredSession();
 }
 
 void AppDelegate::fallBackToRestoredSession() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/PendingRun.h"
+
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
@@ -67,6 +69,9 @@ public:
     // Decides the first screen.
     void loadIntoInitialViewController();
 
+    // The user waits no longer for the automatic login: as if it had failed, and its answer changes nothing.
+    void leaveAutomaticLogin();
+
     void didEnterBackground();
     void willEnterForeground();
     void willTerminate();
@@ -94,6 +99,7 @@ private:
 
     Services services_;
     std::optional<RootKind> root_;
+    PendingRun automaticLogin_;
 };
 
 } // namespace kavor

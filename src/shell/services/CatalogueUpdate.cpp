@@ -23,7 +23,7 @@ CatalogueUpdate::CatalogueUpdate(const Services& services, QObject* parent)
 
 void CatalogueUpdate::start() {
     services_.network.appInformation(
-        {this, [this](const std::shared_ptr<const Catalogue>& fetched) { arrived(fetched); },
+        {run_.begin(), [this](const std::shared_ptr<const Catalogue>& fetched) { arrived(fetched); },
          [this](const RequestFailure& failure) { emit failed(failure.messages.value_or(QStringList())); }});
 }
 
@@ -33,7 +33,7 @@ void CatalogueUpdate::arrived(const std::shared_ptr<const Catalogue>& fetched) {
         return putInPlace(fetched);
     // Copying a large catalogue takes longer than a frame. The brands are those of the moment of the change.
     runInBackground(
-        this, [fetched] { return std::make_shared<Catalogue>(*fetched); },
+        run_.context(), [fetched] { return std::make_shared<Catalogue>(*fetched); },
         [this](const std::shared_ptr<Catalogue>& copy) {
             if (const auto& now = services_.session.applicationInformation)
                 copy->addProducts(now->ownBrands());
@@ -52,6 +52,11 @@ void CatalogueUpdate::putInPlace(const std::shared_ptr<const Catalogue>& catalog
         emit progressChanged(ResourceUpdateRun::fraction(count, total),
                              ResourceUpdateRun::label(count, total));
     });
+}
+
+void CatalogueUpdate::leave() {
+    run_.end();
+    services_.resources.leave();
 }
 
 std::optional<qint64> CatalogueUpdate::secondsSinceFetch() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "device/PendingRun.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -39,6 +41,9 @@ public:
     // Requests the catalogue. The earlier one stays in memory and on disk until a new one has come whole.
     void start();
 
+    // The run is waited for no longer: no catalogue that comes late is taken, and nothing more is told.
+    void leave();
+
     // How long ago the catalogue was fetched on this device, in seconds; nothing when that is not known.
     [[nodiscard]] std::optional<qint64> secondsSinceFetch() const;
 
@@ -54,6 +59,7 @@ private:
     void putInPlace(const std::shared_ptr<const Catalogue>& catalogue);
 
     Services services_;
+    PendingRun run_;
 };
 
 } // namespace kavor

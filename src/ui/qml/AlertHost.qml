@@ -78,7 +78,10 @@ Item {
         closePolicy: T.Popup.NoAutoClose
         onAboutToShow: returnTo = host.Window.activeFocusItem
         onOpened: Qt.callLater(host.reset) // qmllint disable
-        onClosed: returnTo?.forceActiveFocus(Qt.PopupFocusReason)
+        onClosed: {
+            if (returnTo?.visible) // a veil that had it may be gone
+                returnTo.forceActiveFocus(Qt.PopupFocusReason);
+        }
 
         T.Overlay.modal: Rectangle { color: Theme.scrim }
 

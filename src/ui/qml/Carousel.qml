@@ -16,6 +16,7 @@ FocusScope {
     property real spacing: Theme.spaceL
     property bool showButtons: !Theme.compact && width >= itemWidth + 120
     property bool showDots: true
+    readonly property bool buttonsVisible: showButtons && count > 1
     property string text: "" // accessible name
 
     readonly property InView inView: InView { item: carousel }
@@ -73,6 +74,9 @@ FocusScope {
 
         anchors.fill: parent
         anchors.bottomMargin: dots.visible ? dots.height : 0
+        // The buttons stand beside the cards, never over them.
+        anchors.leftMargin: carousel.buttonsVisible ? Theme.touch + Theme.spaceS : 0
+        anchors.rightMargin: anchors.leftMargin
         orientation: ListView.Horizontal
         spacing: carousel.spacing
         clip: carousel.inView.value
@@ -130,7 +134,7 @@ FocusScope {
         objectName: carousel.objectName + "Previous"
         anchors.left: parent.left
         anchors.verticalCenter: list.verticalCenter
-        visible: carousel.showButtons && carousel.count > 1
+        visible: carousel.buttonsVisible
         enabled: carousel.currentIndex > 0
         framed: true
         icon: "chevron-left"
@@ -141,7 +145,7 @@ FocusScope {
         objectName: carousel.objectName + "Next"
         anchors.right: parent.right
         anchors.verticalCenter: list.verticalCenter
-        visible: carousel.showButtons && carousel.count > 1
+        visible: carousel.buttonsVisible
         enabled: carousel.currentIndex < carousel.count - 1
         framed: true
         icon: "chevron-right"

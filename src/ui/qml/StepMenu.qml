@@ -1,4 +1,5 @@
 import QtQuick
+import Kavor.Ui
 
 // The entries of a wizard or of the client: a rail at the side of a wide window, a strip to swipe on a phone.
 // model: a list of {id, text, icon, selected, visible, badge, done, enabled}; all but id and text may be absent.
@@ -59,6 +60,7 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
+        FocusFollower { view: flick }
         Grid {
             id: grid
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Kavor.Ui
 
 // Small pictures in a row. model: a list of {source, text}; `tapped(index)` when one is chosen.
 FocusScope {
@@ -30,6 +31,8 @@ FocusScope {
         focus: true
         model: strip.model ? (strip.model.length ?? strip.model) : 0
         boundsBehavior: Flickable.StopAtBounds
+
+        FocusFollower { view: list }
 
         delegate: Tappable {
             id: thumbnail

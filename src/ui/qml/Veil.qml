@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 // Blocks the whole window while a request runs. progress 0 to 1 shows how far it is; below 0 it is unknown.
-// Set `shown`, not `visible`.
+// Set `shown`, not `visible`. A veil that is `leavable` and stands too long offers a way out, also by Escape; `abandoned`
+// tells that it was taken, and hiding the veil is up to the screen.
 Item {
     id: veil
 
@@ -10,6 +11,10 @@ Item {
     property string text: ""
     property string detail: "" // "3 de 120"
     property real progress: -1
+    property bool leavable: false
+    property alias patience: wayOut.patience
+
+    signal abandoned()
 
     objectName: "veilView"
     anchors.fill: parent
@@ -28,11 +33,20 @@ Item {
         visible: veil.visible
         closePolicy: T.Popup.NoAutoClose
         onAboutToShow: returnTo = veil.Window.activeFocusItem
-        onClosed: returnTo?.forceActiveFocus(Qt.PopupFocusReason)
+        onClosed: {
+            if (returnTo?.visible)
+                returnTo.forceActiveFocus(Qt.PopupFocusReason);
+        }
 
         background: Rectangle { color: "#D9FAF6EE" }
 
         contentItem: Item {
+            focus: true
+            Keys.onEscapePressed: {
+                if (wayOut.visible)
+                    wayOut.trigger();
+            }
+
             Rectangle {
                 anchors.centerIn: parent
                 width: Math.min(parent.width - 48, Math.max(words.implicitWidth, numbers.implicitWidth, veil.progress >= 0 ? 256 : 112) + 64)
@@ -93,6 +107,13 @@ Item {
                         visible: veil.progress >= 0
                         value: veil.progress
                         track: Theme.bottleLight
+                    }
+                    WayOut {
+                        id: wayOut
+
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        waiting: veil.visible && veil.leavable
+                        onClicked: veil.abandoned()
                     }
                 }
             }

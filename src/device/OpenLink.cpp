@@ -1,0 +1,14 @@
+#include "device/OpenLink.h"
+
+#include "device/AlertPresenter.h"
+#include "device/UrlOpener.h"
+
+namespace kavor {
+
+void openLink(UrlOpener& urls, AlertPresenter& alerts, const QString& url) {
+    if (!urls.openExternally(url))
+        alerts.inform(QStringLiteral("Atención"),
+                      QStringLiteral("No se ha podido abrir el enlace:\n%1").arg(url));
+}
+
+} // namespace kavor
