@@ -54,85 +54,75 @@ Card {
                 carousel.forceActiveFocus(Qt.OtherFocusReason);
         }
     }
-    CarouselArrows {
-        id: arrows
+    Carousel {
+        id: carousel
 
+        objectName: "productsHighlightableCarousel"
         width: parent.width
         height: 132
         visible: card.zone.carouselVisible
-        middle: carousel
+        enabled: card.zone.carouselEnabled
+        opacity: card.zone.carouselEnabled ? 1 : 0.25
+        itemWidth: Math.min(260, width * 0.7)
+        showDots: false
+        text: "Producto destacado"
+        model: card.zone
+        onSelected: (index) => card.zone.carouselCurrentItemIndexDidChange(index)
 
-        Carousel {
-            id: carousel
+        delegate: Item {
+            id: entry
 
-            x: arrows.side
-            width: parent.width - 2 * x
-            height: parent.height
-            showButtons: false
-            objectName: "productsHighlightableCarousel"
-            enabled: card.zone.carouselEnabled
-            opacity: card.zone.carouselEnabled ? 1 : 0.25
-            itemWidth: Math.min(260, card.width * 0.7)
-            showDots: false
-            text: "Producto destacado"
-            model: card.zone
-            onSelected: (index) => card.zone.carouselCurrentItemIndexDidChange(index)
+            required property int index
+            required property string entryText
+            required property string entryDetail
+            required property string entryImage
+            readonly property bool current: ListView.isCurrentItem
 
-            delegate: Item {
-                id: entry
+            width: carousel.itemWidth
+            height: ListView.view ? ListView.view.height : 120
 
-                required property int index
-                required property string entryText
-                required property string entryDetail
-                required property string entryImage
-                readonly property bool current: ListView.isCurrentItem
+            Rectangle { // selectorFrameView
+                anchors.fill: parent
+                anchors.margins: 2
+                radius: Theme.radius
+                color: entry.current ? Theme.amberTint : Theme.paper
+                border.width: entry.current ? 2 : 1
+                border.color: entry.current ? Theme.amber : Theme.hairline
+            }
+            ResourceImage {
+                id: picture
 
-                width: carousel.itemWidth
-                height: ListView.view ? ListView.view.height : 120
+                x: Theme.spaceM
+                anchors.verticalCenter: parent.verticalCenter
+                width: entry.width < 250 ? 64 : 84
+                height: width
+                radius: 10
+                ground: entry.current ? Theme.amberTint : Theme.paper
+                mat: "transparent"
+                source: entry.entryImage
+                placeholderIcon: entry.index === 0 ? "circle-close" : "bottle"
+                fillMode: Image.PreserveAspectFit
+            }
+            Column {
+                anchors.left: picture.right
+                anchors.leftMargin: Theme.spaceM
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.spaceM
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
 
-                Rectangle { // selectorFrameView
-                    anchors.fill: parent
-                    anchors.margins: 2
-                    radius: Theme.radius
-                    color: entry.current ? Theme.amberTint : Theme.paper
-                    border.width: entry.current ? 2 : 1
-                    border.color: entry.current ? Theme.amber : Theme.hairline
+                Text {
+                    width: parent.width
+                    text: entry.entryText
+                    color: Theme.ink
+                    wrapMode: Text.WordWrap
+                    maximumLineCount: 2
+                    elide: Text.ElideRight
+                    font.family: Theme.fontFamily
+                    font.pixelSize: Theme.fontBody
+                    font.weight: Font.Bold
                 }
-                ResourceImage {
-                    id: picture
-
-                    x: Theme.spaceM
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: entry.width < 250 ? 64 : 84
-                    height: width
-                    radius: 10
-                    ground: entry.current ? Theme.amberTint : Theme.paper
-                    mat: "transparent"
-                    source: entry.entryImage
-                    placeholderIcon: entry.index === 0 ? "circle-close" : "bottle"
-                    fillMode: Image.PreserveAspectFit
-                }
-                Column {
-                    anchors.left: picture.right
-                    anchors.leftMargin: Theme.spaceM
-                    anchors.right: parent.right
-                    anchors.rightMargin: Theme.spaceM
-                    anchors.verticalCenter: parent.verticalCenter
-                    spacing: 2
-
-                    Text {
-                        width: parent.width
-                        text: entry.entryText
-                        color: Theme.ink
-                        wrapMode: Text.WordWrap
-                        maximumLineCount: 2
-                        elide: Text.ElideRight
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Theme.fontBody
-                        font.weight: Font.Bold
-                    }
-                    HelpText { width: parent.width; text: entry.entryDetail; maximumLineCount: 2; elide: Text.ElideRight }
-                }
+                HelpText { width: parent.width; text: entry.entryDetail; maximumLineCount: 2; elide: Text.ElideRight }
             }
         }
     }

@@ -68,90 +68,80 @@ Column {
         }
     }
 
-    CarouselArrows {
-        id: arrows
+    Carousel {
+        id: carousel
 
+        objectName: "styleCarousel"
         width: parent.width
-        height: (carousel.itemWidth - 8) / card.coverRatio + 8
-        middle: carousel
+        height: (itemWidth - 8) / card.coverRatio + 8
+        itemWidth: Math.min(width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
+        showDots: false
+        text: "Estilos"
+        model: card.controller.styles
+        onSelected: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
+        onTapped: card.controller.zoomStyleButtonAction()
 
-        Carousel {
-            id: carousel
+        delegate: Item {
+            id: item
 
-            x: arrows.side
-            width: parent.width - 2 * x
-            height: parent.height
-            showButtons: false
-            objectName: "styleCarousel"
-            itemWidth: Math.min(card.width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
-            showDots: false
-            text: "Estilos"
-            model: card.controller.styles
-            onSelected: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
-            onTapped: card.controller.zoomStyleButtonAction()
+            required property int index
+            required property string styleName
+            required property string styleImage
+            required property bool isCover
+            required property bool isPreferred
+            readonly property bool current: ListView.isCurrentItem
 
-            delegate: Item {
-                id: item
+            width: carousel.itemWidth
+            height: ListView.view ? ListView.view.height : 300
 
-                required property int index
-                required property string styleName
-                required property string styleImage
-                required property bool isCover
-                required property bool isPreferred
-                readonly property bool current: ListView.isCurrentItem
+            ResourceImage {
+                id: cover
 
-                width: carousel.itemWidth
-                height: ListView.view ? ListView.view.height : 300
+                anchors.fill: parent
+                anchors.margins: item.current ? 4 : 16
+                radius: Theme.radius
+                ground: Theme.paper
+                source: item.styleImage
+                text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
+                placeholderIcon: "style"
+                mat: Theme.surface
+                fillMode: Image.PreserveAspectFit
 
-                ResourceImage {
-                    id: cover
+                Behavior on anchors.margins { NumberAnimation { duration: Theme.fast } }
+            }
+            Rectangle {
+                anchors.fill: cover
+                anchors.margins: -3
+                radius: Theme.radius + 3
+                color: "transparent"
+                border.width: item.current ? 3 : 1
+                border.color: item.current ? Theme.amber : Theme.hairline
+            }
+            Rectangle { // the badge "preferente_big"
+                objectName: "preferente_big" + item.index
+                visible: item.isPreferred
+                anchors.right: cover.right
+                anchors.top: cover.top
+                anchors.margins: Theme.spaceS
+                width: badge.implicitWidth + 2 * Theme.spaceM
+                height: 32
+                radius: 16
+                color: Theme.amber
 
-                    anchors.fill: parent
-                    anchors.margins: item.current ? 4 : 16
-                    radius: Theme.radius
-                    ground: Theme.paper
-                    source: item.styleImage
-                    text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
-                    placeholderIcon: "style"
-                    mat: Theme.surface
-                    fillMode: Image.PreserveAspectFit
+                Row {
+                    id: badge
 
-                    Behavior on anchors.margins { NumberAnimation { duration: Theme.fast } }
-                }
-                Rectangle {
-                    anchors.fill: cover
-                    anchors.margins: -3
-                    radius: Theme.radius + 3
-                    color: "transparent"
-                    border.width: item.current ? 3 : 1
-                    border.color: item.current ? Theme.amber : Theme.hairline
-                }
-                Rectangle { // the badge "preferente_big"
-                    objectName: "preferente_big" + item.index
-                    visible: item.isPreferred
-                    anchors.right: cover.right
-                    anchors.top: cover.top
-                    anchors.margins: Theme.spaceS
-                    width: badge.implicitWidth + 2 * Theme.spaceM
-                    height: 32
-                    radius: 16
-                    color: Theme.amber
+                    anchors.centerIn: parent
+                    spacing: 6
 
-                    Row {
-                        id: badge
-
-                        anchors.centerIn: parent
-                        spacing: 6
-
-                        Icon { anchors.verticalCenter: parent.verticalCenter; name: "star"; size: 16; filled: true; colour: Theme.ink }
-                        Text {
-                            anchors.verticalCenter: parent.verticalCenter
-                            text: "Preferente"
-                            color: Theme.ink
-                            font.family: Theme.fontFamily
-                            font.pixelSize: Theme.fontSmall
-                            font.weight: Font.Bold
-                        }
+                    Icon { anchors.verticalCenter: parent.verticalCenter; name: "star"; size: 16; filled: true; colour: Theme.ink }
+                    Text {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: "Preferente"
+                        color: Theme.ink
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontSmall
+                        font.weight: Font.Bold
                     }
                 }
             }
