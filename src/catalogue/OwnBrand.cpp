@@ -63,7 +63,7 @@ Product OwnBrand::product(const Brochures& brochures, Int id) const {
     product.nameSanitice = text::sanitised(name);
     product.description = description;
     product.isSecondary = true;
-    auto& category = product.category.emplace();
+    auto& category = product.category.emplace(Product::Category());
     category.propertyId = property;
     if (const auto* found = find(brochures.brandTypologies, typology, family))
         category.categoryLabel = found->name;

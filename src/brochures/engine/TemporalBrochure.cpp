@@ -73,7 +73,8 @@ TemporalBrochure::Found TemporalBrochure::look(const std::string& name) {
         logLine(name + ": a brand or format without its number");
         order.reset();
     }
-    return {std::move(order), !order.has_value()};
+    const bool unreadable = !order.has_value();
+    return {std::move(order), unreadable};
 }
 
 bool TemporalBrochure::setAside(const std::string& name, const Found& found) {
