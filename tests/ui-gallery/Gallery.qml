@@ -64,6 +64,8 @@ AppWindow {
     Veil {
         anchors.fill: parent
         shown: window.page === "veil"
+        leavable: true
+        patience: 100
         text: "Descargando el catálogo…"
         detail: "84 de 120"
         progress: 0.7
