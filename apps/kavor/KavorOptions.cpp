@@ -1,5 +1,7 @@
 #include "kavor/KavorOptions.h"
 
+#include "base/BundleVersion.h"
+
 #include <QCommandLineParser>
 #include <QStandardPaths>
 
@@ -74,7 +76,7 @@ std::string KavorOptions::helpText() {
 }
 
 std::string KavorOptions::versionText() {
-    return "kavor " KAVOR_VERSION "." KAVOR_COMPILATION "\n";
+    return "kavor " + bundleVersion() + "." + bundleCompilation() + "\n";
 }
 
 } // namespace kavor

@@ -36,7 +36,7 @@
 namespace kavor {
 
 // Counts what is asked of the synchronisation.
-class CountingSync : public BackgroundOrderSync {
+class CountingBackgroundSync : public BackgroundOrderSync {
 public:
     int scheduled = 0;
     int runs = 0;
@@ -123,7 +123,7 @@ protected:
     RecordingNotifications localNotifications;
     NoPushRegistration push;
     ManualBackgroundTasks tasks;
-    CountingSync sync;
+    CountingBackgroundSync sync;
     AlertPresenter alerts;
     RecordingUrlOpener urls;
     ManualClock clock;
