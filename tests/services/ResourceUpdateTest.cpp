@@ -176,22 +176,23 @@ TEST_F(ResourceUpdateRunTest, HoldsFiveOfEachClassAndLetsTheBackgroundHoldUpNobo
     int picturesEnded = 0;
     QObject::connect(&run, &ResourceUpdateRun::picturesEnded, &run, [&] { ++picturesEnded; });
     run.start(catalogue, {});
-    run.start(catalogue, {}); // two refreshes share the places
+    run.start(catalogue, {}); // a refresh that takes the place of another shares its places
     ASSERT_TRUE(waitFor([&] { return server.waiting() == 10; }));
     bool isShown = false;
     cache.fetch({"/2/11", server.url("/2/11")}, &server,
                 [&](const auto& path) { isShown = path.has_value(); });
     ASSERT_TRUE(waitFor([&] { return server.waiting() == 11; }));
     server.release();
-    ASSERT_TRUE(waitFor([&] { return ends == 2 && isShown; }));
+    ASSERT_TRUE(waitFor([&] { return ends == 1 && isShown; }));
     EXPECT_TRUE(registered("New"));
     EXPECT_TRUE(cache.isCached("/1/11"));
     const auto fonts = server.requestsTo("/roboto").size();
     EXPECT_EQ(server.requests().size() - fonts, 12 + 5 + 1)
         << "class 1, five of class 2 and the picture on show";
     EXPECT_EQ(picturesEnded, 0);
+    EXPECT_EQ(ends, 1) << "who was replaced tells no end";
     server.shutDown();
-    EXPECT_TRUE(waitFor([&] { return picturesEnded == 2; }));
+    EXPECT_TRUE(waitFor([&] { return picturesEnded == 1; }));
 }
 
 TEST(ResourceUpdateRun, ShowsHowFarItIs) {

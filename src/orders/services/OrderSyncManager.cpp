@@ -96,7 +96,8 @@ void OrderSyncManager::uploadCurrentDraft(const Save& save) {
     services_.useBackgroundSession();
     beginExtension();
     const std::string file = fileOf(save.order);
-    underWay_[file] = std::nullopt;
+    if (!file.empty())
+        underWay_[file] = std::nullopt;
     const auto succeeded = [this, save, file](const SaveBrochuresOrderResponse& answer) {
         send_intent::answered(save.draft->unansweredSends, save.order);
         // Without an id nothing happens: the extension ends by its expiry.
