@@ -1,7 +1,7 @@
 #include "Documents.h"
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <benchmark/benchmark.h>
 

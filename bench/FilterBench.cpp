@@ -1,8 +1,8 @@
 #include "Documents.h"
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "brochures/wizard/PriorityBrandSelectorView.h"
-#include "shell/AppSingleton.h"
+#include "brochures/wizard/products/PriorityBrandSelectorView.h"
+#include "session/AppSingleton.h"
 
 #include <QIdentityProxyModel>
 

@@ -3,10 +3,10 @@
 #include "device/FileKeychain.h"
 #include "device/UserDefaults.h"
 #include "kavor/KavorApplication.h"
-#include "network/AuthManager.h"
-#include "shell/LoginResult.h"
-#include "shell/StateFile.h"
-#include "shell/services/SessionStore.h"
+#include "session/LoginResult.h"
+#include "session/StateFile.h"
+#include "session/services/AuthManager.h"
+#include "session/services/SessionStore.h"
 
 #include <QGuiApplication>
 #include <QProcess>

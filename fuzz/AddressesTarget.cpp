@@ -1,6 +1,6 @@
 #include "Targets.h"
 #include "catalogue/URLParser.h"
-#include "network/NetworkConfiguration.h"
+#include "network/records/NetworkConfiguration.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "RoundTrip.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/RetrievedOrder.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "catalogue/Catalogue.h"
 #include "orders/DraftOrderRows.h"
 #include "sellingsheets/SellingSheetOrder.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kavor/KavorOptions.h"
-#include "network/NetworkConfiguration.h"
+#include "network/records/NetworkConfiguration.h"
 
 #include <QObject>
 

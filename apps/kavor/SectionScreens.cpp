@@ -2,7 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/RootController.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/screens/ScreenStack.h"
+#include "screens/ScreenStack.h"
 
 #include <QString>
 

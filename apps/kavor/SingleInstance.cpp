@@ -1,6 +1,6 @@
 #include "kavor/SingleInstance.h"
 
-#include "shell/StateFile.h"
+#include "session/StateFile.h"
 
 #include <QCryptographicHash>
 #include <QLocalSocket>

@@ -1,7 +1,7 @@
 #include "base/AtomicFile.h"
 #include "kavor/KavorApplication.h"
 #include "kavor/SingleInstance.h"
-#include "shell/services/SessionStore.h"
+#include "session/services/SessionStore.h"
 
 #include <QGuiApplication>
 

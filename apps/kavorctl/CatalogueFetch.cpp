@@ -4,7 +4,7 @@
 #include "base/AtomicFile.h"
 #include "base/NotificationCenter.h"
 #include "catalogue/Catalogue.h"
-#include "shell/StateFile.h"
+#include "session/StateFile.h"
 
 #include <CLI/CLI.hpp>
 

@@ -5,7 +5,7 @@
 #include "base/BundleVersion.h"
 #include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
-#include "shell/StateFile.h"
+#include "session/StateFile.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>

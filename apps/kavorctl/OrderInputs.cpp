@@ -3,7 +3,7 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "orders/OrderDiskManager.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <charconv>
 

@@ -1,6 +1,6 @@
 #include "OrderInputs.h"
 #include "base/AppFormatter.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <sstream>

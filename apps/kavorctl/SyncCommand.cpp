@@ -4,7 +4,7 @@
 #include "device/BackgroundTasks.h"
 #include "device/LocalNotifications.h"
 #include "orders/services/OrderSyncManager.h"
-#include "shell/StateFile.h"
+#include "session/StateFile.h"
 
 #include <QLockFile>
 

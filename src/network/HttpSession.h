@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/HttpConnections.h"
+#include "http/HttpConnections.h"
 
 #include <QByteArray>
 #include <QList>

@@ -4,8 +4,8 @@
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "network/Pipeline.h"
-#include "shell/AppSingleton.h"
-#include "shell/LoginResult.h"
+#include "session/AppSingleton.h"
+#include "session/LoginResult.h"
 
 #include <QFutureWatcher>
 #include <QJsonDocument>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "network/HttpSession.h"
-#include "network/NetworkConfiguration.h"
 #include "network/RequestRetrier.h"
 #include "network/ServiceOperations.h"
 #include "network/TrafficLog.h"
+#include "network/records/NetworkConfiguration.h"
 
 #include <QObject>
 

@@ -11,8 +11,8 @@
 #include "orders/OrderList.h"
 #include "promotions/PromotionOrder.h"
 #include "sellingsheets/SellingSheetOrder.h"
-#include "shell/AppSingleton.h"
-#include "shell/LoginResult.h"
+#include "session/AppSingleton.h"
+#include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
 
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/Clock.h"
-#include "network/AuthManager.h"
+#include "session/services/AuthManager.h"
 
 #include <chrono>
 #include <functional>

@@ -2,7 +2,7 @@
 
 #include "orders/OrderDiskManager.h"
 #include "orders/OrderList.h"
-#include "shell/SectionIdentifier.h"
+#include "session/SectionIdentifier.h"
 
 #include <optional>
 #include <string>

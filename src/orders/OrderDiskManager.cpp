@@ -4,7 +4,7 @@
 #include "base/Log.h"
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

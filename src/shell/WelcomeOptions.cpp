@@ -1,7 +1,7 @@
 #include "shell/WelcomeOptions.h"
 
 #include "base/StopProcess.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 
 #include <algorithm>
 #include <array>

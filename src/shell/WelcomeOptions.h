@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/Enumerations.h"
-#include "shell/SectionIdentifier.h"
+#include "session/SectionIdentifier.h"
 
 #include <map>
 #include <optional>

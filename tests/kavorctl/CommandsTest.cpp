@@ -4,7 +4,7 @@
 #include "brochures/engine/TemporalBrochure.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/OrderList.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 #include "OperationTable.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 
 #include <tuple>
 

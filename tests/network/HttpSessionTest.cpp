@@ -2,7 +2,7 @@
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/Catalogue.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 #include "support/LogCapture.h"
 
 #include <QNetworkReply>

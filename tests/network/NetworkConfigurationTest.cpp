@@ -1,4 +1,4 @@
-#include "network/NetworkConfiguration.h"
+#include "network/records/NetworkConfiguration.h"
 
 #include "support/TemporaryFolder.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "device/Clock.h"
-#include "network/AuthManager.h"
 #include "network/NetworkManager.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
+#include "session/services/AuthManager.h"
 #include "support/DeviceFakes.h"
 #include "support/ScriptedServer.h"
 #include "support/WaitFor.h"

@@ -2,7 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 
 #include <cmath>
 

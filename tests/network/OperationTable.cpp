@@ -11,7 +11,7 @@
 #include "orders/OrderList.h"
 #include "promotions/PromotionOrder.h"
 #include "sellingsheets/SellingSheetOrder.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
 
 namespace kavor {

@@ -1,6 +1,6 @@
 #include "NetworkFixture.h"
 #include "account/UserProfile.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 
 #include <QNetworkReply>
 

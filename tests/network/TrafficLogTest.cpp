@@ -2,7 +2,7 @@
 
 #include "NetworkFixture.h"
 #include "network/KnownSecrets.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 #include "support/TemporaryFolder.h"
 
 #include <QFileInfo>

@@ -5,8 +5,8 @@
 #include "device/UserDefaults.h"
 #include "orders/OrderDiskManager.h"
 #include "robust/StampedFiles.h"
-#include "shell/AppSingleton.h"
-#include "shell/StateFile.h"
+#include "session/AppSingleton.h"
+#include "session/StateFile.h"
 
 #include <signal.h>
 #include <sys/prctl.h>

@@ -4,7 +4,7 @@
 #include "base/json/Json.h"
 #include "device/FileKeychain.h"
 #include "device/UserDefaults.h"
-#include "shell/StateFile.h"
+#include "session/StateFile.h"
 
 #include <sys/stat.h>
 

@@ -4,7 +4,7 @@
 #include "catalogue/ApplicationInformation.h"
 #include "device/KeychainStore.h"
 #include "sellingsheets/SellingSheetOrder.h"
-#include "shell/LoginResult.h"
+#include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
 
 #include <filesystem>

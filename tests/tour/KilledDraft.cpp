@@ -2,8 +2,8 @@
 
 #include "brochures/engine/TemporalBrochure.h"
 #include "orders/OrderDiskManager.h"
-#include "shell/AppSingleton.h"
-#include "shell/services/SessionStore.h"
+#include "session/AppSingleton.h"
+#include "session/services/SessionStore.h"
 #include "tour/Tour.h"
 
 #include <QFile>

@@ -6,7 +6,7 @@
 #include "device/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "orders/OrderDiskManager.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "shell/screens/PhotoLibraryViewController.h"
 #include "shell/screens/RootController.h"
 #include "support/WindowWatch.h"

@@ -4,8 +4,8 @@
 #include "base/Log.h"
 #include "base/StopProcess.h"
 #include "base/json/Table.h"
-#include "shell/AppSingleton.h"
-#include "shell/StateFile.h"
+#include "session/AppSingleton.h"
+#include "session/StateFile.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "catalogue/OwnBrand.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <iterator>

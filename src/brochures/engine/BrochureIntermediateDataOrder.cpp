@@ -1,6 +1,6 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 namespace kavor {
 

@@ -2,7 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/Text.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <algorithm>
 

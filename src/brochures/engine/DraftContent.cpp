@@ -1,7 +1,7 @@
 #include "brochures/engine/DraftContent.h"
 
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <array>

@@ -4,8 +4,8 @@
 #include "base/BackgroundFileWriter.h"
 #include "base/Log.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "shell/AppSingleton.h"
-#include "shell/StateFile.h"
+#include "session/AppSingleton.h"
+#include "session/StateFile.h"
 
 #include <algorithm>
 #include <utility>

@@ -16,7 +16,7 @@ FocusScope {
     }
     function showPreview(): void {
         if (controller.preview)
-            previewLoader.setSource("WebPreviewView.qml", { controller: controller.preview });
+            previewLoader.setSource("qrc:/qt/qml/Kavor/Kit/WebPreviewView.qml", { controller: controller.preview });
         else
             previewLoader.source = "";
     }

@@ -4,18 +4,18 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/DraftContent.h"
 #include "brochures/engine/TemporalBrochure.h"
-#include "brochures/wizard/BrochureConfigurationViewController.h"
-#include "brochures/wizard/BrochureSendViewController.h"
-#include "brochures/wizard/BrochureStyleSelectorViewController.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
+#include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
+#include "brochures/wizard/send/BrochureSendViewController.h"
+#include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 #include "catalogue/OwnBrand.h"
 #include "device/PressGuard.h"
 #include "device/Reachability.h"
 #include "network/ServiceOperations.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <QVariantMap>
 

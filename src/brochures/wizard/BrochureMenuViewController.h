@@ -2,8 +2,8 @@
 
 #include "base/NotificationCenter.h"
 #include "brochures/wizard/CatalogueCopy.h"
-#include "brochures/wizard/WebPreviewViewController.h"
 #include "brochures/wizard/WizardStep.h"
+#include "screens/WebPreviewViewController.h"
 
 #include <QObject>
 #include <QQmlEngine>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <QtConcurrent>
 

@@ -1,12 +1,12 @@
 #include "brochures/wizard/WizardStepFactory.h"
 
 #include "base/StopProcess.h"
-#include "brochures/wizard/BrochureConfigurationViewController.h"
-#include "brochures/wizard/BrochurePriceSetterViewController.h"
-#include "brochures/wizard/BrochureProductListViewController.h"
-#include "brochures/wizard/BrochureSendViewController.h"
-#include "brochures/wizard/BrochureStyleSelectorViewController.h"
 #include "brochures/wizard/ComingSoonStep.h"
+#include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
+#include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
+#include "brochures/wizard/products/BrochureProductListViewController.h"
+#include "brochures/wizard/send/BrochureSendViewController.h"
+#include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 
 namespace kavor {
 

@@ -11,7 +11,7 @@
 #include "network/ServiceOperations.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/services/SendIntent.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 #include <QTimer>
 

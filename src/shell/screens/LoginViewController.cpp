@@ -4,9 +4,9 @@
 #include "device/AlertPresenter.h"
 #include "device/OpenLink.h"
 #include "device/UserDefaults.h"
-#include "network/AuthManager.h"
 #include "network/ServiceOperations.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
+#include "session/services/AuthManager.h"
 #include "shell/screens/ShellTexts.h"
 
 #include <utility>

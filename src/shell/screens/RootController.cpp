@@ -2,7 +2,7 @@
 
 #include "device/AlertPresenter.h"
 #include "device/LocalNotifications.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "shell/screens/LaunchViewController.h"
 #include "shell/screens/Screens.h"
 

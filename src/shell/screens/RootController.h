@@ -2,8 +2,8 @@
 
 #include "base/NotificationCenter.h"
 #include "device/PressGuard.h"
+#include "screens/ScreenStack.h"
 #include "shell/screens/LoginViewController.h"
-#include "shell/screens/ScreenStack.h"
 #include "shell/screens/WelcomeViewController.h"
 #include "shell/services/AppDelegate.h"
 

@@ -1,5 +1,7 @@
 #include "shell/screens/Screens.h"
 
+#include "screens/Kit.h"
+
 #include <QQmlEngine>
 
 // Written by the build. In a static library nothing else would keep them.
@@ -14,6 +16,7 @@ static void initialiseResources() {
 namespace kavor {
 
 void registerScreens(QQmlEngine& engine) {
+    registerKit(engine);
     initialiseResources();
     volatile auto registration = &qml_register_types_Kavor_Screens;
     Q_UNUSED(registration);

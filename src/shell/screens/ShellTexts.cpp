@@ -1,6 +1,6 @@
 #include "shell/screens/ShellTexts.h"
 
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 
 namespace kavor {
 

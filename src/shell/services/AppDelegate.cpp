@@ -8,11 +8,11 @@
 #include "device/LocalNotifications.h"
 #include "device/PushRegistration.h"
 #include "device/UserDefaults.h"
-#include "network/AuthManager.h"
 #include "network/ServiceOperations.h"
 #include "orders/services/OrderSync.h"
-#include "shell/AppSingleton.h"
-#include "shell/services/SessionStore.h"
+#include "session/AppSingleton.h"
+#include "session/services/AuthManager.h"
+#include "session/services/SessionStore.h"
 
 #include <string>
 

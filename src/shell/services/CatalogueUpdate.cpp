@@ -1,13 +1,13 @@
 #include "shell/services/CatalogueUpdate.h"
 
 #include "catalogue/Catalogue.h"
-#include "catalogue/services/ResourceUpdateRun.h"
 #include "device/Background.h"
 #include "device/Clock.h"
 #include "device/UserDefaults.h"
 #include "network/ServiceOperations.h"
-#include "shell/AppSingleton.h"
-#include "shell/services/SessionStore.h"
+#include "resources/ResourceUpdateRun.h"
+#include "session/AppSingleton.h"
+#include "session/services/SessionStore.h"
 
 namespace kavor {
 

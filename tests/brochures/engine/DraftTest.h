@@ -3,7 +3,7 @@
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
-#include "shell/AppSingleton.h"
+#include "session/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/JsonData.h"
 #include "support/TemporaryFolder.h"

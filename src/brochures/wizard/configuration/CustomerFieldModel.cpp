@@ -1,0 +1,84 @@
+#include "brochures/wizard/configuration/CustomerFieldModel.h"
+
+#include "base/Text.h"
+#include "catalogue/Shared.h"
+
+namespace kavor {
+
+namespace {
+
+QString shown(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+} // namespace
+
+CustomerFieldModel::CustomerFieldModel(const CustomerForm& form, const Validations& validations,
+                                       QObject* parent)
+    : QAbstractListModel(parent)
+    , form_(form)
+    , validations_(validations) {}
+
+void CustomerFieldModel::append(CustomerFieldGroup group, std::size_t atMost) {
+    for (const CustomerField& field : CustomerForm::fields()) {
+        if (field.group != group || atMost == 0)
+            continue;
+        --atMost;
+        beginInsertRows({}, int(rows_.size()), int(rows_.size()));
+        rows_.push_back(&field);
+        endInsertRows();
+    }
+}
+
+void CustomerFieldModel::textChanged(std::string_view name) {
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        if (rows_[row]->name == name)
+            emit dataChanged(index(int(row)), index(int(row)), {TextRole, ErrorRole});
+    }
+}
+
+void CustomerFieldModel::allTextsChanged() {
+    if (!rows_.empty())
+        emit dataChanged(index(0), index(int(rows_.size()) - 1), {TextRole, ErrorRole});
+}
+
+int CustomerFieldModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(rows_.size());
+}
+
+QVariant CustomerFieldModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const CustomerField& field = *rows_[std::size_t(index.row())];
+    switch (role) {
+    case NameRole:
+        return shown(field.name);
+    case LabelRole:
+        return shown(field.label);
+    case TextRole:
+        return form_.text(field.name);
+    case ErrorRole:
+        return errorOf(field);
+    case IconRole:
+        return shown(field.icon);
+    case HintsRole:
+        return field.inputMethodHints;
+    default:
+        return {};
+    }
+}
+
+QString CustomerFieldModel::errorOf(const CustomerField& field) const {
+    if (!field.limit)
+        return {};
+    const Int limit = validations_.*field.limit;
+    const auto length = Int(text::characterCount(form_.text(field.name).toStdString()));
+    return length > limit ? QStringLiteral("%1 de %2 caracteres").arg(length).arg(limit) : QString();
+}
+
+QHash<int, QByteArray> CustomerFieldModel::roleNames() const {
+    return {{NameRole, "name"},   {LabelRole, "label"}, {TextRole, "text"},
+            {ErrorRole, "error"}, {IconRole, "icon"},   {HintsRole, "hints"}};
+}
+
+} // namespace kavor

@@ -1,0 +1,235 @@
+#include "brochures/wizard/products/BrochureProductListViewController.h"
+
+#include "base/AppFormatter.h"
+#include "base/StopProcess.h"
+#include "base/Text.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/wizard/StepSupport.h"
+#include "device/AlertPresenter.h"
+#include "session/AppSingleton.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace kavor {
+
+namespace {
+
+const QString attention = QStringLiteral("Atención");
+
+QString labelOf(std::optional<Int> limit) {
+    return limit ? fromUtf8(AppFormatter::shared().integerFormatter(*limit)) : QString();
+}
+
+} // namespace
+
+BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services,
+                                                                     QObject* parent)
+    : WizardStepViewController(parent)
+    , alerts_(services.alerts) {}
+
+BrochureProductListViewController::~BrochureProductListViewController() = default;
+
+QUrl BrochureProductListViewController::view() const {
+    return stepView(QStringLiteral("BrochureProductListView.qml"));
+}
+
+void BrochureProductListViewController::viewWillAppear() {
+    actualOrder_ = BrochureIntermediateData::temporalBrochure();
+    catalogue_ = AppSingleton::shared().applicationInformation;
+    if (!catalogue_)
+        stopProcess("catalogue of the product step");
+    readBrochureType();
+    readChalkboard();
+    brands_.setDraft(actualOrder_);
+    brands_.setBrands(catalogue_, family_);
+    if (!filter_)
+        filter_ =
+            new PriorityBrandSelectorView(catalogue_->brochures().brandProperties, family_, *this, this);
+    readCustomer();
+    runCounter();
+    emit changed();
+}
+
+void BrochureProductListViewController::readBrochureType() {
+    const Brochures::Type* type = sectionBrochureType(*catalogue_);
+    const Brochures::Type::Parameters* parameters = sectionParameters(*catalogue_);
+    if (!type || !parameters)
+        stopProcess("brochure section of the product step");
+    family_ = type->applicationFather;
+    isChalkboard_ = type->id == BrochureType::chalkboard;
+    minimum_ = parameters->minBrandSelection;
+    maximum_ = parameters->maxBrandSelection;
+    newBrandVisible_ = parameters->showProductSecondary;
+    information_ = informationText(*type);
+}
+
+void BrochureProductListViewController::readChalkboard() {
+    numberOfFormatsToSelect_.clear();
+    if (!isChalkboard_)
+        return;
+    if (!actualOrder_->selectedFormatIdentifier) {
+        alerts_.inform(attention, QStringLiteral("Debes elegir un formato para la pizarra en configuración."),
+                       this);
+        return;
+    }
+    if (const auto* format = catalogue_->blackboardFormat(*actualOrder_->selectedFormatIdentifier))
+        numberOfFormatsToSelect_ = format->numberOfSelectableBrands;
+}
+
+QString BrochureProductListViewController::informationText(const Brochures::Type& type) const {
+    const std::string_view word = label(type.id);
+    QString result = QStringLiteral("Selecciona las marcas y los formatos que aparecerán en tu %1.")
+                         .arg(QString::fromUtf8(word.data(), qsizetype(word.size())));
+    if (!type.parameters->isHighlightable)
+        return result;
+    result +=
+        QStringLiteral(" En la pantalla Precios Recomendados podrás destacar una de las referencias que "
+                       "selecciones.");
+    const Int places = type.parameters->highLightedNumber;
+    if (places > 0 && maximum_) {
+        result +=
+            QStringLiteral(" El destacado ocupa %1 marcas, por lo que si quieres añadir un destacado podrás "
+                           "seleccionar como máximo %2 marcas.")
+                .arg(places)
+                .arg(*maximum_ - places);
+    }
+    return result;
+}
+
+void BrochureProductListViewController::readCustomer() {
+    std::set<Int> priority;
+    if (const auto& customer = actualOrder_->customerInformation;
+        customer && customer->priorityBrandIdentifiers)
+        priority.insert(customer->priorityBrandIdentifiers->begin(),
+                        customer->priorityBrandIdentifiers->end());
+    priorityBrandsVisible_ = !priority.empty();
+    brands_.setPriorityBrands(std::move(priority));
+}
+
+void BrochureProductListViewController::runCounter() {
+    currentNumberOfSelections_ =
+        std::ranges::count_if(actualOrder_->selectedBrands, [this](const auto& entry) {
+            const Product* brand = catalogue_->product(entry.first);
+            return brand && brand->applicationFather == family_ && !entry.second.empty();
+        });
+    emit counterChanged();
+}
+
+void BrochureProductListViewController::brandFilterDidChange() {
+    brands_.setFilter(filter_->brandFilter());
+}
+
+bool BrochureProductListViewController::mayAddBrand(Int brand) const {
+    // A chalkboard has no such limit: its format names the numbers that the draft's check allows.
+    if (isChalkboard_ || actualOrder_->selectedBrands.contains(brand))
+        return true;
+    return currentNumberOfSelections_ < actualOrder_->maximumBrands(std::numeric_limits<Int>::max());
+}
+
+void BrochureProductListViewController::setRefusal(const QString& text) {
+    if (refusal_ == text)
+        return;
+    refusal_ = text;
+    emit refusalChanged();
+}
+
+void BrochureProductListViewController::toggleFormat(int row, qint64 format) {
+    const Product* brand = brands_.brandAt(row);
+    if (!brand)
+        return;
+    const bool on = actualOrder_->isFormatSelected(format, brand->id) == SelectionState::notSelected;
+    if (on && !mayAddBrand(brand->id)) {
+        setRefusal(QStringLiteral("Ya has seleccionado el máximo de marcas. Quita una para añadir %1.")
+                       .arg(fromUtf8(brand->name)));
+        return;
+    }
+    setRefusal({});
+    if (!actualOrder_->setFormatSelected(on, format, brand->id))
+        return;
+    brands_.selectionChanged(brand->id);
+    runCounter();
+    autosave(actualOrder_);
+}
+
+void BrochureProductListViewController::addNewBrandBtn() {
+    if (form_ || !newBrandVisible_)
+        return;
+    form_ = new NewBrandForm(catalogue_, family_, this);
+    catalogueToGrow_.prepare();
+    emit formChanged();
+}
+
+void BrochureProductListViewController::closeFormNewBrandBtn() {
+    if (!form_)
+        return;
+    form_->deleteLater();
+    form_ = nullptr;
+    emit formChanged();
+}
+
+void BrochureProductListViewController::createNewBrandBtn() {
+    if (!form_)
+        return;
+    if (!form_->isComplete()) {
+        alerts_.inform(attention, QStringLiteral("Se han de informar todos los campos obligatorios *"), this);
+        return;
+    }
+    // Only the brands on show are compared: the filters take part.
+    if (brands_.hasVisibleName(text::sanitised(form_->name()))) {
+        alerts_.inform(attention, QStringLiteral("Este producto ya está añadido a la Carta"), this);
+        return;
+    }
+    addBrand();
+    closeFormNewBrandBtn();
+}
+
+void BrochureProductListViewController::addBrand() {
+    AppSingleton& session = AppSingleton::shared();
+    const Int brand = session.catalogue().freeNegativeProductId();
+    session.changeCatalogue(
+        [&](Catalogue& grown) { grown.addProduct(form_->ownBrand().product(grown.brochures(), brand)); },
+        catalogueToGrow_.take());
+    catalogue_ = session.applicationInformation;
+    for (const auto& format : catalogue_->product(brand)->productList)
+        actualOrder_->setFormatSelected(true, format.id, brand);
+    brands_.setBrands(catalogue_, family_);
+    runCounter();
+    autosave(actualOrder_);
+}
+
+QString BrochureProductListViewController::minimumProductsSelectedLabel() const {
+    return labelOf(minimum_);
+}
+
+QString BrochureProductListViewController::maximumBrandsSelectedLabel() const {
+    return labelOf(maximum_);
+}
+
+QString BrochureProductListViewController::setOfBrandsChoicesLabel() const {
+    if (!isChalkboard_ || numberOfFormatsToSelect_.empty())
+        return {};
+    QStringList numbers;
+    for (const Int number : numberOfFormatsToSelect_)
+        numbers << QString::number(number);
+    return QStringLiteral("Debes elegir entre ") + numbers.join(QStringLiteral(" o ")) +
+           QStringLiteral(" marcas.");
+}
+
+QString BrochureProductListViewController::currentProductsSelectedLabel() const {
+    return labelOf(currentNumberOfSelections_);
+}
+
+double BrochureProductListViewController::progress() const {
+    return maximum_ && *maximum_ > 0 ? double(currentNumberOfSelections_) / double(*maximum_) : 0;
+}
+
+bool BrochureProductListViewController::isProgressRed() const {
+    if (isChalkboard_) // also red with no format chosen: then no number is allowed
+        return std::ranges::find(numberOfFormatsToSelect_, currentNumberOfSelections_) ==
+               numberOfFormatsToSelect_.end();
+    return (minimum_ && currentNumberOfSelections_ < *minimum_) ||
+           (maximum_ && currentNumberOfSelections_ > *maximum_);
+}
+
+} // namespace kavor

@@ -1,0 +1,537 @@
+#include "brochures/wizard/send/BrochureSendViewController.h"
+
+#include "base/StopProcess.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/TemporalBrochure.h"
+#include "brochures/wizard/StepSupport.h"
+#include "brochures/wizard/WizardAlerts.h"
+#include "catalogue/Catalogue.h"
+#include "device/Background.h"
+#include "device/OpenLink.h"
+#include "network/ServiceOperations.h"
+#include "network/ShowRequestFailure.h"
+#include "orders/OrderDiskManager.h"
+#include "orders/services/SendIntent.h"
+#include "screens/ResourceImages.h"
+#include "session/AppSingleton.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kavor {
+
+namespace {
+
+using Directory = OrderDiskManager::DirectoryName;
+using Order = SaveBrochuresOrder;
+
+QString lines(const std::vector<std::string>& sentences) {
+    QStringList list;
+    for (const std::string& sentence : sentences)
+        list.append(fromUtf8(sentence));
+    return list.join(QLatin1Char('\n'));
+}
+
+QString failureTitle(OrderRequestType type) {
+    const QString opening = QStringLiteral("El pedido no se puede ");
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        return opening + QStringLiteral("realizar");
+    case OrderRequestType::sendPreview:
+        return opening + QStringLiteral("previsualizar");
+    case OrderRequestType::saveCloud:
+        break;
+    }
+    return opening + QStringLiteral("sincronizar");
+}
+
+constexpr char savingText[] = "Guardando el pedido…";
+
+// What the veil of a send says.
+const char* veilText(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        return "Enviando el pedido…";
+    case OrderRequestType::sendPreview:
+        return "Preparando la vista previa…";
+    case OrderRequestType::saveCloud:
+        break;
+    }
+    return "Guardando el pedido en la nube…";
+}
+
+QUrl qurl(const Url& url) {
+    return {QString::fromStdString(url.text)};
+}
+
+} // namespace
+
+BrochureSendViewController::BrochureSendViewController(const WizardServices& services, QObject* parent)
+    : WizardStepViewController(parent)
+    , services_(services)
+    , catalogue_(AppSingleton::shared().applicationInformation)
+    , draft_(BrochureIntermediateData::temporalBrochure()) {
+    if (!catalogue_)
+        stopProcess("the catalogue of the send step");
+}
+
+BrochureSendViewController::~BrochureSendViewController() = default;
+
+QUrl BrochureSendViewController::view() const {
+    return stepView(QStringLiteral("BrochureSendView.qml"));
+}
+
+void BrochureSendViewController::viewDidLoad() {
+    type_ = AppSingleton::shared().brochureType();
+    if (const auto* parameters = sectionParameters(*catalogue_))
+        brochureTypeParameters_ = *parameters;
+}
+
+void BrochureSendViewController::viewWillAppear() {
+    styleLogosInfo_.clear();
+    if (const auto* style = draft_->currentStyle()) {
+        for (const Int identifier : style->logotypeIdentifiers) {
+            if (const auto* logo = catalogue_->logo(identifier))
+                styleLogosInfo_.push_back(logo);
+        }
+    }
+    summary_ = BrochureSendSummary::of(*draft_, *catalogue_);
+    emit summaryChanged();
+    emit freeTextForSupportChanged();
+    emit buttonsChanged();
+}
+
+// ---- The ways out
+// ----------------------------------------------------------------------------------------------
+
+void BrochureSendViewController::sendOrderAction() {
+    sendOrder(false);
+}
+
+void BrochureSendViewController::sendOrderMyselfAction() {
+    sendOrder(true);
+}
+
+void BrochureSendViewController::sendOrder(bool printedMyself) {
+    draft_->printedMyself = printedMyself;
+    emit editingShouldEnd();
+    if (draft_->sent) {
+        openLink(services_.urls, services_.alerts, orderURL().toString(QUrl::FullyEncoded));
+        return;
+    }
+    checkAndSend(OrderRequestType::sendToPrint);
+}
+
+void BrochureSendViewController::previewAction() {
+    emit editingShouldEnd();
+    checkAndSend(OrderRequestType::sendPreview);
+}
+
+void BrochureSendViewController::checkAndSend(OrderRequestType type) {
+    if (type == OrderRequestType::saveCloud) // an unfinished draft may be kept
+        return send(type);
+    const auto errors = draft_->validationErrors();
+    QStringList sentences;
+    for (const std::string& error : errors)
+        sentences.append(fromUtf8(error));
+    setMissing(sentences);
+    if (!errors.empty()) {
+        services_.alerts.inform(QStringLiteral("Pedido incompleto"), lines(errors));
+        return;
+    }
+    const auto warnings = draft_->priceWarnings();
+    if (!warnings.empty())
+        return askAboutPrices(type, lines(warnings));
+    send(type);
+}
+
+void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QString& warnings) {
+    services_.alerts.present(dialogue(QStringLiteral("¿Los precios son correctos?"), warnings,
+                                      {{QStringLiteral("Corregir"), AlertButton::Role::Cancel},
+                                       {QStringLiteral("Continuar"), AlertButton::Role::Normal}}),
+                             this, [this, type](const AlertAnswer& answer) {
+                                 if (answer.button == 1)
+                                     send(type);
+                             });
+}
+
+void BrochureSendViewController::send(OrderRequestType type) {
+    if (!services_.network.isReachable())
+        return sendOffline(type);
+    const Order order = draft_->makeOrder(type, type != OrderRequestType::saveCloud);
+    const QByteArray key = send_intent::keyFor(draft_->unansweredSends, order);
+    autosave(draft_); // the key outlives the process
+    services_.network.saveOrder(
+        order,
+        {wait_.begin(veilText(type), [this, type] { left(type); }),
+         [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
+         [this, order](const RequestFailure& failure) { failed(order, failure); }},
+        key);
+}
+
+// An answer ends the intent, a lost one keeps its key for the next tap.
+void BrochureSendViewController::endIntent(const SaveBrochuresOrder& order) {
+    send_intent::answered(draft_->unansweredSends, order);
+    autosave(draft_);
+}
+
+void BrochureSendViewController::sendOffline(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        return queueOffline();
+    case OrderRequestType::sendPreview:
+        services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+        return;
+    case OrderRequestType::saveCloud:
+        services_.alerts.inform(
+            QStringLiteral("Guardado sólo localmente"),
+            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
+        services_.sync.startOrderSync();
+        return;
+    }
+}
+
+void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const RequestFailure& failure) {
+    const OrderRequestType type = order.save;
+    wait_.end();
+    if (!send_intent::isAnswerLost(failure))
+        endIntent(order);
+    showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
+    if (type == OrderRequestType::saveCloud)
+        services_.sync.startOrderSync();
+}
+
+// The same as a lost answer: the order may have been made, and its key stays for the next send.
+void BrochureSendViewController::left(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        services_.alerts.inform(
+            QStringLiteral("Atención"),
+            QStringLiteral(
+                "Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin cambiarlo, "
+                "no se realizará dos veces."));
+        return;
+    case OrderRequestType::sendPreview:
+        return;
+    case OrderRequestType::saveCloud:
+        services_.alerts.inform(
+            QStringLiteral("Guardado sólo localmente"),
+            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
+        services_.sync.startOrderSync();
+        return;
+    }
+}
+
+// ---- Answers
+// ---------------------------------------------------------------------------------------------------
+
+void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
+                                      const SaveBrochuresOrderResponse& response) {
+    wait_.end();
+    // An order that was taken without saying where it is may be sent again, and is still the same one.
+    if (order.save != OrderRequestType::sendToPrint || response.urlOrder)
+        endIntent(order);
+    switch (order.save) {
+    case OrderRequestType::sendToPrint:
+        return printed(response);
+    case OrderRequestType::sendPreview:
+        if (!response.urlPDF) {
+            services_.alerts.inform(QStringLiteral("Error"),
+                                    QStringLiteral("No hay url que previsualizar. Contacte con soporte."));
+            return;
+        }
+        previewURL_ = qurl(*response.urlPDF);
+        emit previewRequested(*previewURL_);
+        return;
+    case OrderRequestType::saveCloud:
+        return savedInCloud(response);
+    }
+}
+
+void BrochureSendViewController::printed(const SaveBrochuresOrderResponse& response) {
+    if (!response.urlOrder) {
+        services_.alerts.inform(
+            QStringLiteral("Error"),
+            QStringLiteral("No hay url para ver el pedido realizado. Contacte con soporte."));
+        return;
+    }
+    TemporalBrochure::shared().removeAll();
+    markSent(*draft_, response.urlOrder->text);
+    emit buttonsChanged();
+    services_.alerts.inform(QStringLiteral("Éxito"), fromUtf8(response.message.value_or("")));
+}
+
+void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& response) {
+    services_.alerts.inform(QStringLiteral("Pedido guardado"),
+                            QStringLiteral("El pedido se encuentra guardado en local y sincronizado"));
+    if (response.orderId)
+        draft_->orderIdentifier = response.orderId;
+    if (response.customerId) {
+        if (!draft_->customerInformation)
+            draft_->customerInformation.emplace();
+        draft_->customerInformation->id = response.customerId;
+    }
+    autosave(draft_);
+    if (!draft_->fileName)
+        return;
+    // The identifiers stand on disk too, so that the order is not kept twice in the cloud.
+    runInBackground(
+        this,
+        [&orders = services_.orders, order = draft_->keptOrder(OrderRequestType::saveCloud, false),
+         file = OrderDiskManager::fileName(*draft_->fileName)] {
+            return orders.update(order, file, Directory::draft);
+        },
+        [](bool) {}); // a failure is logged
+}
+
+// ---- Files
+// -----------------------------------------------------------------------------------------------------
+
+void BrochureSendViewController::queueOffline() {
+    showVeil(true, savingText);
+    std::string name = "Sin enviar";
+    for (int number = 1; services_.orders.exists<Order>(name, Directory::outbox); ++number)
+        name = "Sin enviar(" + std::to_string(number) + ")";
+    KeptOrder order{draft_->makeOrder(OrderRequestType::sendToPrint, true)};
+    // What may be at the server already goes by the key under which it was sent.
+    if (auto known = send_intent::sentWithoutAnswer(draft_->unansweredSends, order); !known.empty())
+        order.unansweredSends = std::move(known);
+    runInBackground(
+        this,
+        [&orders = services_.orders, name, order] { return orders.create(order, Directory::outbox, name); },
+        [this, name, order](bool written) {
+            showVeil(false);
+            if (written)
+                noteQueued(order, OrderDiskManager::fileName(name));
+            services_.alerts.inform(
+                QStringLiteral("Sin conexión a internet."),
+                written ? QStringLiteral("Su pedido ha sido guardado en borradores con el nombre "
+                                         "\"%1\".")
+                              .arg(fromUtf8(name))
+                        : QStringLiteral("Su pedido no se ha podido guardar"));
+        });
+}
+
+// The order may still be sent from here once the network is back: then it is the one of the file.
+void BrochureSendViewController::noteQueued(const KeptOrder& order, const std::string& fileName) {
+    const auto moment = services_.orders.moment<KeptOrder>(fileName, Directory::outbox);
+    if (!moment)
+        return;
+    send_intent::noteQueued(draft_->unansweredSends, order,
+                            send_intent::keyOfFile(order, Directory::outbox, fileName, *moment));
+    autosave(draft_);
+}
+
+void BrochureSendViewController::saveOrderAction() {
+    emit editingShouldEnd();
+    const auto ask = [this] { askForName(fromUtf8(draft_->fileName.value_or(""))); };
+    if (!draft_->sent)
+        return ask();
+    askForAnotherOrder(services_.alerts, this, [this, ask](bool another) {
+        if (!another)
+            return;
+        beginAnotherOrder(*draft_);
+        viewWillAppear();
+        ask();
+    });
+}
+
+void BrochureSendViewController::askForName(const QString& proposal) {
+    AlertRequest request = dialogue(QStringLiteral("Guardar como"), {},
+                                    {{QStringLiteral("Guardar"), AlertButton::Role::Normal},
+                                     {QStringLiteral("Cancelar"), AlertButton::Role::Cancel}});
+    request.textField = AlertTextField{QStringLiteral("Nombre:"), proposal, 0};
+    services_.alerts.present(std::move(request), this, [this](const AlertAnswer& answer) {
+        if (answer.button == 0 && !answer.text.isEmpty())
+            saveUnderName(answer.text);
+    });
+}
+
+void BrochureSendViewController::saveUnderName(const QString& name) {
+    const std::string plainName = name.trimmed().toStdString();
+    if (const auto refusal = OrderDiskManager::refusalOf(plainName))
+        return services_.alerts.inform(QStringLiteral("Atención"), fromUtf8(*refusal), this,
+                                       [this, name] { askForName(name); });
+    if (!services_.orders.exists<Order>(plainName, Directory::draft))
+        return writeDraftFile(plainName);
+    services_.alerts.present(
+        dialogue(QStringLiteral("Atención"),
+                 QStringLiteral("Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?"),
+                 {{QStringLiteral("No"), AlertButton::Role::Cancel},
+                  {QStringLiteral("Sí"), AlertButton::Role::Destructive}}),
+        this, [this, plainName](const AlertAnswer& answer) {
+            if (answer.button == 1)
+                writeDraftFile(plainName);
+        });
+}
+
+void BrochureSendViewController::writeDraftFile(const std::string& name) {
+    showVeil(true, savingText);
+    const auto former = std::exchange(draft_->fileName, name);
+    // Whoever sends the file afterwards does so under the key under which this step sends it.
+    send_intent::keyFor(draft_->unansweredSends, draft_->makeOrder(OrderRequestType::saveCloud, false));
+    autosave(draft_);
+    runInBackground(
+        this,
+        [&orders = services_.orders, name, order = draft_->keptOrder(OrderRequestType::saveCloud, false)] {
+            return orders.exists<Order>(name, Directory::draft)
+                       ? orders.update(order, OrderDiskManager::fileName(name), Directory::draft)
+                       : orders.create(order, Directory::draft, name);
+        },
+        [this, former](bool written) {
+            showVeil(false);
+            if (written)
+                return checkAndSend(OrderRequestType::saveCloud);
+            draft_->fileName = former; // the draft is not in a file of that name
+            autosave(draft_);
+            services_.alerts.inform(QStringLiteral("Error al guardar pedido."),
+                                    QStringLiteral("Su pedido no se ha podido guardar"));
+        });
+}
+
+// ---- What the view shows
+// ---------------------------------------------------------------------------------------
+
+void BrochureSendViewController::myselfAction() {
+    services_.alerts.inform(QStringLiteral("Información"),
+                            fromUtf8(catalogue_->information().validations.printedMyselfHelptext));
+}
+
+void BrochureSendViewController::printedKavorAction() {
+    const Validations& validations = catalogue_->information().validations;
+    services_.alerts.inform(QStringLiteral("Información"), fromUtf8(brochureTypeParameters_.withPrinter
+                                                                        ? validations.printedKavorHelptext
+                                                                        : validations.printedMyselfHelptext));
+}
+
+void BrochureSendViewController::finishSupportComment(const QString& comment) {
+    if (comment == freeTextForSupport())
+        return;
+    draft_->supportComment = comment.toStdString();
+    emit freeTextForSupportChanged();
+}
+
+void BrochureSendViewController::setPanelInfoOrderVisible(bool visible) {
+    if (panelInfoOrderVisible_ == visible)
+        return;
+    panelInfoOrderVisible_ = visible;
+    emit panelInfoOrderVisibleChanged();
+}
+
+void BrochureSendViewController::setMissing(const QStringList& sentences) {
+    if (missing_ == sentences)
+        return;
+    missing_ = sentences;
+    emit missingChanged();
+}
+
+QString BrochureSendViewController::brochureWord() const {
+    if (!type_)
+        return {};
+    const auto word = label(*type_);
+    return QString::fromUtf8(word.data(), qsizetype(word.size()));
+}
+
+bool BrochureSendViewController::isLocalNameMissing() const {
+    return !draft_->customerInformation || draft_->customerInformation->name.empty();
+}
+
+QString BrochureSendViewController::localNameLabel() const {
+    return isLocalNameMissing() ? QStringLiteral("Nombre del local no especificado")
+                                : fromUtf8(draft_->customerInformation->name);
+}
+
+QString BrochureSendViewController::orderDataInfoLeft() const {
+    return fromUtf8(summary_.orderDataInfoLeft);
+}
+QString BrochureSendViewController::orderDataInfoLeftWarning() const {
+    return fromUtf8(summary_.orderDataInfoLeftWarning);
+}
+QString BrochureSendViewController::orderDataInfoRight() const {
+    return fromUtf8(summary_.orderDataInfoRight);
+}
+QString BrochureSendViewController::orderDataInfoRightWarning() const {
+    return fromUtf8(summary_.orderDataInfoRightWarning);
+}
+
+bool BrochureSendViewController::isStyleImageVisible() const {
+    return draft_->includePaperBrochure || brochureTypeParameters_.allowDigitalPdf;
+}
+
+QString BrochureSendViewController::styleImage() const {
+    const auto* style = draft_->currentStyle();
+    return style ? resourceImageUrl(style->firstImage) : QString();
+}
+
+QString BrochureSendViewController::styleName() const {
+    const auto* style = draft_->currentStyle();
+    return style ? fromUtf8(style->name) : QString();
+}
+
+bool BrochureSendViewController::isStyleDigitalImageVisible() const {
+    return draft_->includeDigitalBrochure;
+}
+
+QString BrochureSendViewController::styleDigitalImage() const {
+    const auto* style = draft_->currentStyleDigital();
+    return style ? resourceImageUrl(style->firstImage) : QString();
+}
+
+QString BrochureSendViewController::styleDigitalName() const {
+    const auto* style = draft_->currentStyleDigital();
+    return style ? fromUtf8(style->name) : QString();
+}
+
+QStringList BrochureSendViewController::brandImages() const {
+    const auto logos = draft_->currentLogos();
+    if (!logos || !isStyleImageVisible())
+        return {};
+    QStringList images;
+    for (const Int identifier : {logos->firstIdentifier, logos->secondIdentifier, logos->thirdIdentifier}) {
+        const auto logo = std::ranges::find(styleLogosInfo_, identifier, &Brochures::Logo::id);
+        if (logo != styleLogosInfo_.end())
+            images.append(resourceImageUrl((*logo)->image));
+    }
+    return images;
+}
+
+QString BrochureSendViewController::localLogoImage() const {
+    const auto& customer = draft_->customerInformation;
+    return customer && customer->imageLogo ? dataImageUrl(*customer->imageLogo) : QString();
+}
+
+QString BrochureSendViewController::logoLabel() const {
+    return localLogoImage().isEmpty() ? QStringLiteral("Sin logotipo") : QString();
+}
+
+QString BrochureSendViewController::freeTextForSupport() const {
+    return fromUtf8(draft_->supportComment.value_or(""));
+}
+
+QString BrochureSendViewController::makeOrderButtonTitle() const {
+    if (draft_->sent)
+        return QStringLiteral("Ver pedido");
+    if (type_ == BrochureType::video)
+        return QStringLiteral("Realizar pedido");
+    return type_ == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
+                                          : QStringLiteral("Realizar pedido con impresión");
+}
+
+bool BrochureSendViewController::isOrderSent() const {
+    return draft_->sent.has_value();
+}
+
+QUrl BrochureSendViewController::orderURL() const {
+    return draft_->sent ? qurl(Url{draft_->sent->url}) : QUrl();
+}
+
+bool BrochureSendViewController::isPrintedKavorButtonVisible() const {
+    return !draft_->sent && type_ != BrochureType::video;
+}
+
+bool BrochureSendViewController::isPrintedMyselfVisible() const {
+    return !draft_->sent && brochureTypeParameters_.withPrinter &&
+           catalogue_->information().validations.withPrintedMyself;
+}
+
+} // namespace kavor

@@ -1,0 +1,40 @@
+#include "session/SectionIdentifier.h"
+
+namespace kavor {
+
+namespace {
+
+std::string text(BrochureType type) {
+    return "Brochure(" + std::string(caseName(type)) + ")";
+}
+std::string text(ApplicationType type) {
+    return "Textile(" + std::string(caseName(type)) + ")";
+}
+std::string text(PromotionType type) {
+    switch (type) {
+    case PromotionType::carteleria:
+        return "Promotion(carteleria)";
+    case PromotionType::promotion:
+        return "Promotion(promotion)";
+    case PromotionType::carteleriaVino:
+        return "Promotion(carteleriaVino)";
+    }
+    return "Promotion";
+}
+std::string text(SectionIdentifier::SellingSheet) {
+    return "SellingSheet";
+}
+std::string text(SectionIdentifier::Activations) {
+    return "Activations";
+}
+std::string text(SectionIdentifier::Rrss) {
+    return "rrss";
+}
+
+} // namespace
+
+std::string SectionIdentifier::text() const {
+    return std::visit([](const auto& kind) { return kavor::text(kind); }, value);
+}
+
+} // namespace kavor

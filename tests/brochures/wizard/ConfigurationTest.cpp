@@ -1,0 +1,384 @@
+#include "brochures/wizard/WizardFixture.h"
+#include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace kavor {
+namespace {
+
+class ConfigurationTest : public WizardTest {
+protected:
+    std::unique_ptr<BrochureConfigurationViewController> step;
+
+    BrochureConfigurationViewController& open() {
+        step = std::make_unique<BrochureConfigurationViewController>(services, nullptr);
+        step->viewDidLoad();
+        step->viewWillAppear();
+        return *step;
+    }
+    static std::string png() {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QImage picture(2, 2, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        picture.save(&buffer, "PNG");
+        return "data:image/png;base64," + bytes.toBase64().toStdString();
+    }
+    [[nodiscard]] std::string field(const char* name) const { return step->fieldText(name).toStdString(); }
+};
+
+TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
+    struct Case {
+        BrochureType type;
+        const char* freeText;
+        const char* paper;
+    };
+    const char* below = "Texto libre (se mostrará debajo del título)";
+    const char* back = "Texto Libre (esta información se mostrará en la contraportada)";
+    for (const Case& each : {Case{BrochureType::chalkboard, below, "Solicitar Carta Impresa en papel"},
+                             Case{BrochureType::mantel, below, "Solicitar Carta Impresa en papel"},
+                             Case{BrochureType::video, back, "Solicitar Carta en formato Vídeo"},
+                             Case{BrochureType::beer, back, "Solicitar Carta Impresa en papel"}}) {
+        enter(each.type);
+        open();
+        EXPECT_EQ(step->freeTextLabel().toStdString(), each.freeText);
+        EXPECT_EQ(step->papeBrochureLabel().toStdString(), each.paper);
+    }
+    EXPECT_EQ(step->tevoLabel(), "Código cliente");
+    EXPECT_EQ(step->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
+    session.loginResult->customerCodeRequired = true;
+    EXPECT_EQ(step->tevoLabel(), "Código cliente*");
+    EXPECT_TRUE(step->tevoAviseLabel().startsWith("Si no introduces el código cliente REAL del PdV, "));
+}
+
+TEST_F(ConfigurationTest, FieldsShowAsTheKindAllows) {
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 2; });
+    open();
+    EXPECT_EQ(step->freeTextFields()->rowCount(), 2);
+    EXPECT_EQ(step->onlineFields()->rowCount(), 2);
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->isRRSSAvailable = true;
+        type.parameters->freeTextNumberOfFields = 7; // there are three
+    });
+    open();
+    EXPECT_EQ(step->freeTextFields()->rowCount(), 3);
+    EXPECT_EQ(step->onlineFields()->rowCount(), 5);
+}
+
+TEST_F(ConfigurationTest, ALeftFieldIsInTheDraftAndTheCopyAndAnEmptyOneIsUnset) {
+    open();
+    step->finishText("contactEmailTextField", "olmo@bar.example");
+    EXPECT_EQ(temporaryCopy()->menu.customer.email, "olmo@bar.example");
+    step->finishText("contactEmailTextField", "");
+    EXPECT_FALSE(draft().customerInformation->email);
+    EXPECT_FALSE(temporaryCopy()->menu.customer.email);
+}
+
+TEST_F(ConfigurationTest, ATextBeyondItsLimitIsMarkedInUserPerceivedCharacters) {
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 1; });
+    open();
+    auto* fields = step->freeTextFields();
+    const auto error = [&] {
+        return fields->data(fields->index(0, 0), fields->roleNames().key("error")).toString();
+    };
+    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(10));
+    EXPECT_EQ(error(), QString());
+    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(11));
+    EXPECT_EQ(error(), "11 de 10 caracteres");
+}
+
+TEST_F(ConfigurationTest, SwitchesDecideTheDraftAndKeepTheirWorkingValues) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowSelectDigitalBrochure = true;
+        type.parameters->allowNotSelectPaperBrouchure = true;
+    });
+    open();
+    step->switchPaperBrochure(false);
+    EXPECT_FALSE(draft().includePaperBrochure);
+    EXPECT_FALSE(draft().includePaperBrochureTmp);
+    step->switchDigitalBrochure(false); // takes the QR material with it
+    EXPECT_FALSE(draft().includeDigitalBrochure);
+    EXPECT_FALSE(draft().printDigitalBrochure);
+    EXPECT_TRUE(draft().printDigitalBrochureTmp);
+    EXPECT_TRUE(step->isDemandOn());
+    step->switchDigitalBrochure(true);
+    EXPECT_TRUE(draft().printDigitalBrochure);
+    step->switchDigitalBrochureDemand(false);
+    EXPECT_FALSE(draft().printDigitalBrochure);
+    EXPECT_FALSE(temporaryCopy()->printDigitalBrochure);
+    EXPECT_FALSE(alerts.isVisible());
+}
+
+TEST_F(ConfigurationTest, PaperTogetherWithPrintedQrIsConfirmedOncePerChange) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowSelectDigitalBrochure = true;
+        type.parameters->allowNotSelectPaperBrouchure = true;
+    });
+    open();
+    EXPECT_FALSE(alerts.isVisible());
+    step->switchPaperBrochure(true);
+    EXPECT_TRUE(alert().starts_with(
+        "Información | Has solicitado carta impresa en papel y carta digital con impresión "
+        "de QRs.\nAl pulsar 'Aceptar' confirmas"));
+    EXPECT_TRUE(press("Aceptar"));
+    EXPECT_FALSE(alerts.isVisible());
+    step->switchDigitalBrochureDemand(true);
+    EXPECT_TRUE(press("Aceptar"));
+}
+
+TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
+    draft().includePaperBrochure = false;
+    open();
+    EXPECT_FALSE(step->isPaperVisible());
+    EXPECT_TRUE(draft().includePaperBrochure);
+    EXPECT_FALSE(step->isDigitalVisible());
+    EXPECT_FALSE(draft().includeDigitalBrochure); // or no such kind could ever be sent
+    EXPECT_FALSE(draft().printDigitalBrochure);
+    EXPECT_TRUE(draft().includeDigitalBrochureTmp);
+}
+
+TEST_F(ConfigurationTest, LanguagesAreThoseOfTheKindByPosition) {
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
+    open();
+    EXPECT_EQ(step->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
+    step->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
+    EXPECT_FALSE(draft().selectedLanguageIdentifiers);
+    step->chooseMainLanguage(2);
+    step->chooseSecondaryLanguage(1);
+    EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, 1}));
+    EXPECT_EQ(step->secondaryLanguage(), 1);
+    step->chooseSecondaryLanguage(0);
+    EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, std::nullopt}));
+}
+
+TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
+    using Languages = BrochureIntermediateData::MainAndSecondary;
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
+    open();
+    step->chooseMainLanguage(1);
+    EXPECT_EQ(step->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
+    step->chooseSecondaryLanguage(2);
+    EXPECT_EQ(draft().currentLanguages(), (Languages{2, 3}));
+    step->chooseMainLanguage(2); // the two change places
+    EXPECT_EQ(draft().currentLanguages(), (Languages{3, 2}));
+    EXPECT_EQ(step->secondaryLanguages().value(step->secondaryLanguage()), "Catalán");
+    step->chooseMainLanguage(0);
+    EXPECT_EQ(draft().currentLanguages(), (Languages{1, 2}));
+    draft().setLanguages(1, 1); // an order from elsewhere
+    EXPECT_EQ(step->secondaryLanguage(), 0);
+    step->serializeAutoSave();
+    EXPECT_EQ(draft().currentLanguages(), (Languages{1, std::nullopt}));
+}
+
+TEST_F(ConfigurationTest, ASecondPriceStartsWithTheFirstListAndChoosingItAgainKeepsWhatWasTyped) {
+    open();
+    draft().setFormatSelected(true, knownFormat, knownBrand);
+    EXPECT_EQ(step->priceTypes(), (QStringList{"Terraza", "Noche"}));
+    step->chooseSecondPrice(true);
+    EXPECT_EQ(draft().currentSecondPrice(), PriceType::terrace);
+    draft().setPrice(PriceType::terrace, knownFormat, knownBrand, 3.5);
+    step->choosePriceType(0);
+    EXPECT_EQ(draft().priceOf(PriceType::terrace, knownFormat, knownBrand), 3.5);
+    step->choosePriceType(1);
+    EXPECT_EQ(draft().priceOf(PriceType::night, knownFormat, knownBrand), 2.0);
+    step->chooseSecondPrice(false);
+    EXPECT_FALSE(draft().currentSecondPrice());
+}
+
+TEST_F(ConfigurationTest, AChalkboardStartsOnTheDefaultTypeAndItsElementsChooseTheFormat) {
+    enter(BrochureType::chalkboard);
+    open();
+    EXPECT_TRUE(step->isOrientationPaneVisible());
+    EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 31);
+    step->chooseBlackboardType(0);
+    EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 30);
+    step->formatSelected(21);
+    EXPECT_EQ(draft().selectedFormatIdentifier, 21);
+    EXPECT_EQ(temporaryCopy()->menu.orientation, 21);
+
+    enter(BrochureType::beer);
+    BrochureIntermediateData::replaceTemporalBrochure();
+    open();
+    EXPECT_FALSE(step->isOrientationPaneVisible());
+    EXPECT_FALSE(draft().selectedBlackboardTypeIdentifier);
+}
+
+TEST_F(ConfigurationTest, VisualFormatsAreSortedAndGoToTheDraft) {
+    open();
+    EXPECT_EQ(step->menuFormats(), (QStringList{"Lista", "Completa"}));
+    step->chooseMenuFormat(1);
+    EXPECT_EQ(draft().selectedFormatVisualizeId, 1);
+    EXPECT_EQ(step->menuFormat(), 1);
+}
+
+TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
+    Customer found;
+    found.id = 70;
+    found.name = "Bar Pino";
+    found.tevo = "OTHER";
+    found.email = "pino@bar.example";
+    found.imageLogo = png();
+    found.priorityBrandIdentifiers = {11};
+    open();
+    step->editText("tevoTextField", "B0001");
+    step->editText("contactTelephoneTextField", "600");
+    step->searchTEVOCodeAction();
+    EXPECT_EQ(std::get<0>(network.requests.getCustomerDataFromTevoCode.calls.at(0)), "B0001");
+    network.requests.getCustomerDataFromTevoCode.succeed({found});
+    EXPECT_EQ(field("establishmentNameTextField"), "Bar Pino");
+    EXPECT_EQ(field("tevoTextField"), "B0001");
+    EXPECT_EQ(field("contactTelephoneTextField"), "");
+    EXPECT_EQ(step->attachLogoLabel(), "Logotipo");
+    const Customer& kept = *draft().customerInformation;
+    EXPECT_EQ(kept.id, 70);
+    EXPECT_EQ(kept.priorityBrandIdentifiers, (std::vector<Int>{11}));
+    EXPECT_FALSE(kept.telephone);
+    EXPECT_EQ(kept.imageLogo, png());
+
+    found.imageLogo.reset();
+    step->searchTEVOCodeAction();
+    network.requests.getCustomerDataFromTevoCode.succeed({found});
+    EXPECT_EQ(step->attachLogoLabel(), "Añadir logotipo");
+    EXPECT_FALSE(draft().customerInformation->imageLogo);
+}
+
+TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhenTheNextFindsNobody) {
+    auto& request = network.requests.getCustomerDataFromTevoCode;
+    struct Case {
+        std::function<void()> action;
+        bool stays;
+    };
+    const Case cases[] = {
+        {[&] { step->finishText("contactTelephoneTextField", "600"); }, true},
+        {[&] { step->finishText("tevoTextField", "B0001"); }, true}, // the field is left as it was
+        {[&] { step->finishText("tevoTextField", "B0002"); }, false},
+        {[&] { step->finishText("establishmentNameTextField", "Bar Roble"); }, false},
+        {[&] {
+             open(); // the draft fills the form anew
+             step->finishText("establishmentNameTextField", "Bar Roble");
+         },
+         false},
+        {[&] {
+             step->searchTEVOCodeAction();
+             request.succeed({});
+         },
+         false},
+        {[&] {
+             step->searchTEVOCodeAction();
+             request.fail(failureWith({"motivo"}));
+         },
+         true},
+    };
+    Customer found;
+    found.id = 70;
+    found.name = "Bar Pino";
+    found.placeLocalityId = 71;
+    found.placeProvinceId = 72;
+    found.priorityBrandIdentifiers = {11};
+    for (const Case& each : cases) {
+        open().editText("tevoTextField", "B0001");
+        step->searchTEVOCodeAction();
+        request.succeed({found});
+        each.action();
+        const Customer& kept = *draft().customerInformation;
+        EXPECT_EQ(kept.id.has_value(), each.stays);
+        EXPECT_EQ(kept.placeLocalityId.has_value(), each.stays);
+        EXPECT_EQ(kept.placeProvinceId.has_value(), each.stays);
+        EXPECT_EQ(kept.priorityBrandIdentifiers.has_value(), each.stays);
+        EXPECT_EQ(temporaryCopy()->menu.customer.id, kept.id);
+    }
+}
+
+TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVeilAway) {
+    struct Case {
+        const char* alert;
+        std::function<void()> answer;
+    };
+    auto& request = network.requests.getCustomerDataFromTevoCode;
+    bool veil = false;
+    const auto observer = NotificationCenter::shared().observe(
+        notification::visibilityVeilView,
+        [&](const NotificationInfo& info) { veil = std::get<bool>(info.at("show")); });
+    const Case cases[] = {
+        {"Información | No se ha encontrado ningún cliente asociado al código TEVO introducido.\nDeberás "
+         "completar la "
+         "información para este Punto de Venta en esta pantalla.",
+         [&] { request.succeed({}); }},
+        {"Incidencia | el servidor descansa",
+         [&] {
+             request.fail(failureWith({"el servidor descansa", "y más"}));
+         }},
+    };
+    open();
+    step->editText("establishmentNameTextField", "Bar Olmo");
+    for (const Case& each : cases) {
+        step->searchTEVOCodeAction();
+        EXPECT_TRUE(veil);
+        each.answer();
+        EXPECT_FALSE(veil);
+        EXPECT_EQ(alert(), each.alert);
+        alerts.answerButton(0);
+        EXPECT_EQ(field("establishmentNameTextField"), "Bar Olmo");
+    }
+    network.reachable = false;
+    step->searchTEVOCodeAction();
+    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
+    EXPECT_EQ(request.calls.size(), 2U);
+}
+
+TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
+    open();
+    int previews = 0;
+    QObject::connect(step.get(), &BrochureConfigurationViewController::previewSegueRequested,
+                     [&] { ++previews; });
+    session.loginResult->customerCodeRequired = true;
+    step->previewAction();
+    EXPECT_EQ(alert(), "Atencion | Has de informar de un código cliente.");
+    EXPECT_EQ(previews, 0);
+    step->editText("tevoTextField", "B0001");
+    step->previewAction();
+    EXPECT_EQ(previews, 1);
+}
+
+TEST_F(ConfigurationTest, TheLocationFillsTheAddressOnlyWhenTheUserAgrees) {
+    open();
+    geocoder.placemark = Placemark{"28001", "Madrid", "Comunidad de Madrid", std::nullopt};
+    step->locateDeviceAndFillFields();
+    EXPECT_EQ(alert(), "¿Desea utilizar la siguiente ubicación? | 28001, Madrid, Comunidad de Madrid");
+    press("No");
+    EXPECT_EQ(field("municipalityTextField"), "");
+    step->locateDeviceAndFillFields();
+    press("Sí");
+    EXPECT_EQ(field("postalCodeTextField"), "28001");
+    EXPECT_EQ(draft().customerInformation->placeProvinceName, "Comunidad de Madrid");
+
+    geocoder.placemark.reset();
+    geocoder.error = "no signal";
+    step->locateDeviceAndFillFields();
+    EXPECT_TRUE(alert().starts_with("Error | No se ha podido obtener la localización."));
+    press("Reintentar");
+    EXPECT_EQ(geocoder.asked.size(), 4U);
+    press("Cancelar");
+    locationService.available = false;
+    step->locateDeviceAndFillFields();
+    EXPECT_EQ(alert(), " | No se puede utilizar la ubicación, está deshabilitada.");
+}
+
+TEST_F(ConfigurationTest, APhotoBecomesTheLogoNoLargerThanNeeded) {
+    open();
+    photos.photo = QImage(3000, 1500, QImage::Format_RGB32);
+    photos.photo->fill(Qt::red);
+    step->searchLogoInGallery();
+    ASSERT_TRUE(
+        waitFor([] { return draft().customerInformation && draft().customerInformation->imageLogo; }));
+    const auto text = QByteArray::fromStdString(*draft().customerInformation->imageLogo);
+    const auto logo = QImage::fromData(QByteArray::fromBase64(text.mid(text.indexOf(',') + 1)));
+    EXPECT_EQ(logo.size(), QSize(1024, 512));
+    step->removeImageButonAction();
+    EXPECT_FALSE(draft().customerInformation->imageLogo);
+}
+
+} // namespace
+} // namespace kavor

@@ -1,0 +1,550 @@
+#include "brochures/wizard/WizardFixture.h"
+#include "brochures/wizard/send/BrochureSendSummary.h"
+#include "brochures/wizard/send/BrochureSendViewController.h"
+#include "orders/services/SendIntent.h"
+#include "screens/WebPreviewViewController.h"
+#include "support/ScriptedServer.h"
+
+namespace kavor {
+namespace {
+
+using Directory = OrderDiskManager::DirectoryName;
+using Order = SaveBrochuresOrder;
+
+class SendTest : public WizardTest {
+protected:
+    std::unique_ptr<BrochureSendViewController> step;
+    QUrl previewed;
+    bool veil = false;
+    NotificationCenter::Subscription observer = NotificationCenter::shared().observe(
+        notification::visibilityVeilView,
+        [this](const NotificationInfo& info) { veil = std::get<bool>(info.at("show")); });
+
+    BrochureSendViewController& open() {
+        draft().brochureTypeParameters = parametersOf(*session.brochureType()); // the frame's work
+        step = std::make_unique<BrochureSendViewController>(services, nullptr);
+        QObject::connect(step.get(), &WizardStepViewController::previewRequested,
+                         [this](const QUrl& url) { previewed = url; });
+        step->viewDidLoad();
+        step->viewWillAppear();
+        return *step;
+    }
+    void saveAs(const QString& name) {
+        step->saveOrderAction();
+        EXPECT_TRUE(press("Guardar", name));
+    }
+    // The key of the last request.
+    [[nodiscard]] QByteArray lastKey() const { return std::get<1>(network.requests.saveOrder.calls.back()); }
+    bool alertComes() {
+        return waitFor([this] { return alerts.isVisible() && !veil; });
+    }
+    [[nodiscard]] BrochureSendSummary summary() const {
+        return BrochureSendSummary::of(draft(), session.catalogue());
+    }
+};
+
+TEST_F(SendTest, AnEmptyDraftIsAllWarnings) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowOrderSheet = true;
+        type.parameters->withPennantBrand = true;
+    });
+    draft().includeDigitalBrochure = draft().printDigitalBrochure = false;
+    EXPECT_EQ(summary(),
+              (BrochureSendSummary{
+                  "",
+                  "Nombre del local no especificado\nComandero: no seleccionado\n"
+                  "Banderín de marca: no seleccionado\n",
+                  "",
+                  "Nombre del cliente sin especificar\nEmail del cliente sin especificar\n"
+                  "Teléfono de contacto del cliente sin especificar\nIdioma principal sin especificar\n"
+                  "Nº de cartas sin especificar\n"}));
+    draft().includePaperBrochure = false;
+    draft().printDigitalBrochure = true; // counts for nothing without any brochure
+    EXPECT_TRUE(summary().orderDataInfoRightWarning.ends_with("\nNº de unidades sin especificar\n"));
+    EXPECT_EQ(summary().orderDataInfoRight, "");
+}
+
+TEST_F(SendTest, AFullDraftIsSummedUpLineByLine) {
+    enter(BrochureType::beer, [](Brochures::Type& type) {
+        type.parameters->allowOrderSheet = type.parameters->withPennantBrand = type.parameters->withPennants =
+            true;
+        type.parameters->printSecondPrice = true;
+        type.parameters->freeTextNumberOfFields = 2;
+    });
+    completeDraft();
+    auto& customer = *draft().customerInformation;
+    customer.localPhone = "910";
+    customer.url = "olmo.example";
+    customer.instagram = "@olmo";
+    customer.freeText1 = "uno";
+    customer.freeText2 = "";
+    customer.freeText3 = "beyond the kind's fields";
+    draft().setLanguages(1, 2);
+    draft().setOrderSheet(8);
+    draft().setPennantBrand(9);
+    draft().setSecondPrice(PriceType::terrace);
+    draft().selectedNumberOfBrochures = {12345, std::nullopt};
+    draft().includeDigitalBrochure = draft().printDigitalBrochure = true;
+    draft().selectedQuantityQr = 20;
+    EXPECT_EQ(summary(),
+              (BrochureSendSummary{"910\nolmo.example\n@olmo\nuno\nComandero: Comanda (CM-1)\n"
+                                   "Banderín de marca: Brava \n",
+                                   "",
+                                   "Ana\nolmo@bar.example\n600\nCastellano\nCatalán\nNº de cartas: 12.345\n"
+                                   "Nº vinilos mesa: 20\nNº vinilos puerta: 0\nPedido con banderines",
+                                   "Nº de cartas de Terraza sin especificar\n"}));
+    draft().selectedNumberOfBrochures->secondary = 7;
+    draft().brandQrTypeSelected = 1;
+    EXPECT_NE(summary().orderDataInfoRight.find("Nº de cartas de Terraza: 7\nNº tacos de madera: 0\n"),
+              std::string::npos);
+}
+
+TEST_F(SendTest, ButtonsFollowTheKind) {
+    struct Case {
+        BrochureType type;
+        bool withPrinter;
+        const char* title;
+        bool kavor;
+        bool myself;
+        const char* help;
+    };
+    for (const Case& each :
+         {Case{BrochureType::video, false, "Realizar pedido", false, false, "la imprime usted"},
+          Case{BrochureType::encarte, false, "Realizar pedido sin impresión", true, false,
+               "la imprime usted"},
+          Case{BrochureType::beer, true, "Realizar pedido con impresión", true, true, "la imprimimos"}}) {
+        enter(each.type, [&](Brochures::Type& type) { type.parameters->withPrinter = each.withPrinter; });
+        open();
+        EXPECT_EQ(step->makeOrderButtonTitle().toStdString(), each.title);
+        EXPECT_EQ(step->isPrintedKavorButtonVisible(), each.kavor);
+        EXPECT_EQ(step->isPrintedMyselfVisible(), each.myself);
+        step->printedKavorAction();
+        EXPECT_EQ(alert(), std::string("Información | ") + each.help);
+        press("Aceptar");
+    }
+}
+
+TEST_F(SendTest, AnIncompleteOrderIsNeitherPrintedNorPreviewedButMayBeKept) {
+    open();
+    for (auto action :
+         {&BrochureSendViewController::sendOrderAction, &BrochureSendViewController::previewAction}) {
+        (step.get()->*action)();
+        EXPECT_TRUE(alert().starts_with("Pedido incompleto | Faltan por seleccionar los idiomas\n"));
+        EXPECT_FALSE(step->missing().isEmpty());
+        press("Aceptar");
+    }
+    saveAs("a medias");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::saveCloud);
+    EXPECT_TRUE(orders.exists<Order>("a medias", Directory::draft));
+}
+
+TEST_F(SendTest, HighPricesAreAskedAboutAndOnlyCorregirStops) {
+    completeDraft();
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 7.5);
+    open().sendOrderAction();
+    EXPECT_EQ(alert(), "¿Los precios son correctos? | Brava / Caña / Barra : 7.5€");
+    press("Corregir");
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+    step->previewAction();
+    press("Continuar");
+    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::sendPreview);
+}
+
+TEST_F(SendTest, EachAnswerEndsAsItsRequestSays) {
+    struct Case {
+        std::function<void()> action;
+        std::function<void(SaveBrochuresOrderResponse&)> answer; // none: the request fails
+        const char* alert;
+        bool sent;
+    };
+    const auto print = [&] { step->sendOrderAction(); };
+    const auto preview = [&] { step->previewAction(); };
+    const Case cases[] = {
+        {print, [](auto& answer) { answer.message = "hecho"; },
+         "Error | No hay url para ver el pedido realizado. Contacte con soporte.", false},
+        {print, {}, "El pedido no se puede realizar | motivo", false},
+        {preview, [](auto&) {}, "Error | No hay url que previsualizar. Contacte con soporte.", false},
+        {preview, {}, "El pedido no se puede previsualizar | motivo", false},
+        {print,
+         [](auto& answer) {
+             answer.urlOrder = Url{"http://server.example/order/1"};
+             answer.message = "hecho";
+         },
+         "Éxito | hecho", true},
+    };
+    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->withPrinter = true; });
+    completeDraft();
+    TemporalBrochure::shared().write(draft());
+    open();
+    for (const Case& each : cases) {
+        each.action();
+        ASSERT_TRUE(veil);
+        SaveBrochuresOrderResponse response;
+        if (each.answer) {
+            each.answer(response);
+            ASSERT_TRUE(network.requests.saveOrder.succeed(response));
+        } else {
+            ASSERT_TRUE(network.requests.saveOrder.fail(failureWith({"motivo"})));
+        }
+        EXPECT_FALSE(veil);
+        EXPECT_EQ(alert(), each.alert);
+        press("Aceptar");
+        EXPECT_EQ(step->isOrderSent(), each.sent);
+        EXPECT_EQ(temporaryCopy().has_value(), !each.sent);
+    }
+    EXPECT_EQ(step->makeOrderButtonTitle(), "Ver pedido");
+    EXPECT_FALSE(step->isPrintedKavorButtonVisible());
+    EXPECT_FALSE(step->isPrintedMyselfVisible());
+    step->sendOrderAction(); // shows the order and sends nothing
+    EXPECT_EQ(urls.opened, QStringList{"http://server.example/order/1"});
+    EXPECT_EQ(network.requests.saveOrder.calls.size(), std::size(cases));
+}
+
+TEST_F(SendTest, APreviewShowsTheDocumentOfTheAnswer) {
+    completeDraft();
+    open().previewAction();
+    SaveBrochuresOrderResponse answer;
+    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_EQ(previewed, QUrl("http://server.example/pdf/a.pdf"));
+    EXPECT_FALSE(alerts.isVisible());
+}
+
+TEST_F(SendTest, WhoPrintsStandsInTheOrder) {
+    completeDraft();
+    open();
+    step->sendOrderMyselfAction();
+    step->sendOrderAction();
+    EXPECT_TRUE(std::get<0>(network.requests.saveOrder.calls.at(0)).printedMyself);
+    EXPECT_FALSE(std::get<0>(network.requests.saveOrder.calls.at(1)).printedMyself);
+}
+
+TEST_F(SendTest, OfflineOrdersQueueUnderTheFirstFreeName) {
+    completeDraft();
+    network.reachable = false;
+    open();
+    for (const char* name : {"Sin enviar", "Sin enviar(1)", "Sin enviar(2)"}) {
+        step->sendOrderAction();
+        ASSERT_TRUE(alertComes());
+        EXPECT_EQ(alert(),
+                  std::string("Sin conexión a internet. | Su pedido ha sido guardado en borradores con el "
+                              "nombre \"") +
+                      name + "\".");
+        press("Aceptar");
+        const auto order = orders.retrieve<Order>(OrderDiskManager::fileName(name), Directory::outbox);
+        ASSERT_TRUE(order);
+        EXPECT_EQ(order->save, OrderRequestType::sendToPrint);
+    }
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+    step->previewAction();
+    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
+}
+
+TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
+    completeDraft();
+    network.reachable = false;
+    open();
+    std::filesystem::remove_all(folder / "orders");
+    step->sendOrderAction();
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(), "Sin conexión a internet. | Su pedido no se ha podido guardar");
+    press("Aceptar");
+    network.reachable = true;
+    draft().fileName = "mi carta";
+    saveAs("otra");
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(), "Error al guardar pedido. | Su pedido no se ha podido guardar");
+    EXPECT_EQ(draft().fileName, "mi carta");
+    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
+}
+
+TEST_F(SendTest, ANameThatCannotBeAFileIsRefusedWithItsReasonAndAskedForAgain) {
+    completeDraft();
+    draft().fileName = "mi carta";
+    open();
+    saveAs("terraza 1/2");
+    EXPECT_EQ(alert(), "Atención | El nombre no puede llevar el signo \"/\".");
+    press("Aceptar");
+    ASSERT_TRUE(alerts.current());
+    EXPECT_EQ(alerts.current()->textField->initialText, "terraza 1/2");
+    press("Guardar", "   ");
+    EXPECT_EQ(alert(), "Atención | El nombre no puede estar vacío.");
+    press("Aceptar");
+    press("Cancelar");
+    EXPECT_FALSE(alerts.isVisible());
+    EXPECT_FALSE(veil);
+    EXPECT_EQ(draft().fileName, "mi carta");
+}
+
+TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {
+    completeDraft();
+    open();
+    saveAs("");
+    EXPECT_FALSE(draft().fileName);
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    SaveBrochuresOrderResponse answer;
+    answer.orderId = 41;
+    answer.customerId = 42;
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_EQ(alert(), "Pedido guardado | El pedido se encuentra guardado en local y sincronizado");
+    press("Aceptar");
+    EXPECT_TRUE(waitFor([&] {
+        const auto stored = orders.retrieve<Order>("mi carta.zvo", Directory::draft);
+        return stored && stored->orderIdentifier == 41 && stored->menu.customer.id == 42;
+    }));
+    EXPECT_EQ(draft().orderIdentifier, 41);
+}
+
+TEST_F(SendTest, AnExistingNameIsOverwrittenOnlyWhenTheUserSaysSo) {
+    completeDraft();
+    Order other;
+    other.filename = "other";
+    ASSERT_TRUE(orders.create(other, Directory::draft, "mi carta"));
+    open();
+    const auto stored = [&] { return orders.retrieve<Order>("mi carta.zvo", Directory::draft)->filename; };
+    saveAs("mi carta");
+    EXPECT_EQ(alert(), "Atención | Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?");
+    press("No");
+    EXPECT_EQ(stored(), "other");
+    EXPECT_FALSE(draft().fileName);
+    saveAs("mi carta");
+    press("Sí");
+    EXPECT_TRUE(waitFor([&] { return stored() == "mi carta"; }));
+}
+
+TEST_F(SendTest, WhatCannotBeSynchronisedIsPlannedForLater) {
+    completeDraft();
+    open();
+    network.reachable = false;
+    saveAs("sin red");
+    ASSERT_TRUE(alertComes());
+    EXPECT_EQ(alert(),
+              "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha podido "
+              "sincronizar.");
+    EXPECT_EQ(sync.planned, 1);
+    press("Aceptar");
+    network.reachable = true;
+    saveAs("con fallo");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.fail(failureWith({"motivo"})); }));
+    EXPECT_EQ(alert(), "El pedido no se puede sincronizar | motivo");
+    EXPECT_EQ(sync.planned, 2);
+}
+
+// ---- One order, one key
+
+TEST_F(SendTest, ASecondTapAfterALostAnswerKeepsTheKeyAndAnAnswerEndsIt) {
+    struct Case {
+        RequestFailure failure;
+        bool keeps;
+    };
+    using Kind = RequestError::Kind;
+    completeDraft();
+    for (const Case& each : {Case{lostAnswer(Kind::Transport), true}, Case{lostAnswer(Kind::TimedOut), true},
+                             Case{lostAnswer(Kind::Decoding), true}, Case{failureWith({}, 502), true},
+                             Case{failureWith({}, 504), true}, Case{failureWith({"motivo"}, 422), false},
+                             Case{failureWith({}, 500), false}}) {
+        for (auto action :
+             {&BrochureSendViewController::sendOrderAction, &BrochureSendViewController::previewAction}) {
+            (open().*action)();
+            const QByteArray first = lastKey();
+            EXPECT_FALSE(first.isEmpty());
+            network.requests.saveOrder.fail(each.failure);
+            (open().*action)(); // the step was left and shown again
+            EXPECT_EQ(lastKey() == first, each.keeps) << each.failure.error.status;
+            network.requests.saveOrder.fail(failureWith({}));
+            while (alerts.isVisible())
+                press("Aceptar");
+        }
+    }
+}
+
+TEST_F(SendTest, AnotherContentIsAnotherIntentAndTheFirstIsStillItself) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    step->previewAction();
+    EXPECT_NE(lastKey(), first);
+    network.requests.saveOrder.fail(failureWith({}));
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
+    step->sendOrderAction();
+    EXPECT_NE(lastKey(), first);
+    network.requests.saveOrder.fail(failureWith({}));
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 2);
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, TheKeyOutlivesTheProcess) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    TemporalBrochure::shared().flush();
+    BrochureIntermediateData::replaceTemporalBrochure();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
+    open().sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, NeitherTheServersNumbersNorAFileNameMakeAnotherOrder) {
+    completeDraft();
+    open().sendOrderAction();
+    const QByteArray first = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    saveAs("por si acaso");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    SaveBrochuresOrderResponse stored;
+    stored.orderId = 41;
+    stored.customerId = 42;
+    network.requests.saveOrder.succeed(stored);
+    press("Aceptar");
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+    network.requests.saveOrder.succeed({}); // taken, but nobody says where it is
+    press("Aceptar");
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), first);
+}
+
+TEST_F(SendTest, ACloudSaveGoesUnderTheKeyOfItsFile) {
+    completeDraft();
+    open();
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    const auto file = orders.retrieve<KeptOrder>("mi carta.zvo", Directory::draft);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(send_intent::keyOfFile(*file, Directory::draft, "mi carta.zvo", {}), lastKey());
+}
+
+TEST_F(SendTest, AnOutboxFileIsTheOrderThatMayBeAtTheServerAndElseOneOfItsOwn) {
+    completeDraft();
+    open();
+    const auto queue = [&](const char* name, void (BrochureSendViewController::*action)() =
+                                                 &BrochureSendViewController::sendOrderAction) {
+        network.reachable = false;
+        (step.get()->*action)();
+        EXPECT_TRUE(alertComes());
+        press("Aceptar");
+        network.reachable = true;
+        const std::string file = OrderDiskManager::fileName(name);
+        const auto order = orders.retrieve<KeptOrder>(file, Directory::outbox);
+        const auto moment = orders.moment<KeptOrder>(file, Directory::outbox);
+        return order && moment ? send_intent::keyOfFile(*order, Directory::outbox, file, *moment)
+                               : QByteArray();
+    };
+    const QByteArray queued = queue("Sin enviar");
+    EXPECT_NE(queue("Sin enviar(1)"), queued) << "two files, two orders";
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), queued) << "sent from here, it is the order of the file";
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    EXPECT_EQ(queue("Sin enviar(2)"), queued);
+
+    step->sendOrderMyselfAction(); // who prints is not read back from a file
+    const QByteArray myself = lastKey();
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    EXPECT_EQ(queue("Sin enviar(3)", &BrochureSendViewController::sendOrderMyselfAction), myself);
+}
+
+// ---- What was sent
+
+TEST_F(SendTest, SavingAnOrderThatWasSentAsksWhetherItBecomesAnother) {
+    completeDraft();
+    draft().orderIdentifier = 7;
+    open().sendOrderAction();
+    SaveBrochuresOrderResponse answer;
+    answer.urlOrder = Url{"http://server.example/order/1"};
+    network.requests.saveOrder.succeed(answer);
+    press("Aceptar");
+    step->saveOrderAction();
+    EXPECT_EQ(alert(), "Atención | Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?");
+    press("No");
+    EXPECT_FALSE(alerts.isVisible());
+    EXPECT_TRUE(step->isOrderSent());
+    EXPECT_FALSE(temporaryCopy());
+    step->saveOrderAction();
+    press("Sí");
+    EXPECT_FALSE(step->isOrderSent());
+    EXPECT_FALSE(draft().orderIdentifier);
+    EXPECT_TRUE(press("Guardar", "otro"));
+    EXPECT_TRUE(waitFor([&] { return orders.exists<Order>("otro", Directory::draft); }));
+}
+
+TEST_F(SendTest, TheCommentForSupportGoesToTheDraftWhenItsFieldIsLeft) {
+    open().finishSupportComment("con cuidado");
+    EXPECT_EQ(draft().supportComment, "con cuidado");
+}
+
+TEST_F(SendTest, ADocumentOnTheDeviceIsShownFromThere) {
+    put(folder / "caches" / "PDFCache" / "a.pdf", "%PDF");
+    const WebPreviewViewController preview(QUrl("http://127.0.0.1:9/pdf/a.pdf"), "", downloader, clock,
+                                           nullptr);
+    EXPECT_TRUE(preview.source().isLocalFile());
+    EXPECT_FALSE(preview.isLoading());
+}
+
+TEST_F(SendTest, ADocumentThatDoesNotComeInTimeFailsForGoodUntilItIsAskedForAgain) {
+    ScriptedServer server;
+    server.answer("/a.pdf", ScriptedAnswer::bytes("%PDF", "application/pdf"));
+    server.hold();
+    WebPreviewViewController preview(server.url("/a.pdf"), "", downloader, clock, nullptr);
+    EXPECT_TRUE(preview.isLoading());
+    ASSERT_TRUE(waitFor([&] { return server.waiting() > 0; }));
+    clock.advance(std::chrono::seconds(WebPreviewViewController::timeOutSeconds));
+    EXPECT_TRUE(preview.hasFailed());
+    server.release();
+    ASSERT_TRUE(waitFor([&] { return !downloader.isFetching(server.url("/a.pdf")); }));
+    EXPECT_TRUE(preview.hasFailed());
+    preview.load();
+    ASSERT_TRUE(waitFor([&] { return !preview.isLoading(); }));
+    EXPECT_TRUE(preview.source().isLocalFile() || preview.bytes() == "%PDF");
+}
+
+TEST_F(SendTest, AnAnswerToASendThatWasLeftChangesNothing) {
+    completeDraft();
+    TemporalBrochure::shared().write(draft());
+    open();
+    const auto leave = [&] {
+        EXPECT_TRUE(veil);
+        NotificationCenter::shared().post(notification::veilViewLeft);
+        EXPECT_FALSE(veil);
+    };
+    SaveBrochuresOrderResponse answer;
+    answer.orderId = 41;
+    answer.urlOrder = Url{"http://server.example/order/1"};
+    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
+
+    step->sendOrderAction();
+    leave();
+    EXPECT_EQ(alert(), "Atención | Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin "
+                       "cambiarlo, no se realizará dos veces.");
+    press("Aceptar");
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(step->isOrderSent());
+    EXPECT_TRUE(temporaryCopy());
+
+    step->previewAction();
+    leave();
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(previewed.isValid());
+
+    saveAs("mi carta");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    leave();
+    EXPECT_EQ(alert(), "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha "
+                       "podido sincronizar.");
+    EXPECT_EQ(sync.planned, 1);
+    press("Aceptar");
+    network.requests.saveOrder.succeed(answer);
+    EXPECT_FALSE(draft().orderIdentifier);
+    EXPECT_FALSE(alerts.isVisible());
+    NotificationCenter::shared().post(notification::veilViewLeft); // nothing is waited for
+    EXPECT_FALSE(alerts.isVisible());
+}
+
+} // namespace
+} // namespace kavor

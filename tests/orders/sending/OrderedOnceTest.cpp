@@ -1,0 +1,169 @@
+#include "base/AtomicFile.h"
+#include "brochures/engine/RetrieveBrochureOrderListResponse.h"
+#include "brochures/engine/RetrievedOrder.h"
+#include "brochures/wizard/WizardFixture.h"
+#include "brochures/wizard/send/BrochureSendViewController.h"
+#include "kavorctl/RunCommand.h"
+#include "network/NetworkManager.h"
+#include "orders/OrderList.h"
+#include "session/services/AuthManager.h"
+#include "tour/DemoServerProcess.h"
+
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+
+#include <iostream>
+#include <sstream>
+
+namespace kavor {
+namespace {
+
+// The demonstration server with one beer menu of its history as the order at hand.
+class OrderedOnceTest : public WizardTest {
+protected:
+    DemoServerProcess server{QString::fromStdString(folder.path().string())};
+    MemoryKeychain keychain;
+    MemoryUserDefaults defaults;
+    std::optional<AuthManager> auth;
+    std::optional<NetworkManager> manager;
+    SaveBrochuresOrder order;
+
+    void SetUp() override {
+        WizardTest::SetUp();
+        session.version = "1.0";
+        const auto configuration = NetworkConfiguration::load(server.configurationFile().toStdString());
+        ASSERT_TRUE(configuration);
+        auth.emplace(keychain, defaults, configuration->urls.baseURLPro);
+        manager.emplace(*configuration, NetworkManager::Collaborators{*auth, reachability, clock});
+        const auto rights = await<LoginResult>([&](const auto& done) {
+            manager->login({server.account(), server.password(), std::nullopt}, done);
+        });
+        manager->setAccessToken(QString::fromStdString(rights.token.value_or("")));
+        session.loginResult = rights;
+        session.applicationInformation =
+            await<std::shared_ptr<const Catalogue>>([&](const auto& done) { manager->appInformation(done); });
+        order = orderOfHistory();
+    }
+
+    // The answer of the server, which has to be a good one.
+    template <class Response, class Start>
+    Response await(Start start) {
+        std::optional<Response> response;
+        bool failed = false;
+        start(Completion<Response>(
+            nullptr, [&](const Response& answer) { response = answer; },
+            [&](const RequestFailure&) { failed = true; }));
+        EXPECT_TRUE(waitFor([&] { return response || failed; }));
+        EXPECT_TRUE(response);
+        return response.value_or(Response());
+    }
+
+    SaveBrochuresOrder orderOfHistory() {
+        const auto list = await<OrderList>([&](const auto& done) {
+            manager->retrieveBrochureOrderList({{}, {}, {}, 0, 0, 0, true}, done);
+        });
+        for (const auto& row : list.orders.value_or(std::vector<OrderList::Order>())) {
+            if (row.typeId != BrochureType::beer)
+                continue;
+            auto found = orderOf(row.id, await<RetrieveBrochureOrderListResponse>([&](const auto& done) {
+                                     manager->retrieveBrochureOrder(row.id, done);
+                                 }));
+            found.orderIdentifier.reset();
+            return found;
+        }
+        ADD_FAILURE() << "no beer menu in the history";
+        return {};
+    }
+
+    // The server takes the next order, and its answer is lost.
+    void loseTheNextAnswer() const {
+        QNetworkAccessManager connection;
+        QNetworkRequest request(QUrl(server.url() + QStringLiteral("/demo/faults")));
+        request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+        QNetworkReply* reply = connection.post(
+            request,
+            R"({"path": "/api/orders", "method": "POST", "fault": "close", "after": true, "times": 1})");
+        QEventLoop loop;
+        QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+        loop.exec();
+        EXPECT_EQ(reply->error(), QNetworkReply::NoError) << reply->readAll().toStdString();
+    }
+    [[nodiscard]] qsizetype placedOrders() const {
+        return QJsonDocument::fromJson(server.get(QStringLiteral("/demo/orders"))).array().size();
+    }
+};
+
+TEST_F(OrderedOnceTest, BySendingAgainAfterALostAnswerAlsoInAnotherProcess) {
+    const WizardServices online{*manager, orders,     sessions, sync,         alerts,   urls,
+                                clock,    downloader, photos,   reachability, &location};
+    const auto open = [&] {
+        auto step = std::make_unique<BrochureSendViewController>(online, nullptr);
+        step->viewDidLoad();
+        step->viewWillAppear();
+        return step;
+    };
+    const auto tap = [&](BrochureSendViewController& step) {
+        step.sendOrderAction();
+        press("Continuar"); // with prices that look too high
+        EXPECT_TRUE(waitFor([&] { return alerts.isVisible(); }));
+        const std::string title = alerts.title().toStdString();
+        press("Aceptar");
+        return title;
+    };
+    draft().loadOrder(order);
+    const auto asTheStepsLeaveIt = [] {
+        draft().brochureTypeParameters = parametersOf(BrochureType::beer);
+        draft().selectedNumberOfBrochures = {20, std::nullopt};
+    };
+    asTheStepsLeaveIt();
+    ASSERT_EQ(draft().validationErrors(), std::vector<std::string>());
+
+    loseTheNextAnswer();
+    EXPECT_EQ(tap(*open()), "El pedido no se puede realizar");
+    EXPECT_EQ(placedOrders(), 1);
+    loseTheNextAnswer();
+    EXPECT_EQ(tap(*open()), "El pedido no se puede realizar");
+
+    TemporalBrochure::shared().flush();
+    BrochureIntermediateData::replaceTemporalBrochure();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
+    asTheStepsLeaveIt();
+    const auto step = open();
+    EXPECT_EQ(tap(*step), "Éxito");
+    EXPECT_TRUE(step->isOrderSent());
+    EXPECT_EQ(placedOrders(), 1);
+}
+
+TEST_F(OrderedOnceTest, ByTheCommandThatIsRepeatedUnderTheNameOfItsIntent) {
+    qputenv("KAVOR_KEYCHAIN", "file");
+    folder.put("order.json", json::encodePretty(order).value());
+    const auto online = [&](std::vector<std::string> arguments) {
+        arguments.insert(arguments.end(), {"--configuration", server.configurationFile().toStdString(),
+                                           "--documents", folder / "ctl", "--caches", folder / "ctl-caches"});
+        return kavorctl(arguments);
+    };
+    const auto print = [&](const std::string& intent) {
+        return online({"order", "send", folder / "order.json", "--save", "print", "--intent", intent});
+    };
+    std::istringstream typed(server.password().toStdString() + "\n");
+    auto* const terminal = std::cin.rdbuf(typed.rdbuf());
+    EXPECT_EQ(online({"login", server.account().toStdString()}).status, ctl::fine);
+    std::cin.rdbuf(terminal);
+
+    loseTheNextAnswer();
+    EXPECT_EQ(print("carta de julio").status, ctl::requestFailed);
+    EXPECT_EQ(placedOrders(), 1);
+    const kavor::Outcome again = print("carta de julio");
+    EXPECT_EQ(again.status, ctl::fine) << again.err;
+    EXPECT_NE(again.out.find("\"url_order\""), std::string::npos) << again.out;
+    EXPECT_EQ(placedOrders(), 1);
+    EXPECT_EQ(print("carta de agosto").status, ctl::fine);
+    EXPECT_EQ(placedOrders(), 2);
+    qunsetenv("KAVOR_KEYCHAIN");
+}
+
+} // namespace
+} // namespace kavor

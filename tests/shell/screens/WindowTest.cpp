@@ -1,0 +1,199 @@
+#include "ShellFixture.h"
+#include "device/LocalNotifications.h"
+#include "screens/ResourceImages.h"
+#include "shell/screens/Artwork.h"
+#include "shell/screens/ComingSoonViewController.h"
+#include "shell/screens/RootController.h"
+#include "shell/screens/Screens.h"
+#include "support/TouchDriver.h"
+#include "ui/Ui.h"
+
+#include <QPainter>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+namespace kavor {
+
+namespace {
+
+// The real screens of the shell in a window.
+class Window : public ShellTest {
+protected:
+    Window() {
+        session.loginResult = rights();
+        session.applicationInformation = catalogueWith();
+        registerUi(engine);
+        registerScreens(engine);
+        engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(images));
+        engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&root)}});
+        engine.load(screenView(QStringLiteral("MainWindow")));
+        window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+        root.setWindow(window, false);
+        window->resize(1024, 768);
+        window->show();
+        window->requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        driver = std::make_unique<TouchDriver>(*window);
+    }
+
+    // The name of the item with the focus, or of its nearest named parent.
+    [[nodiscard]] QString focus() const {
+        for (const QQuickItem* item = window->activeFocusItem(); item; item = item->parentItem()) {
+            if (!item->objectName().isEmpty())
+                return item->objectName();
+        }
+        return {};
+    }
+    [[nodiscard]] bool isFocusInside(const QString& name) const {
+        const QQuickItem* item = window->activeFocusItem();
+        while (item && item->objectName() != name)
+            item = item->parentItem();
+        return item != nullptr;
+    }
+    [[nodiscard]] bool isShown(const char* name) const { return driver->isShown(QLatin1String(name)); }
+    void key(Qt::Key key) { QTest::keyClick(window, key); }
+    void click(const char* name) {
+        const QQuickItem* item = driver->await(QLatin1String(name));
+        const QPointF middle = item->mapToScene({item->width() / 2, item->height() / 2});
+        QTest::mouseClick(window, Qt::LeftButton, {}, middle.toPoint());
+    }
+
+    DesktopNotifications banners;
+    RootController root{{application, alerts, banners, loginServices(), welcomeServices(),
+                         [](const QString& transition, const std::function<void()>& close) {
+                             auto* controller = new ComingSoonViewController(transition, {});
+                             QObject::connect(controller, &ComingSoonViewController::closed, controller,
+                                              close);
+                             return Screen{screenView(QStringLiteral("ComingSoonView")), controller};
+                         }}};
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = nullptr;
+    std::unique_ptr<TouchDriver> driver;
+};
+
+} // namespace
+
+TEST_F(Window, TheNotificationsPanelIsDrawnWhenItIsShownAndHoldsTheKeyboardUntilEscape) {
+    application.setRoot(Root::MainNavigation);
+    for (const QSize size : {QSize(768, 1024), QSize(1024, 768)}) {
+        EXPECT_FALSE(isShown("notificationsFrameView")) << size.width();
+        window->resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(isShown("notificationsFrameView")) << size.width() << ": a turn moves nothing";
+    }
+    session.loginResult->notifications = std::vector<UserNotification>{{"Aviso", std::nullopt, std::nullopt}};
+    catalogue.start();
+    network.requests.appInformation.succeed(catalogueWith());
+    driver->await(QStringLiteral("notificationsFrameView"));
+    const auto frameIsOff = [&] { // by so many pixels from its place
+        const QQuickItem* frame = driver->find(QStringLiteral("notificationsFrameView"));
+        return frame->y() + frame->height() / 2 - frame->parentItem()->height() / 2;
+    };
+    ASSERT_TRUE(waitFor([&] { return std::abs(frameIsOff()) < 0.1; }));
+    window->resize(768, 1024);
+    ASSERT_TRUE(waitFor([&] { return driver->find(QStringLiteral("notificationsView"))->height() == 1024; }));
+    EXPECT_LT(std::abs(frameIsOff()), 1) << "a turn does not slide it";
+    for (const Qt::Key each : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab}) {
+        EXPECT_TRUE(isFocusInside(QStringLiteral("notificationsView")));
+        key(each);
+    }
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(root.welcome()->areNotificationsShown());
+    EXPECT_TRUE(waitFor([&] { return !isShown("notificationsFrameView"); }));
+    EXPECT_FALSE(isFocusInside(QStringLiteral("notificationsView")));
+}
+
+TEST_F(Window, TheLoginFormStartsInItsFirstEmptyField) {
+    application.setRoot(Root::LoginNavigation);
+    EXPECT_EQ(focus(), u"emailTextField");
+    remember();
+    application.setRoot(Root::LoginNavigation);
+    EXPECT_EQ(focus(), u"loginButton") << "nothing is missing";
+    root.login()->unwindToLoginView();
+    EXPECT_EQ(focus(), u"passwordTextField");
+}
+
+TEST_F(Window, ALoginThatTakesTooLongIsLeftByEscapeAndTheFormGoesOn) {
+    remember();
+    application.setRoot(Root::LoginNavigation);
+    key(Qt::Key_Return);
+    driver->await(QStringLiteral("veilView"))->setProperty("patience", 1);
+    driver->await(QStringLiteral("wayOut"));
+    key(Qt::Key_Escape);
+    driver->awaitGone(QStringLiteral("veilView"));
+    EXPECT_TRUE(root.login()->isLoginEnabled());
+    EXPECT_EQ(focus(), u"loginButton");
+}
+
+TEST_F(Window, ARefusedLoginLeavesTheKeyboardInTheForm) {
+    remember();
+    application.setRoot(Root::LoginNavigation);
+    key(Qt::Key_Return);
+    driver->await(QStringLiteral("veilView"));
+    network.requests.login.fail(failureWith({QStringLiteral("no")}));
+    ASSERT_TRUE(waitFor([&] { return focus() == u"alertButton0"; }));
+    key(Qt::Key_Return);
+    driver->awaitGone(QStringLiteral("alertButton0"));
+    EXPECT_TRUE(waitFor([&] { return focus() == u"loginButton"; }));
+}
+
+TEST_F(Window, TheAutomaticLoginIsLeftByItsButton) {
+    remember();
+    storeRights(rights());
+    storeCatalogue();
+    application.loadIntoInitialViewController();
+    QQuickItem* launch = driver->await(QStringLiteral("launchView"));
+    EXPECT_FALSE(isShown("wayOut"));
+    launch->findChild<QObject*>(QStringLiteral("wayOut"))->setProperty("patience", 1);
+    click("wayOut");
+    driver->await(QStringLiteral("welcomeView"));
+}
+
+TEST_F(Window, TheTilesAnswerToArrowsAndADoublePressOpensOneOfThem) {
+    session.loginResult->showBeerBrochures = session.loginResult->showFoodBrochures =
+        session.loginResult->showTextile = true;
+    root.setDoublePressInterval(std::chrono::milliseconds(400));
+    application.setRoot(Root::MainNavigation);
+    clock.advance(std::chrono::seconds(1));
+    const std::pair<Qt::Key, const char*> walk[] = {{Qt::Key_Down, "welcomeButton1"},
+                                                    {Qt::Key_Right, "welcomeButton3"},
+                                                    {Qt::Key_End, "welcomeButton8"},
+                                                    {Qt::Key_Left, "welcomeButton3"},
+                                                    {Qt::Key_Home, "welcomeButton1"}};
+    for (const auto& [pressed, tile] : walk) {
+        key(pressed);
+        EXPECT_EQ(focus(), QLatin1String(tile));
+    }
+    click("welcomeButton3");
+    ASSERT_EQ(root.screens()->rowCount(), 2);
+    driver->await(QStringLiteral("backButton"));
+    click("backButton"); // the second half of the press
+    EXPECT_EQ(root.screens()->rowCount(), 2);
+    clock.advance(std::chrono::milliseconds(400));
+    click("backButton");
+    EXPECT_EQ(root.screens()->rowCount(), 1);
+}
+
+TEST(DashboardPicture, NothingStandsBehindItsHeadline) {
+    for (const QSize size : {QSize(390, 152), QSize(390, 124), QSize(768, 148), QSize(1024, 148)}) {
+        for (const char* name : {"login_image", "login_image_nrv"}) {
+            QImage picture(size, QImage::Format_RGB32);
+            QPainter painter(&picture);
+            Artwork::draw(painter, QLatin1String(name), picture.rect());
+            painter.end();
+            // The words take half of the width beside the margin; only the round light may be behind them.
+            QSet<QRgb> colours;
+            for (int x = 0; x < size.width() / 2 + 20; ++x)
+                for (int y = 0; y < size.height() * 4 / 5; ++y)
+                    colours.insert(picture.pixel(x, y));
+            int strong = 0;
+            for (const QRgb colour : colours)
+                strong += qRed(colour) > 0x40 ? 1 : 0;
+            EXPECT_EQ(strong, 0) << name << size.width() << "x" << size.height();
+        }
+    }
+}
+
+} // namespace kavor
