@@ -254,6 +254,7 @@ void Tour::fillConfiguration() {
     chooseFirst(QStringLiteral("firstLanguagePicker"));
     touch_->waitUntil(QStringLiteral("a language in the draft"),
                       [] { return draft().currentLanguages().has_value(); });
+    remember();
     chooseLogo();
     shot(QStringLiteral("configuracion"));
 }
