@@ -31,6 +31,7 @@ public:
     // Lets go of the connection; the callback is not run any more.
     void release();
     [[nodiscard]] bool isStarted() const { return reply_ != nullptr; }
+    [[nodiscard]] bool isWanted() const { return !request_.isWanted || request_.isWanted(); }
     HttpSession::Callback takeCallback() { return std::move(callback_); }
 
 private:
@@ -221,7 +222,7 @@ HttpSession::HttpSession(SessionConfiguration configuration, Clock& clock, Reach
     connect(&reachability_, &Reachability::changed, this, [this] {
         for (HttpExchange* exchange : QList(exchanges_)) {
             if (!exchange->isStarted())
-                start(*exchange);
+                exchange->isWanted() ? start(*exchange) : drop(*exchange);
         }
     });
 }
@@ -242,6 +243,14 @@ void HttpSession::send(const HttpRequest& request, Callback callback) {
 void HttpSession::start(HttpExchange& exchange) {
     if (!configuration_.waitsForConnectivity || reachability_.isReachable())
         exchange.start();
+}
+
+void HttpSession::drop(HttpExchange& exchange) {
+    exchange.release();
+    exchanges_.removeOne(&exchange);
+    exchange.deleteLater();
+    if (retiring_)
+        retire();
 }
 
 void HttpSession::finish(HttpExchange& exchange, const HttpAnswer& answer) {

@@ -34,6 +34,7 @@ struct HttpRequest {
     HttpHeaders headers;
     QByteArray body;
     QByteArray contentType;
+    std::function<bool()> isWanted = {}; // asked again when it had to wait for the network; empty: it is
 };
 
 // How a request ended. The status, headers and body hold what had arrived when a fault ended it.
@@ -58,13 +59,15 @@ public:
                 QObject* parent = nullptr);
     ~HttpSession() override;
 
-    // Sends a request; the callback runs once and later, unless the session is destroyed before.
+    // Sends a request; the callback runs once and later, unless the session is destroyed before or the
+    // request was no longer wanted when the network came.
     void send(const HttpRequest& request, Callback callback);
     // Deletes the session as soon as the last of its requests has ended; it gets no further ones.
     void retire();
 
 private:
     void start(HttpExchange& exchange);
+    void drop(HttpExchange& exchange);
     void finish(HttpExchange& exchange, const HttpAnswer& answer);
     friend class HttpExchange;
 

@@ -85,7 +85,11 @@ QUrl NetworkManager::urlOf(const std::string& path, const QString& trailing) con
     return QUrl(baseUrl() + QString::fromStdString(path) + trailing);
 }
 
+// What nobody waits for any more is neither repeated nor sent for the first time; a write might be done by
+// another request by now.
 void NetworkManager::run(const RequestPointer& request) {
+    if (!request->isAwaited())
+        return;
     request->startedAt = clock_.now().toMSecsSinceEpoch();
     sessionManager_->send(adapted(*request),
                           [this, request](const HttpAnswer& answer) { received(request, answer); });
@@ -93,7 +97,8 @@ void NetworkManager::run(const RequestPointer& request) {
 
 HttpRequest NetworkManager::adapted(const PipelineRequest& request) const {
     const Operation& operation = request.operation;
-    HttpRequest adapted{operation.method, operation.url, {}, operation.body, operation.contentType};
+    HttpRequest adapted{operation.method, operation.url,         {},
+                        operation.body,   operation.contentType, request.isAwaited};
     adapted.headers.append({"Authorization", "Bearer " + accessToken_.toUtf8()});
     if (!request.idempotencyKey.isEmpty())
         adapted.headers.append({"Idempotency-Key", request.idempotencyKey});
@@ -141,6 +146,8 @@ void NetworkManager::decode(const RequestPointer& request, const HttpAnswer& ans
 }
 
 void NetworkManager::failed(const RequestPointer& request, const HttpAnswer& answer) {
+    if (!request->isAwaited()) // nor is a token repaired for it
+        return;
     const auto status = answer.status != 0 ? std::optional(answer.status) : std::nullopt;
     retrier_.decide(status,
                     {[request, answer] { request->fail(mapFailure(answer)); },

@@ -37,6 +37,8 @@ struct PipelineRequest {
     qint64 startedAt = 0; // of the attempt under way, in milliseconds
     // Reads the body and keeps the response; runs off the main thread.
     std::function<std::optional<json::Error>(const QByteArray&)> decode;
+    // Whether anybody still hears how it ends.
+    std::function<bool()> isAwaited;
     std::function<void()> succeed;
     std::function<void(const RequestFailure&)> fail;
 };
@@ -64,12 +66,13 @@ NetworkManager::RequestPointer NetworkManager::prepare(const Operation& operatio
         response->emplace(std::move(*decoded));
         return std::nullopt;
     };
-    request->succeed = [response, done] {
-        if ((!done.bound || done.context) && done.success)
+    request->isAwaited = [bound = done.bound, context = done.context] { return !bound || context; };
+    request->succeed = [response, done, isAwaited = request->isAwaited] {
+        if (isAwaited() && done.success)
             done.success(**response);
     };
-    request->fail = [done](const RequestFailure& failure) {
-        if ((!done.bound || done.context) && done.failure)
+    request->fail = [done, isAwaited = request->isAwaited](const RequestFailure& failure) {
+        if (isAwaited() && done.failure)
             done.failure(failure);
     };
     return request;

@@ -302,6 +302,22 @@ TEST(HttpSession, WaitsForTheNetworkInTheBackgroundUpToItsDeadline) {
     EXPECT_EQ(rig.server.requests().size(), 1);
 }
 
+TEST(HttpSession, SendsNothingLateThatNobodyWaitsForAnyMore) {
+    Rig rig;
+    rig.server.answer(infoPath, A::json(goodLogin));
+    rig.manager.configureSession(NetworkManager::backgroundConfiguration());
+    rig.reachability.set(false);
+    auto screen = std::make_unique<QObject>();
+    Outcome left;
+    rig.manager.saveOrder({}, left.completion<SaveBrochuresOrderResponse>(screen.get()));
+    const Outcome& good = rig.start();
+    screen.reset();
+    rig.reachability.set(true);
+    ASSERT_TRUE(waitFor([&] { return good.ended(); }));
+    EXPECT_TRUE(rig.server.requestsTo(orderPath).isEmpty());
+    EXPECT_EQ(rig.clock.pending(), 0) << "its deadline went too";
+}
+
 TEST(HttpSession, DropsTheAnswerOfAScreenThatIsGoneAndStillSendsItsOrder) {
     Rig rig;
     rig.server.answer(orderPath, A::json("{}"));

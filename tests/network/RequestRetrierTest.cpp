@@ -1,5 +1,6 @@
 #include "NetworkFixture.h"
 #include "account/UserProfile.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
 #include "session/LoginResult.h"
 
 #include <QNetworkReply>
@@ -10,6 +11,8 @@ namespace {
 
 using A = ScriptedAnswer;
 using namespace std::chrono_literals;
+
+const QByteArray savePath = "/api/saveOrderURL";
 
 int requestsWith(const ScriptedServer& server, const QByteArray& path, const QByteArray& authorization) {
     int count = 0;
@@ -211,6 +214,56 @@ TEST(RequestRetrier, LogsInForNobodyDuringAPauseAndAnswersEverybodyAfterIt) {
         return first.ended() && second.ended();
     }));
     EXPECT_EQ(first.successes + second.successes, 2);
+}
+
+TEST(RequestRetrier, GivesUpWhatNobodyWaitsForAnyMore) {
+    struct Case {
+        int status;
+        std::chrono::milliseconds pause;
+        int requests; // of the one that is left
+    };
+    for (const Case& each : {Case{419, 10s, 1}, Case{401, 1s, 4}}) {
+        for (const bool writes : {false, true}) {
+            RefusingRig rig;
+            rig.server.answer(infoPath, A::empty(each.status));
+            rig.server.answer(savePath, A::empty(each.status));
+            auto screen = std::make_unique<QObject>();
+            Outcome left;
+            if (writes)
+                rig.manager.saveOrder({}, left.completion<SaveBrochuresOrderResponse>(screen.get()));
+            else
+                rig.manager.userInformation(left.completion<LoginResult>(screen.get()));
+            ASSERT_TRUE(waitFor([&] { return rig.clock.untilNext() == each.pause; }));
+            screen.reset();
+            rig.clock.advance(each.pause);
+            Outcome other; // a 404
+            rig.manager.profileInformation(other.completion<UserProfile>());
+            ASSERT_TRUE(waitFor([&] { return other.ended(); }));
+            EXPECT_EQ(rig.server.requestsTo(writes ? savePath : infoPath).size(), each.requests);
+            EXPECT_FALSE(rig.manager.isTokenRefreshing());
+            EXPECT_FALSE(left.ended());
+        }
+    }
+}
+
+TEST(RequestRetrier, RepairsNoTokenForWhatWasLeftBeforeItsAnswerCame) {
+    for (const bool remembered : {true, false}) {
+        Rig rig(remembered);
+        rig.server.then(infoPath, A::empty(401));
+        rig.server.answer(infoPath, A::json(goodLogin));
+        auto screen = std::make_unique<QObject>();
+        Outcome left;
+        rig.server.hold();
+        rig.manager.userInformation(left.completion<LoginResult>(screen.get()));
+        ASSERT_TRUE(waitFor([&] { return rig.server.waiting() == 1; }));
+        screen.reset();
+        rig.server.release();
+        ASSERT_TRUE(waitFor([&] { return rig.manager.findChildren<QNetworkReply*>().isEmpty(); }));
+        const Outcome& good = rig.start();
+        ASSERT_TRUE(waitFor([&] { return good.ended(); }));
+        EXPECT_TRUE(rig.server.requestsTo(loginPath).isEmpty());
+        EXPECT_FALSE(rig.manager.isTokenRefreshing());
+    }
 }
 
 TEST(RequestRetrier, BringsARepairToItsEndThroughTwoSwapsOfTheSession) {

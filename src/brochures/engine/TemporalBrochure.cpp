@@ -182,6 +182,25 @@ void TemporalBrochure::removeForLoading(BrochureType kind) {
         removeAll();
 }
 
+void TemporalBrochure::number(BrochureType kind, Int orderIdentifier,
+                              const std::function<bool(const SaveBrochuresOrder&)>& isThatOrder) {
+    if (folder().empty())
+        return;
+    flush();
+    std::vector<std::string> names{copyName, recoveryName};
+    const std::string aside = setAsideName(kind);
+    for (int i = 1, count = countOf(aside); i <= count; ++i)
+        names.push_back(numbered(aside, i));
+    for (const std::string& name : names) {
+        Found found = look(name);
+        if (!found.isOf(kind) || found.order->orderIdentifier || !isThatOrder(*found.order))
+            continue;
+        found.order->orderIdentifier = orderIdentifier;
+        if (const auto text = json::encode(*found.order))
+            BackgroundFileWriter::shared().write(folder() / name, *text);
+    }
+}
+
 void TemporalBrochure::flush() {
     BackgroundFileWriter::shared().flush();
 }

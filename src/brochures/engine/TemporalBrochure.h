@@ -3,6 +3,7 @@
 #include "brochures/engine/SaveBrochuresOrder.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -40,6 +41,10 @@ public:
     // Removes the copy of whatever draft of this kind was in work because another order is loaded; a copy of
     // another kind is set aside. The recovery copy stays when it is the one being loaded.
     void removeForLoading(BrochureType kind);
+    // The server has an order under a number: the copies of it that have none take the number, wherever they
+    // lie, so that the menu is still that order when it comes back.
+    void number(BrochureType kind, Int orderIdentifier,
+                const std::function<bool(const SaveBrochuresOrder&)>& isThatOrder);
     // Waits until what was asked for stands on disk.
     void flush();
 

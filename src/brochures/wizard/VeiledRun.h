@@ -24,6 +24,13 @@ public:
     VeiledRun()
         : left_(NotificationCenter::shared().observe(notification::veilViewLeft,
                                                      [this](const NotificationInfo&) { leave(); })) {}
+    VeiledRun(const VeiledRun&) = delete;
+    VeiledRun& operator=(const VeiledRun&) = delete;
+    // A step that goes takes its veil along: nobody could leave it any more.
+    ~VeiledRun() {
+        if (run_.isUnderWay())
+            post(false);
+    }
 
     // Shows the veil, which says what it waits for. onLeft runs when the user leaves the run, not when it
     // ends.

@@ -5,6 +5,7 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/TemporalBrochure.h"
 #include "device/BackgroundTasks.h"
 #include "device/Clock.h"
 #include "device/LocalNotifications.h"
@@ -38,6 +39,21 @@ std::string bytesOf(const SaveBrochuresOrder& order) {
 // The file of a draft, with the extension; empty for one without a name.
 std::string fileOf(const SaveBrochuresOrder& order) {
     return order.filename ? OrderDiskManager::fileName(*order.filename) : std::string();
+}
+
+// Whether an order under the name of one that was sent is that order, as it stands by now. A name can be
+// given to another order, and then a number would put one bar's order in the place of another's.
+bool isThatOrder(const SaveBrochuresOrder& sent, BrochureType kind, const Customer& bar) {
+    const Customer& sentBar = sent.menu.customer;
+    const std::string sentCode = sentBar.tevo.value_or("");
+    const std::string code = bar.tevo.value_or("");
+    const bool isThatBar = sentCode.empty() || code.empty() ? sentBar.name.empty() || sentBar.name == bar.name
+                                                            : sentCode == code;
+    return sent.menu.orderType == kind && isThatBar;
+}
+
+bool isThatOrder(const SaveBrochuresOrder& sent, const SaveBrochuresOrder& other) {
+    return isThatOrder(sent, other.menu.orderType, other.menu.customer);
 }
 
 // The bytes of an order as its file gives it back: who prints is never read.
@@ -82,12 +98,13 @@ void OrderSyncManager::queueCurrentDraft() {
 }
 
 // A save that came while its draft was on its way goes up now, as the order that the server has by then.
-void OrderSyncManager::endUpload(const std::string& fileName, std::optional<Int> orderId) {
+void OrderSyncManager::endUpload(const std::string& fileName, const SaveBrochuresOrder& sent,
+                                 std::optional<Int> orderId) {
     const auto ended = underWay_.extract(fileName);
     if (!ended || !ended.mapped())
         return;
     Save newer = std::move(*ended.mapped());
-    if (!newer.order.orderIdentifier)
+    if (!newer.order.orderIdentifier && isThatOrder(sent, newer.order))
         newer.order.orderIdentifier = orderId;
     uploadCurrentDraft(newer);
 }
@@ -103,14 +120,14 @@ void OrderSyncManager::uploadCurrentDraft(const Save& save) {
         // Without an id nothing happens: the extension ends by its expiry.
         if (answer.orderId)
             finishForegroundUpload(save.draft, save.order, *answer.orderId);
-        endUpload(file, answer.orderId);
+        endUpload(file, save.order, answer.orderId);
     };
     const auto failed = [this, save, file](const RequestFailure& failure) {
         if (!send_intent::isAnswerLost(failure))
             send_intent::answered(save.draft->unansweredSends, save.order);
         endExtension();
         services_.useDefaultSession();
-        endUpload(file, std::nullopt);
+        endUpload(file, save.order, std::nullopt);
     };
     services_.network.saveOrder(save.order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),
                                 send_intent::keyFor(save.draft->unansweredSends, save.order));
@@ -119,10 +136,12 @@ void OrderSyncManager::uploadCurrentDraft(const Save& save) {
 void OrderSyncManager::finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId) {
     if (!order.filename)
         stopProcess("file name of the synchronised order");
-    // The user may have kept the draft under another name meanwhile, which is another order.
-    if (draft->fileName == order.filename && !draft->sent)
-        draft->orderIdentifier = orderId;
-    storeIdentifier({OrderDiskManager::fileName(*order.filename), bytesAsRead(order), order, {}}, orderId);
+    const Upload upload{OrderDiskManager::fileName(*order.filename), bytesAsRead(order), order, {}};
+    // The draft may have given way to another meanwhile, or to itself, brought back from its copy.
+    numberDraft(*draft, upload, orderId);
+    if (draft != BrochureIntermediateData::temporalBrochure())
+        numberDraft(*BrochureIntermediateData::temporalBrochure(), upload, orderId);
+    storeIdentifier(upload, orderId);
     order.orderIdentifier = orderId;
     services_.notifications.registerCategory(QLatin1String(notificationCategory),
                                              {{QLatin1String(showAction), QStringLiteral("Ver pedido")}});
@@ -131,18 +150,22 @@ void OrderSyncManager::finishForegroundUpload(const Draft& draft, SaveBrochuresO
     services_.useDefaultSession();
 }
 
-// The shared draft takes the number only while it is the order of the file, not another one.
-void OrderSyncManager::numberSharedDraft(const Upload& upload, Int orderId) {
-    const auto kind = AppSingleton::shared().brochureType();
-    const Draft& draft = BrochureIntermediateData::temporalBrochure();
-    const bool isThatOrder = draft->fileName == OrderDiskManager::plainName(upload.fileName) &&
-                             (!kind || kind == upload.order.menu.orderType);
-    if (isThatOrder && !draft->sent && !draft->orderIdentifier)
-        draft->orderIdentifier = orderId;
+// A draft takes the number only while it is the order of the file, not another one.
+void OrderSyncManager::numberDraft(BrochureIntermediateData& draft, const Upload& upload, Int orderId) {
+    const auto kind = draft.openedAs ? draft.openedAs : AppSingleton::shared().brochureType();
+    const bool hasThatName = draft.fileName == OrderDiskManager::plainName(upload.fileName);
+    if (hasThatName && !draft.sent && !draft.orderIdentifier &&
+        isThatOrder(upload.order, kind.value_or(upload.order.menu.orderType),
+                    draft.customerInformation.value_or(Customer())))
+        draft.orderIdentifier = orderId;
 }
 
 // False when the file could not take the number of its order.
 bool OrderSyncManager::storeIdentifier(const Upload& upload, Int orderId) {
+    TemporalBrochure::shared().number(
+        upload.order.menu.orderType, orderId, [&](const SaveBrochuresOrder& copy) {
+            return fileOf(copy) == upload.fileName && isThatOrder(upload.order, copy);
+        });
     const bool stored = writeIdentifier(upload.fileName, upload.order, orderId);
     if (stored)
         unstored_.erase(upload.fileName);
@@ -158,7 +181,7 @@ bool OrderSyncManager::writeIdentifier(const std::string& fileName, const SaveBr
     auto order = services_.orders.retrieve<KeptOrder>(fileName, DirectoryName::draft);
     if (!order)
         return !services_.orders.moment<KeptOrder>(fileName, DirectoryName::draft);
-    if (order->orderIdentifier)
+    if (order->orderIdentifier || !isThatOrder(sent, *order))
         return true;
     order->orderIdentifier = orderId;
     if (order->unansweredSends) {
@@ -230,17 +253,17 @@ void OrderSyncManager::uploadOfRun(const Upload& upload, const std::shared_ptr<R
         SaveBrochuresOrder sent = upload.order;
         if (answer.orderId) {
             sent.orderIdentifier = answer.orderId;
-            numberSharedDraft(upload, *answer.orderId);
+            numberDraft(*BrochureIntermediateData::temporalBrochure(), upload, *answer.orderId);
             if (!storeIdentifier(upload, *answer.orderId))
                 emit identifierNotStored(nameOf(sent));
             notifySynchronised(sent, {});
         }
-        endUpload(upload.fileName, answer.orderId);
+        endUpload(upload.fileName, upload.order, answer.orderId);
         answeredOfRun(sent, run);
     };
     const auto failed = [this, upload, run](const RequestFailure& failure) {
         emit uploadFailed(nameOf(upload.order), failure);
-        endUpload(upload.fileName, std::nullopt);
+        endUpload(upload.fileName, upload.order, std::nullopt);
         answeredOfRun(upload.order, run);
     };
     services_.network.saveOrder(upload.order, Completion<SaveBrochuresOrderResponse>(this, succeeded, failed),

@@ -87,12 +87,12 @@ private:
 
     void queueCurrentDraft();
     void uploadCurrentDraft(const Save& save);
-    void endUpload(const std::string& fileName, std::optional<Int> orderId);
+    void endUpload(const std::string& fileName, const SaveBrochuresOrder& sent, std::optional<Int> orderId);
     void finishForegroundUpload(const Draft& draft, SaveBrochuresOrder order, Int orderId);
     [[nodiscard]] std::optional<Upload> uploadOf(const std::string& fileName);
     void uploadOfRun(const Upload& upload, const std::shared_ptr<Run>& run);
     void answeredOfRun(const SaveBrochuresOrder& order, const std::shared_ptr<Run>& run);
-    static void numberSharedDraft(const Upload& upload, Int orderId);
+    static void numberDraft(BrochureIntermediateData& draft, const Upload& upload, Int orderId);
     bool storeIdentifier(const Upload& upload, Int orderId);
     bool writeIdentifier(const std::string& fileName, const SaveBrochuresOrder& sent, Int orderId);
     bool catchUp(const std::string& fileName, const SaveBrochuresOrder& order);

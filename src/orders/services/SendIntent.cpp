@@ -21,6 +21,11 @@ QByteArray madeOf(const QByteArray& parts) {
     return QUuid::createUuidV5(nameSpace, parts).toByteArray(QUuid::WithoutBraces);
 }
 
+// What the contents of one request's type begin with.
+std::string prefixOf(OrderRequestType type) {
+    return std::to_string(static_cast<Int>(type)) + '/';
+}
+
 std::string contentOf(SaveBrochuresOrder order) {
     order.orderIdentifier.reset();
     order.menu.customer.id.reset();
@@ -31,7 +36,7 @@ std::string contentOf(SaveBrochuresOrder order) {
     const auto text = json::encode(order);
     if (!text)
         stopProcess("document of an order to send: " + text.error().text());
-    return madeOf(QByteArray::fromStdString(*text)).toStdString();
+    return prefixOf(order.save) + madeOf(QByteArray::fromStdString(*text)).toStdString();
 }
 
 template <class List>
@@ -43,6 +48,13 @@ auto findContent(List& unanswered, const std::string& content) {
 
 QByteArray keyFor(UnansweredSends& unanswered, const SaveBrochuresOrder& order) {
     const std::string content = contentOf(order);
+    // A save in the cloud takes the place of the one before. Under that one's key the server would answer
+    // without taking the content back.
+    if (order.save == OrderRequestType::saveCloud) {
+        std::erase_if(unanswered, [&, prefix = prefixOf(order.save)](const UnansweredSend& send) {
+            return send.content.starts_with(prefix) && send.content != content;
+        });
+    }
     auto found = findContent(unanswered, content);
     if (found == unanswered.end()) {
         const QByteArray key = QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
@@ -59,8 +71,26 @@ UnansweredSends sentWithoutAnswer(const UnansweredSends& unanswered, const SaveB
 
 void noteQueued(UnansweredSends& unanswered, const SaveBrochuresOrder& order, const QByteArray& key) {
     const std::string content = contentOf(order);
-    if (findContent(unanswered, content) == unanswered.end())
+    const auto found = findContent(unanswered, content);
+    if (found == unanswered.end())
         unanswered.push_back({content, key.toStdString(), true});
+    else if (found->onlyQueued) // under a file that is gone
+        found->key = key.toStdString();
+}
+
+std::optional<std::string> nameInOutbox(const UnansweredSends& unanswered, const SaveBrochuresOrder& order,
+                                        const OrderDiskManager& orders) {
+    const auto found = findContent(unanswered, contentOf(order));
+    if (found == unanswered.end())
+        return std::nullopt;
+    for (const auto& file : orders.list<KeptOrder>(DirectoryName::outbox)) {
+        const auto kept = orders.retrieve<KeptOrder>(file.fileName, DirectoryName::outbox);
+        if (kept &&
+            keyOfFile(*kept, DirectoryName::outbox, file.fileName, file.modificationMoment).toStdString() ==
+                found->key)
+            return OrderDiskManager::plainName(file.fileName);
+    }
+    return std::nullopt;
 }
 
 void answered(UnansweredSends& unanswered, const SaveBrochuresOrder& order) {

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace kavor {
@@ -26,6 +27,10 @@ QByteArray keyFor(UnansweredSends& unanswered, const SaveBrochuresOrder& order);
 UnansweredSends sentWithoutAnswer(const UnansweredSends& unanswered, const SaveBrochuresOrder& order);
 // A file of the outbox bears this key for the order: when it is sent from elsewhere too, it is the same one.
 void noteQueued(UnansweredSends& unanswered, const SaveBrochuresOrder& order, const QByteArray& key);
+// The plain name of the file of the outbox that is this very order, where it waits there already. Reads the
+// files.
+std::optional<std::string> nameInOutbox(const UnansweredSends& unanswered, const SaveBrochuresOrder& order,
+                                        const OrderDiskManager& orders);
 // The answer came, whatever it says: the next send is an intent of its own.
 void answered(UnansweredSends& unanswered, const SaveBrochuresOrder& order);
 

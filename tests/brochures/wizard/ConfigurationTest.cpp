@@ -291,6 +291,49 @@ TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhen
     }
 }
 
+TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumberOfItsOwn) {
+    struct Case {
+        std::function<void()> action;
+        bool localityStays;
+        bool provinceStays;
+    };
+    const auto type = [this](const char* name, const char* text) {
+        return [this, name, text] { step->finishText(name, text); };
+    };
+    const Case cases[] = {
+        {type("municipalityTextField", "Getafe"), false, true},
+        {type("provinceTextField", "Toledo"), true, false},
+        {type("municipalityTextField", "Madrid"), true, true}, // the field is left as it was
+        {type("postalCodeTextField", "28002"), true, true},
+        {[this] {
+             geocoder.placemark = Placemark{"45001", "Toledo", "Toledo", std::nullopt};
+             step->locateDeviceAndFillFields();
+             press("Sí");
+         },
+         false, false},
+        {[this] {
+             geocoder.placemark = Placemark{"28003", "Madrid", "Madrid", std::nullopt};
+             step->locateDeviceAndFillFields();
+             press("Sí");
+         },
+         true, true},
+    };
+    Customer known;
+    known.id = 70;
+    known.placeLocality = known.placeProvinceName = "Madrid";
+    known.placeLocalityId = 71;
+    known.placeProvinceId = 72;
+    for (const Case& each : cases) {
+        draft().customerInformation = known;
+        open();
+        each.action();
+        const Customer& kept = *draft().customerInformation;
+        EXPECT_EQ(kept.id, 70);
+        EXPECT_EQ(kept.placeLocalityId.has_value(), each.localityStays);
+        EXPECT_EQ(kept.placeProvinceId.has_value(), each.provinceStays);
+    }
+}
+
 TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVeilAway) {
     struct Case {
         const char* alert;

@@ -172,7 +172,9 @@ TEST_F(MenuTest, ThePreviewOfTheConfigurationLeavesItOnShowWhateverComesOfIt) {
     EXPECT_EQ(menu.selectedButton(), Menu::Configuration);
 
     step->previewAction();
+    EXPECT_TRUE(menu.isVeilVisible());
     menu.buttonPushedAction(Menu::Products);
+    EXPECT_FALSE(menu.isVeilVisible()) << "nobody could leave it any more";
     const auto* former = menu.preview();
     network.requests.saveOrder.succeed(answer);
     EXPECT_EQ(menu.preview(), former); // the answer came too late

@@ -224,7 +224,9 @@ TEST_F(SendTest, OfflineOrdersQueueUnderTheFirstFreeName) {
     completeDraft();
     network.reachable = false;
     open();
+    double price = 2;
     for (const char* name : {"Sin enviar", "Sin enviar(1)", "Sin enviar(2)"}) {
+        draft().setPrice(PriceType::main, knownFormat, knownBrand, price += 0.1); // another order
         step->sendOrderAction();
         ASSERT_TRUE(alertComes());
         EXPECT_EQ(alert(),
@@ -239,6 +241,52 @@ TEST_F(SendTest, OfflineOrdersQueueUnderTheFirstFreeName) {
     EXPECT_TRUE(network.requests.saveOrder.calls.empty());
     step->previewAction();
     EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
+}
+
+TEST_F(SendTest, AnUnchangedOrderWaitsInTheOutboxOnceHoweverOftenItIsTapped) {
+    completeDraft();
+    network.reachable = false;
+    open();
+    const auto tap = [&] {
+        step->sendOrderAction();
+        EXPECT_TRUE(alertComes());
+        const std::string told = alert();
+        press("Aceptar");
+        return told;
+    };
+    const auto files = [&] { return orders.list<Order>(Directory::outbox).size(); };
+    const std::string waits =
+        "Sin conexión a internet. | Su pedido ya está en borradores con el nombre \"Sin "
+        "enviar\", pendiente de envío.";
+    tap();
+    EXPECT_EQ(tap(), waits);
+    TemporalBrochure::shared().flush(); // the same after a restart
+    BrochureIntermediateData::replaceTemporalBrochure();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
+    open();
+    EXPECT_EQ(tap(), waits);
+    EXPECT_EQ(files(), 1U);
+
+    // Sent from here meanwhile, without an answer, it is still the order of the file.
+    network.reachable = true;
+    step->sendOrderAction();
+    network.requests.saveOrder.fail(lostAnswer());
+    press("Aceptar");
+    network.reachable = false;
+    EXPECT_EQ(tap(), waits);
+
+    draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
+    EXPECT_NE(tap(), waits);
+    EXPECT_EQ(files(), 2U);
+    // A file that the user erased waits no longer, and the one that takes its place has the key.
+    ASSERT_TRUE(orders.remove<Order>("Sin enviar(1).zvo", Directory::outbox));
+    EXPECT_NE(tap(), waits);
+    EXPECT_EQ(files(), 2U);
+    const auto order = orders.retrieve<KeptOrder>("Sin enviar(1).zvo", Directory::outbox);
+    const auto moment = orders.moment<KeptOrder>("Sin enviar(1).zvo", Directory::outbox);
+    network.reachable = true;
+    step->sendOrderAction();
+    EXPECT_EQ(lastKey(), send_intent::keyOfFile(*order, Directory::outbox, "Sin enviar(1).zvo", *moment));
 }
 
 TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
@@ -377,6 +425,25 @@ TEST_F(SendTest, AnotherContentIsAnotherIntentAndTheFirstIsStillItself) {
     EXPECT_EQ(lastKey(), first);
 }
 
+TEST_F(SendTest, ACloudSaveThatGoesBackToAnEarlierContentIsTakenByTheServer) {
+    completeDraft();
+    open();
+    std::vector<QByteArray> keys;
+    for (const double price : {2.0, 3.0, 2.0}) {
+        draft().setPrice(PriceType::main, knownFormat, knownBrand, price);
+        saveAs("mi carta");
+        press("Sí");
+        ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+        keys.push_back(lastKey());
+        if (price == 2)
+            network.requests.saveOrder.fail(lostAnswer());
+        else
+            network.requests.saveOrder.succeed({});
+        press("Aceptar");
+    }
+    EXPECT_NE(keys[2], keys[0]) << "the server would only repeat its answer, and keep the second content";
+}
+
 TEST_F(SendTest, TheKeyOutlivesTheProcess) {
     completeDraft();
     open().sendOrderAction();
@@ -436,18 +503,19 @@ TEST_F(SendTest, AnOutboxFileIsTheOrderThatMayBeAtTheServerAndElseOneOfItsOwn) {
                                : QByteArray();
     };
     const QByteArray queued = queue("Sin enviar");
-    EXPECT_NE(queue("Sin enviar(1)"), queued) << "two files, two orders";
     step->sendOrderAction();
     EXPECT_EQ(lastKey(), queued) << "sent from here, it is the order of the file";
     network.requests.saveOrder.fail(lostAnswer());
     press("Aceptar");
-    EXPECT_EQ(queue("Sin enviar(2)"), queued);
+    ASSERT_TRUE(orders.remove<Order>("Sin enviar.zvo", Directory::outbox));
+    EXPECT_EQ(queue("Sin enviar"), queued);
 
     step->sendOrderMyselfAction(); // who prints is not read back from a file
     const QByteArray myself = lastKey();
     network.requests.saveOrder.fail(lostAnswer());
     press("Aceptar");
-    EXPECT_EQ(queue("Sin enviar(3)", &BrochureSendViewController::sendOrderMyselfAction), myself);
+    EXPECT_NE(myself, queued);
+    EXPECT_EQ(queue("Sin enviar(1)", &BrochureSendViewController::sendOrderMyselfAction), myself);
 }
 
 // ---- What was sent

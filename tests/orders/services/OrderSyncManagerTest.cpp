@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/TemporalBrochure.h"
 #include "device/Clock.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/services/SendIntent.h"
@@ -226,6 +227,62 @@ TEST_F(OrderSyncManagerTest, OnlyTheSharedDraftThatIsTheOrderTakesItsNumber) {
     services.requests.saveOrder.succeed(stored(79));
     EXPECT_FALSE(current.orderIdentifier);
     EXPECT_EQ(storedIdentifier("Bar Pino"), 79);
+}
+
+TEST_F(OrderSyncManagerTest, TheNumberReachesTheMenuThatComesBackFromItsCopy) {
+    struct Case {
+        std::function<void()> upload;
+        std::string name;
+    };
+    auto& temporal = TemporalBrochure::shared();
+    const auto restored = [&] {
+        temporal.flush();
+        BrochureIntermediateData::replaceTemporalBrochure(); // as after a restart
+        EXPECT_TRUE(temporal.restoreDraft());
+        return BrochureIntermediateData::temporalBrochure();
+    };
+    for (const Case& each :
+         {Case{[this] { saveInFront(); }, "Bar Nube"}, Case{[this] { run(); }, "Bar Olmo"}}) {
+        BrochureIntermediateData::replaceTemporalBrochure();
+        draft(each.name);
+        BrochureIntermediateData::temporalBrochure()->fileName = each.name;
+        temporal.write(*BrochureIntermediateData::temporalBrochure());
+        each.upload();
+        const auto menu = restored(); // before the answer
+        temporal.write(*menu);
+        services.requests.saveOrder.succeed(stored(77));
+        EXPECT_EQ(menu->orderIdentifier, 77) << each.name;
+        EXPECT_EQ(restored()->orderIdentifier, 77) << each.name;
+        temporal.removeAll();
+    }
+}
+
+TEST_F(OrderSyncManagerTest, ANameThatIsAnotherBarsOrderByNowTakesNoNumber) {
+    const auto orderOf = [](const char* bar) {
+        SaveBrochuresOrder order;
+        order.filename = "carta";
+        order.menu.customer.name = bar;
+        return order;
+    };
+    ASSERT_TRUE(orders.create(orderOf("Bar Nube"), DirectoryName::draft, "carta"));
+    run();
+    ASSERT_TRUE(orders.update(orderOf("Bar Olmo"), "carta.zvo", DirectoryName::draft));
+    auto& current = *BrochureIntermediateData::temporalBrochure();
+    current.fileName = "carta";
+    current.customerInformation = orderOf("Bar Olmo").menu.customer;
+    TemporalBrochure::shared().write(current);
+    manager.startOrderSync();
+    const auto notices = clock.pending();
+    ASSERT_TRUE(waitFor([&] { return clock.pending() > notices; }));
+    services.requests.saveOrder.succeed(stored(77));
+    EXPECT_FALSE(storedIdentifier("carta"));
+    EXPECT_FALSE(current.orderIdentifier);
+    ASSERT_EQ(services.requests.saveOrder.calls.size(), 2U);
+    EXPECT_FALSE(std::get<0>(services.requests.saveOrder.calls.back()).orderIdentifier);
+    services.requests.saveOrder.succeed(stored(78));
+    EXPECT_EQ(storedIdentifier("carta"), 78);
+    EXPECT_EQ(current.orderIdentifier, 78);
+    TemporalBrochure::shared().removeAll();
 }
 
 TEST_F(OrderSyncManagerTest, AnAnswerChangesOnlyTheNumberInTheFileAsItStandsByThen) {

@@ -286,9 +286,9 @@ void BrochureConfigurationViewController::confirmPlace(const Placemark& place) {
                              this, [this, place](const AlertAnswer& answer) {
                                  if (answer.button != 0)
                                      return;
-                                 form_.setText("postalCodeTextField", place.postalCode.value_or(QString()));
-                                 form_.setText("municipalityTextField", place.locality.value_or(QString()));
-                                 form_.setText("provinceTextField", place.state.value_or(QString()));
+                                 form_.editText("postalCodeTextField", place.postalCode.value_or(QString()));
+                                 form_.editText("municipalityTextField", place.locality.value_or(QString()));
+                                 form_.editText("provinceTextField", place.state.value_or(QString()));
                                  allTextsChanged();
                                  commit();
                              });

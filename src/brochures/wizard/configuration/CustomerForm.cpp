@@ -70,15 +70,14 @@ void CustomerForm::fill(const Customer& customer) {
         texts_[std::string(entry.name)] = QString::fromStdString(value);
     }
     imageLogo_ = readLogo(customer.imageLogo);
-    found_.reset();
+    found_ = {customer.id, customer.placeLocalityId, customer.placeProvinceId,
+              customer.priorityBrandIdentifiers};
 }
 
 void CustomerForm::fillFromLookup(const Customer& customer) {
     const QString code = text("tevoTextField");
     fill(customer);
     texts_["tevoTextField"] = code;
-    found_ = Found{customer.id, customer.placeLocalityId, customer.placeProvinceId,
-                   customer.priorityBrandIdentifiers};
 }
 
 void CustomerForm::apply(Customer& customer) const {
@@ -90,12 +89,10 @@ void CustomerForm::apply(Customer& customer) const {
             customer.*entry.member = value.empty() ? std::nullopt : std::optional(value);
     }
     customer.imageLogo = imageLogo_.empty() ? std::nullopt : std::optional(imageLogo_);
-    if (!found_)
-        return;
-    customer.id = found_->id;
-    customer.placeLocalityId = found_->placeLocalityId;
-    customer.placeProvinceId = found_->placeProvinceId;
-    customer.priorityBrandIdentifiers = found_->priorityBrandIdentifiers;
+    customer.id = found_.id;
+    customer.placeLocalityId = found_.placeLocalityId;
+    customer.placeProvinceId = found_.placeProvinceId;
+    customer.priorityBrandIdentifiers = found_.priorityBrandIdentifiers;
 }
 
 QString CustomerForm::text(std::string_view name) const {
@@ -118,6 +115,10 @@ bool CustomerForm::editText(std::string_view name, const QString& text) {
         return false;
     if (name == "tevoTextField" || name == "establishmentNameTextField")
         forgetLookup();
+    if (name == "municipalityTextField")
+        found_.placeLocalityId.reset();
+    if (name == "provinceTextField")
+        found_.placeProvinceId.reset();
     return true;
 }
 

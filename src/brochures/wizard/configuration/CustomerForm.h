@@ -38,7 +38,7 @@ public:
     // nullptr for a name that is no field.
     static const CustomerField* field(std::string_view name);
 
-    // Takes over all fields; an absent value empties its field.
+    // Takes over all fields, and what a lookup brought along; an absent value empties its field.
     void fill(const Customer& customer);
     // A customer found by its code overwrites everything but the code.
     void fillFromLookup(const Customer& customer);
@@ -48,7 +48,8 @@ public:
     [[nodiscard]] QString text(std::string_view name) const;
     // Answers whether the text changed. The process stops for a name that is no field.
     bool setText(std::string_view name, const QString& text);
-    // The same by the user's hand: with another code or name it is another point of sale.
+    // The same by the user's hand, or a place that the user accepted: with another code or name it is another
+    // point of sale, with another municipality or province another place.
     bool editText(std::string_view name, const QString& text);
     // What a lookup brought along besides the fields goes: the numbers of the point of sale and its brands.
     void forgetLookup() { found_ = Found{}; }
@@ -72,7 +73,7 @@ private:
 
     std::map<std::string, QString, std::less<>> texts_;
     std::string imageLogo_;
-    std::optional<Found> found_;
+    Found found_;
 };
 
 } // namespace kavor

@@ -64,6 +64,38 @@ QUrl qurl(const Url& url) {
     return {QString::fromStdString(url.text)};
 }
 
+// What became of an order that could not be sent.
+struct Queued {
+    enum class Result { Written, WaitsAlready, Failed };
+    std::string name; // of its file in the outbox
+    Result result = Result::Failed;
+};
+
+// A further tap on an order that waits already is no further order.
+Queued intoOutbox(const OrderDiskManager& orders, const KeptOrder& order, const UnansweredSends& unanswered) {
+    if (auto waiting = send_intent::nameInOutbox(unanswered, order, orders))
+        return {std::move(*waiting), Queued::Result::WaitsAlready};
+    std::string name = "Sin enviar";
+    for (int number = 1; orders.exists<Order>(name, Directory::outbox); ++number)
+        name = "Sin enviar(" + std::to_string(number) + ")";
+    const bool written = orders.create(order, Directory::outbox, name);
+    return {std::move(name), written ? Queued::Result::Written : Queued::Result::Failed};
+}
+
+QString textOf(const Queued& queued) {
+    switch (queued.result) {
+    case Queued::Result::Written:
+        return QStringLiteral("Su pedido ha sido guardado en borradores con el nombre \"%1\".")
+            .arg(fromUtf8(queued.name));
+    case Queued::Result::WaitsAlready:
+        return QStringLiteral("Su pedido ya está en borradores con el nombre \"%1\", pendiente de envío.")
+            .arg(fromUtf8(queued.name));
+    case Queued::Result::Failed:
+        break;
+    }
+    return QStringLiteral("Su pedido no se ha podido guardar");
+}
+
 } // namespace
 
 BrochureSendViewController::BrochureSendViewController(const WizardServices& services, QObject* parent)
@@ -289,26 +321,20 @@ void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& 
 
 void BrochureSendViewController::queueOffline() {
     showVeil(true, savingText);
-    std::string name = "Sin enviar";
-    for (int number = 1; services_.orders.exists<Order>(name, Directory::outbox); ++number)
-        name = "Sin enviar(" + std::to_string(number) + ")";
     KeptOrder order{draft_->makeOrder(OrderRequestType::sendToPrint, true)};
     // What may be at the server already goes by the key under which it was sent.
     if (auto known = send_intent::sentWithoutAnswer(draft_->unansweredSends, order); !known.empty())
         order.unansweredSends = std::move(known);
     runInBackground(
         this,
-        [&orders = services_.orders, name, order] { return orders.create(order, Directory::outbox, name); },
-        [this, name, order](bool written) {
+        [&orders = services_.orders, order, unanswered = draft_->unansweredSends] {
+            return intoOutbox(orders, order, unanswered);
+        },
+        [this, order](const Queued& queued) {
             showVeil(false);
-            if (written)
-                noteQueued(order, OrderDiskManager::fileName(name));
-            services_.alerts.inform(
-                QStringLiteral("Sin conexión a internet."),
-                written ? QStringLiteral("Su pedido ha sido guardado en borradores con el nombre "
-                                         "\"%1\".")
-                              .arg(fromUtf8(name))
-                        : QStringLiteral("Su pedido no se ha podido guardar"));
+            if (queued.result == Queued::Result::Written)
+                noteQueued(order, OrderDiskManager::fileName(queued.name));
+            services_.alerts.inform(QStringLiteral("Sin conexión a internet."), textOf(queued));
         });
 }
 
