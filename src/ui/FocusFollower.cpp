@@ -38,6 +38,8 @@ void FocusFollower::componentComplete() {
     if (!view_)
         return;
     connect(view_, &QQuickItem::windowChanged, this, &FocusFollower::follow);
+    connect(view_, &QQuickItem::widthChanged, this, &FocusFollower::viewResized);
+    connect(view_, &QQuickItem::heightChanged, this, &FocusFollower::viewResized);
     follow(view_->window());
 }
 
@@ -156,6 +158,14 @@ void FocusFollower::focusMoved() {
     if (item->property("focusReason").toInt() == Qt::MouseFocusReason)
         return;
     bringIntoView(item);
+}
+
+// A turned window lays its content out anew before the next frame.
+void FocusFollower::viewResized() {
+    if (!window_ || !focusedRow())
+        return;
+    connect(window_, &QQuickWindow::afterAnimating, this, &FocusFollower::focusMoved,
+            static_cast<Qt::ConnectionType>(Qt::UniqueConnection | Qt::SingleShotConnection));
 }
 
 void FocusFollower::bringIntoView(const QQuickItem* item) {

@@ -88,6 +88,21 @@ TEST(Carousel, MovesByArrowKeysAndStopsAtItsEnds) {
     EXPECT_EQ(scene.log(), QStringList({"selected 2", "selected 4", "selected 0", "tapped 0"}));
 }
 
+TEST(Carousel, ShowsTheKeyboardsFocusAndNotAFingers) {
+    UiScene scene(QString::fromUtf8(kCarousel) + QStringLiteral("AppButton { objectName: \"below\" }"));
+    EXPECT_FALSE(scene.isOnShow("stylesRing"));
+    scene.tap({UiScene::kTablet.width() / 2, 300});
+    scene.click("stylesNext");
+    EXPECT_TRUE(scene.value("styles", "activeFocus").toBool());
+    EXPECT_FALSE(scene.isOnShow("stylesRing"));
+    scene.key(Qt::Key_Tab);
+    EXPECT_EQ(scene.focusName(), "below") << "the buttons are no stops of their own";
+    scene.key(Qt::Key_Backtab);
+    EXPECT_TRUE(scene.isOnShow("stylesRing"));
+    scene.key(Qt::Key_Return);
+    EXPECT_EQ(scene.log().last(), "tapped 2");
+}
+
 TEST(Carousel, SnapsToACardAfterASwipe) {
     UiScene scene(QString::fromUtf8(kCarousel), UiScene::kPhone);
     scene.swipe({300, 400}, {80, 400});

@@ -156,6 +156,9 @@ TEST(Veil, OffersAWayOutByTapAndKeyboardWhenItStandsTooLong) {
     for (const bool shown : {false, true})
         veil->setProperty("shown", shown);
     EXPECT_FALSE(scene.isOnShow("wayOut")) << "each veil waits anew";
+    veil->setProperty("patience", 1);
+    ASSERT_NE(scene.item("wayOut"), nullptr);
+    EXPECT_FALSE(scene.value("wayOut", "activeFocus").toBool()) << "Enter does not leave by chance";
 }
 
 } // namespace kavor

@@ -73,4 +73,31 @@ TEST(FocusFollower, AFormThatScrollsFollowsToo) {
     }
 }
 
+TEST(FocusFollower, WhatHasTheFocusStaysInSightWhenTheWindowTurns) {
+    UiScene scene(R"(
+        Flickable {
+            id: page
+            anchors.fill: parent; contentHeight: tiles.height; clip: true
+            FocusFollower { view: page }
+            Grid {
+                id: tiles
+                columns: page.width > page.height ? 4 : 2
+                spacing: 40
+                Repeater { model: 16; AppButton { objectName: "tile" + index; width: 120; height: 120; text: "x" } }
+            }
+        }
+    )");
+    scene.key(Qt::Key_Backtab);
+    ASSERT_EQ(scene.focusName(), QStringLiteral("tile15"));
+    const QQuickItem* item = scene.window()->activeFocusItem();
+    for (const QSize size : {UiScene::kPhone, UiScene::kTablet, UiScene::kPhone}) {
+        scene.window()->resize(size);
+        const QRectF sight(QPointF(), size);
+        EXPECT_TRUE(UiScene::waitFor([&] {
+            return scene.window()->size() == size &&
+                   sight.contains(item->mapRectToScene(item->boundingRect()));
+        })) << size.width();
+    }
+}
+
 } // namespace kavor

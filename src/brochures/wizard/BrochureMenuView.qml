@@ -17,8 +17,10 @@ FocusScope {
     function showPreview(): void {
         if (controller.preview)
             previewLoader.setSource("qrc:/qt/qml/Kavor/Kit/WebPreviewView.qml", { controller: controller.preview });
-        else
+        else {
             previewLoader.source = "";
+            container.forceActiveFocus(); // the keyboard goes on in the step
+        }
     }
 
     Component.onCompleted: {

@@ -73,6 +73,13 @@ Item {
                 border.width: 1
                 border.color: Theme.hairline
 
+                Rectangle { // square lower corners of a sheet
+                    visible: Theme.compact
+                    anchors.bottom: parent.bottom
+                    width: parent.width
+                    height: 20
+                    color: Theme.surface
+                }
                 MouseArea { anchors.fill: parent } // a tap inside stays inside
 
                 Item {

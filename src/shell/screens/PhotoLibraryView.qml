@@ -102,7 +102,10 @@ Item {
                         selected: modelData.current
                         text: modelData.text
                         icon: modelData.icon
-                        onClicked: view.controller.open(modelData.folder)
+                        onClicked: {
+                            grid.forceActiveFocus(Qt.TabFocusReason); // the chips are made anew for another folder
+                            view.controller.open(modelData.folder);
+                        }
                     }
                 }
             }

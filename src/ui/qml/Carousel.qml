@@ -19,6 +19,8 @@ FocusScope {
     readonly property bool buttonsVisible: showButtons && count > 1
     property string text: "" // accessible name
 
+    property bool pointed: false // the focus came by a tap
+
     readonly property InView inView: InView { item: carousel }
 
     signal selected(int index)
@@ -37,6 +39,12 @@ FocusScope {
             list.incrementCurrentIndex();
         while (list.currentIndex > index)
             list.decrementCurrentIndex();
+    }
+    // A press on a button, which is no stop of the Tab key: the arrow keys do the same, from the cards.
+    function step(by: int): void {
+        pointed = true;
+        list.forceActiveFocus(Qt.MouseFocusReason);
+        go(currentIndex + by);
     }
     function positionOf(index: int): real {
         return list.originX + index * (itemWidth + spacing) - list.leftMargin;
@@ -102,6 +110,10 @@ FocusScope {
             glide.to = carousel.positionOf(currentIndex);
             glide.restart();
         }
+        onActiveFocusChanged: {
+            if (!activeFocus)
+                carousel.pointed = false;
+        }
         onMovementStarted: glide.stop()
         onMovementEnded: {
             const nearest = Math.round((contentX + leftMargin - originX) / (carousel.itemWidth + carousel.spacing));
@@ -118,7 +130,8 @@ FocusScope {
         }
         TapHandler {
             onTapped: (point) => {
-                carousel.forceActiveFocus(Qt.MouseFocusReason);
+                carousel.pointed = true;
+                list.forceActiveFocus(Qt.MouseFocusReason);
                 const index = list.indexAt(point.position.x, list.height / 2); // in the content's coordinates
                 if (index < 0)
                     return;
@@ -130,6 +143,11 @@ FocusScope {
         }
     }
 
+    FocusRing {
+        objectName: carousel.objectName + "Ring"
+        anchors.fill: list
+        shown: list.activeFocus && !carousel.pointed
+    }
     IconButton {
         objectName: carousel.objectName + "Previous"
         anchors.left: parent.left
@@ -139,7 +157,9 @@ FocusScope {
         framed: true
         icon: "chevron-left"
         text: "Anterior"
-        onClicked: carousel.go(carousel.currentIndex - 1)
+        focusPolicy: Qt.ClickFocus
+        activeFocusOnTab: false
+        onClicked: carousel.step(-1)
     }
     IconButton {
         objectName: carousel.objectName + "Next"
@@ -150,7 +170,9 @@ FocusScope {
         framed: true
         icon: "chevron-right"
         text: "Siguiente"
-        onClicked: carousel.go(carousel.currentIndex + 1)
+        focusPolicy: Qt.ClickFocus
+        activeFocusOnTab: false
+        onClicked: carousel.step(1)
     }
 
     Item {

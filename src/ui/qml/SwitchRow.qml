@@ -26,7 +26,7 @@ Tappable {
         radius: Theme.radius
         color: row.down ? Theme.sunken : "transparent"
 
-        FocusRing { shown: row.visualFocus }
+        FocusRing { shown: row.visualFocus; anchors.margins: -6 }
     }
 
     contentItem: Item {

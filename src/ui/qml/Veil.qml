@@ -32,7 +32,10 @@ Item {
         focus: true
         visible: veil.visible
         closePolicy: T.Popup.NoAutoClose
-        onAboutToShow: returnTo = veil.Window.activeFocusItem
+        onAboutToShow: {
+            returnTo = veil.Window.activeFocusItem;
+            holder.focus = true; // not the way out that was taken the last time
+        }
         onClosed: {
             if (returnTo?.visible)
                 returnTo.forceActiveFocus(Qt.PopupFocusReason);
@@ -41,6 +44,8 @@ Item {
         background: Rectangle { color: "#D9FAF6EE" }
 
         contentItem: Item {
+            id: holder
+
             focus: true
             Keys.onEscapePressed: {
                 if (wayOut.visible)

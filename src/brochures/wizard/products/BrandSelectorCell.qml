@@ -22,6 +22,10 @@ Item {
 
     signal formatTapped(int row, var format)
 
+    function focusFirst(): void {
+        chipRepeater.itemAt(0)?.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitHeight: card.height + Theme.spaceM
 
     Accessible.role: Accessible.ListItem
@@ -133,6 +137,8 @@ Item {
             spacing: Theme.spaceS
 
             Repeater {
+                id: chipRepeater
+
                 model: cell.formats
 
                 BrandFormatChip {

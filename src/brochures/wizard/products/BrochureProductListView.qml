@@ -50,6 +50,17 @@ FocusScope {
 
         property bool pinned: true // stands at its beginning, also when the window turns
 
+        // Arrows lead from brand to brand, to its first format.
+        function focusBrand(row: int): void {
+            if (row < 0 || row >= count)
+                return;
+            if (!itemAtIndex(row)) {
+                positionViewAtIndex(row, ListView.Contain);
+                forceLayout();
+            }
+            (itemAtIndex(row) as BrandSelectorCell)?.focusFirst();
+        }
+
         objectName: "brandList"
         anchors.top: top.bottom
         anchors.topMargin: 1
@@ -61,7 +72,7 @@ FocusScope {
         cacheBuffer: 400
         model: view.controller.brandsList
         boundsBehavior: Flickable.DragOverBounds
-        activeFocusOnTab: true
+        keyNavigationEnabled: false
         bottomMargin: Theme.spaceXL
         onMovementEnded: pinned = atYBeginning
         onOriginYChanged: {
@@ -102,6 +113,8 @@ FocusScope {
             objectName: "brandCell" + brandId
             width: list.width
             height: implicitHeight
+            Keys.onUpPressed: list.focusBrand(index - 1)
+            Keys.onDownPressed: list.focusBrand(index + 1)
             onFormatTapped: (row, format) => view.controller.toggleFormat(row, format)
         }
 
