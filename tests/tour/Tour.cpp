@@ -17,6 +17,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainter>
 #include <QPdfDocument>
 #include <QPdfSelection>
 #include <QQuickItem>
@@ -59,6 +60,24 @@ void writeFile(const QString& path, const QByteArray& content) {
 // A text as a reader takes it: blanks of any kind and number count as one.
 QString plainText(QString text) {
     return text.replace(QRegularExpression(QStringLiteral("[\\s\\x{a0}\\x{202f}]+")), QStringLiteral(" "));
+}
+
+// A logo as a bar has it: an emblem with the first letter of its name.
+QImage barLogo() {
+    QImage logo(320, 320, QImage::Format_RGB32);
+    logo.fill(QColor(0xfa, 0xf6, 0xee));
+    QPainter painter(&logo);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(0x12, 0x3f, 0x31));
+    painter.setPen(QPen(QColor(0xe0, 0xa1, 0x26), 14));
+    painter.drawEllipse(logo.rect().adjusted(16, 16, -16, -16));
+    QFont font(QStringLiteral("Roboto"));
+    font.setPixelSize(170);
+    font.setWeight(QFont::Bold);
+    painter.setFont(font);
+    painter.setPen(QColor(0xfa, 0xf6, 0xee));
+    painter.drawText(logo.rect(), Qt::AlignCenter, QStringLiteral("H"));
+    return logo;
 }
 
 const BrochureIntermediateData& draft() {
@@ -254,18 +273,16 @@ void Tour::fillConfiguration() {
     chooseFirst(QStringLiteral("firstLanguagePicker"));
     touch_->waitUntil(QStringLiteral("a language in the draft"),
                       [] { return draft().currentLanguages().has_value(); });
+    shot(QStringLiteral("configuracion"));
     remember();
     chooseLogo();
-    shot(QStringLiteral("configuracion"));
 }
 
 // The bar's logo, from a folder of the device in which there is nothing else.
 void Tour::chooseLogo() {
     const QString folder = options_.documents + QStringLiteral("-fotos");
     QDir().mkpath(folder);
-    QImage logo(320, 200, QImage::Format_RGB32);
-    logo.fill(QColor(0xe0, 0xa1, 0x26));
-    must(logo.save(folder + QStringLiteral("/logotipo.png")), QStringLiteral("write the logo"));
+    must(barLogo().save(folder + QStringLiteral("/logotipo.png")), QStringLiteral("write the logo"));
     const auto former = draft().customerInformation->imageLogo;
     touch_->tap(QStringLiteral("searchLogoInGallery"));
     touch_->await(QStringLiteral("photoGrid"));
