@@ -13,7 +13,6 @@ namespace kavor {
 namespace {
 
 constexpr double air = 24; // around what has the focus
-constexpr int contain = 4; // ListView.Contain
 
 bool isListView(const QQuickItem* view) {
     return view->inherits("QQuickItemView");
@@ -38,8 +37,8 @@ void FocusFollower::componentComplete() {
     if (!view_)
         return;
     connect(view_, &QQuickItem::windowChanged, this, &FocusFollower::follow);
-    connect(view_, &QQuickItem::widthChanged, this, &FocusFollower::viewResized);
-    connect(view_, &QQuickItem::heightChanged, this, &FocusFollower::viewResized);
+    connect(view_, &QQuickItem::widthChanged, this, &FocusFollower::followAfterLayout);
+    connect(view_, &QQuickItem::heightChanged, this, &FocusFollower::followAfterLayout);
     follow(view_->window());
 }
 
@@ -82,7 +81,8 @@ bool FocusFollower::eventFilter(QObject*, QEvent* event) {
     return false; // the window moves the focus
 }
 
-// The row that Tab may lead to exists.
+// The row that Tab may lead to exists: it comes into sight beside the one in focus. A jump to its index could
+// let go of the row in focus, where rows differ in height.
 void FocusFollower::makeNeighbour(int direction) {
     const QQuickItem* row = focusedRow();
     const int count = view_->property("count").toInt();
@@ -92,7 +92,15 @@ void FocusFollower::makeNeighbour(int direction) {
     const int next = index + direction;
     if (index < 0 || next < 0 || next >= count || rowAt(next))
         return;
-    QMetaObject::invokeMethod(view_, "positionViewAtIndex", Q_ARG(int, next), Q_ARG(int, contain));
+    const bool sideways = view_->property("orientation").toInt() == Qt::Horizontal;
+    const char* position = sideways ? "contentX" : "contentY";
+    const double from = sideways ? row->x() : row->y();
+    const double to = from + (sideways ? row->width() : row->height());
+    const double size = sideways ? view_->width() : view_->height();
+    const double peep = view_->property("spacing").toDouble() + 1;
+    const double now = view_->property(position).toDouble();
+    view_->setProperty(position,
+                       direction > 0 ? std::max(now, to + peep - size) : std::min(now, from - peep));
     QMetaObject::invokeMethod(view_, "forceLayout");
 }
 
@@ -151,6 +159,11 @@ void FocusFollower::wakeSpareRows() {
 }
 
 void FocusFollower::focusMoved() {
+    followFocus();
+    followAfterLayout();
+}
+
+void FocusFollower::followFocus() {
     const QQuickItem* item = window_ ? window_->activeFocusItem() : nullptr;
     if (!item || !focusedRow())
         return;
@@ -160,11 +173,11 @@ void FocusFollower::focusMoved() {
     bringIntoView(item);
 }
 
-// A turned window lays its content out anew before the next frame.
-void FocusFollower::viewResized() {
+// Rows that were just made, and those of a turned window, find their places before the next frame.
+void FocusFollower::followAfterLayout() {
     if (!window_ || !focusedRow())
         return;
-    connect(window_, &QQuickWindow::afterAnimating, this, &FocusFollower::focusMoved,
+    connect(window_, &QQuickWindow::afterAnimating, this, &FocusFollower::followFocus,
             static_cast<Qt::ConnectionType>(Qt::UniqueConnection | Qt::SingleShotConnection));
 }
 

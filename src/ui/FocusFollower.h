@@ -36,7 +36,8 @@ signals:
 private:
     void follow(QQuickWindow* window);
     void focusMoved();
-    void viewResized();
+    void followFocus();
+    void followAfterLayout();
     void bringIntoView(const QQuickItem* item);
     [[nodiscard]] QQuickItem* content() const;
     // The child of the content that holds the focus; null when it is elsewhere.

@@ -75,6 +75,10 @@ FocusScope {
         keyNavigationEnabled: false
         bottomMargin: Theme.spaceXL
         onMovementEnded: pinned = atYBeginning
+        onContentYChanged: { // the keyboard scrolls too
+            if (activeFocus && !moving)
+                pinned = atYBeginning;
+        }
         onOriginYChanged: {
             if (pinned && !moving)
                 Qt.callLater(positionViewAtBeginning); // qmllint disable
