@@ -1,37 +1,15 @@
-#include "brochures/wizard/StepFixture.h"
+#include "brochures/wizard/StepViewFixture.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
-#include "shell/screens/Screens.h"
-#include "ui/UiScene.h"
 
 namespace kavor {
 namespace {
 
 // The real list of brands in a window, worked by keyboard.
-class BrandKeys : public StepTest {
+class BrandKeys : public StepViewTest<BrochureProductListViewController> {
 protected:
     static constexpr int brands = 40;
 
-    std::unique_ptr<BrochureProductListViewController> step;
-    std::unique_ptr<UiScene> scene;
-
-    void TearDown() override {
-        scene.reset();
-        step.reset();
-        StepTest::TearDown();
-    }
-    void show(QSize size) {
-        scene.reset();
-        step = std::make_unique<BrochureProductListViewController>(services, nullptr);
-        step->viewDidLoad();
-        step->viewWillAppear();
-        QQmlEngine registering;
-        registerScreens(registering); // for the whole process
-        scene = std::make_unique<UiScene>(
-            QStringLiteral("Loader { anchors.fill: parent\n"
-                           "Component.onCompleted: setSource(\"%1\", { controller: step }) }")
-                .arg(screenView("BrochureProductListView").toString()),
-            size, QHash<QString, QObject*>{{QStringLiteral("step"), step.get()}});
-    }
+    void show(QSize size) { showView("BrochureProductListView", size); }
     // Rows of different heights, as brands have them.
     static int formatsOf(int brand) { return 1 + brand * 3 % 8; }
     static QString chip(int brand, int format) {

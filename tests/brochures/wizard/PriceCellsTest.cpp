@@ -1,28 +1,18 @@
-#include "brochures/wizard/StepFixture.h"
+#include "brochures/wizard/StepViewFixture.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
-#include "shell/screens/Screens.h"
-#include "ui/UiScene.h"
 
 namespace kavor {
 namespace {
 
 // The real table of prices in a window, typed into.
-class PriceCells : public StepTest {
+class PriceCells : public StepViewTest<BrochurePriceSetterViewController> {
 protected:
     static constexpr Int brand = 20;
-
-    std::unique_ptr<BrochurePriceSetterViewController> step;
-    std::unique_ptr<UiScene> scene;
 
     void SetUp() override {
         StepTest::SetUp();
         builder.type(BrochureType::beer).isSecondBrochuresPriceAllowed = true;
         builder.brand(brand, "Haya");
-    }
-    void TearDown() override {
-        scene.reset();
-        step.reset();
-        StepTest::TearDown();
     }
     void show(int formats, std::optional<PriceType> second = std::nullopt, QSize size = UiScene::kTablet) {
         scene.reset();
@@ -35,16 +25,7 @@ protected:
         for (int i = 0; i < formats; ++i)
             draft().setFormatSelected(true, 200 + i, brand);
         draft().defaultHighlightedElementVisited = true;
-        step = std::make_unique<BrochurePriceSetterViewController>(services, nullptr);
-        step->viewDidLoad();
-        step->viewWillAppear();
-        QQmlEngine registering;
-        registerScreens(registering); // for the whole process
-        scene = std::make_unique<UiScene>(
-            QStringLiteral("Loader { anchors.fill: parent\n"
-                           "Component.onCompleted: setSource(\"%1\", { controller: step }) }")
-                .arg(screenView("BrochurePriceSetterView").toString()),
-            size, QHash<QString, QObject*>{{QStringLiteral("step"), step.get()}});
+        showView("BrochurePriceSetterView", size);
     }
     static QString primary(int tag) { return QStringLiteral("retailPrimaryPriceTextField%1").arg(tag); }
     static QString secondary(int tag) { return QStringLiteral("retailSecondaryPriceTextField%1").arg(tag); }
