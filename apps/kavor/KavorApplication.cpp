@@ -8,6 +8,7 @@
 #include "brochures/wizard/WizardStep.h"
 #include "device/AlertPresenter.h"
 #include "device/AppLifecycle.h"
+#include "device/Background.h"
 #include "device/BackgroundTasks.h"
 #include "device/Clock.h"
 #include "device/KeychainStore.h"
@@ -146,6 +147,7 @@ struct KavorApplication::Parts {
     QtLocationService locationService;
     NoReverseGeocoder geocoder;
     ReverseLocationManager location;
+    BackgroundWorkEnd backgroundWork;
     QtAppLifecycle lifecycle;
     AppDelegate application;
     CatalogueUpdate catalogue;

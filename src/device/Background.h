@@ -31,4 +31,14 @@ void runInBackground(QObject* context, Work work, Callback callback,
     });
 }
 
+// Declared after what such work reads, and before whoever begins it: nothing is taken from under work that
+// still runs, nor is a file left half done when the client ends.
+class BackgroundWorkEnd {
+public:
+    BackgroundWorkEnd() = default;
+    BackgroundWorkEnd(const BackgroundWorkEnd&) = delete;
+    BackgroundWorkEnd& operator=(const BackgroundWorkEnd&) = delete;
+    ~BackgroundWorkEnd() { QThreadPool::globalInstance()->waitForDone(); }
+};
+
 } // namespace kavor

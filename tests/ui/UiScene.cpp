@@ -3,6 +3,7 @@
 #include "ui/Ui.h"
 
 #include <QGuiApplication>
+#include <QMutex>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QTest>
@@ -13,9 +14,11 @@ namespace kavor {
 
 namespace {
 
+QMutex warningsMutex; // pictures and types warn from threads of their own
 QStringList* warningsOfScene = nullptr;
 
 void keepWarning(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    const QMutexLocker lock(&warningsMutex);
     if (type != QtDebugMsg && type != QtInfoMsg && warningsOfScene != nullptr)
         warningsOfScene->append(text);
     std::fprintf(stderr, "%s\n", qPrintable(text));
@@ -41,7 +44,10 @@ QPointingDevice* finger() {
 } // namespace
 
 UiScene::UiScene(const QString& content, QSize size, const QHash<QString, QObject*>& context) {
-    warningsOfScene = &warnings_;
+    {
+        const QMutexLocker lock(&warningsMutex);
+        warningsOfScene = &warnings_;
+    }
     qInstallMessageHandler(keepWarning);
     registerUi(engine_);
     for (auto it = context.begin(); it != context.end(); ++it)
@@ -67,7 +73,10 @@ UiScene::UiScene(const QString& content, QSize size, const QHash<QString, QObjec
 
 UiScene::~UiScene() {
     window_.reset();
-    warningsOfScene = nullptr;
+    {
+        const QMutexLocker lock(&warningsMutex);
+        warningsOfScene = nullptr;
+    }
     qInstallMessageHandler(nullptr);
 }
 

@@ -17,8 +17,8 @@ protected:
     }
     [[nodiscard]] bool focusInSight() const {
         const QQuickItem* item = scene->window()->activeFocusItem();
-        return QRectF(QPointF(), scene->window()->size())
-            .contains(item->mapRectToScene(item->boundingRect()));
+        return item && QRectF(QPointF(), scene->window()->size())
+                           .contains(item->mapRectToScene(item->boundingRect()));
     }
 };
 

@@ -6,6 +6,7 @@
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/WizardStep.h"
 #include "device/AlertPresenter.h"
+#include "device/Background.h"
 #include "device/Clock.h"
 #include "orders/OrderDiskManager.h"
 #include "resources/PlainDownloader.h"
@@ -50,6 +51,7 @@ protected:
     FakeReverseGeocoder geocoder;
     ReverseLocationManager location{locationService, geocoder};
     OrderDiskManager orders{folder.path()};
+    BackgroundWorkEnd backgroundWork; // a step that is gone may still write an order
     WizardServices services{network, orders,     sessions, sync,         alerts,   urls,
                             clock,   downloader, photos,   reachability, &location};
 

@@ -2,6 +2,7 @@
 
 #include "base/NotificationCenter.h"
 #include "device/AlertPresenter.h"
+#include "device/Background.h"
 #include "device/Clock.h"
 #include "device/PushRegistration.h"
 #include "orders/OrderDiskManager.h"
@@ -24,8 +25,6 @@
 #include "support/ScriptedServer.h"
 #include "support/TemporaryFolder.h"
 #include "support/WaitFor.h"
-
-#include <QThreadPool>
 
 #include <gtest/gtest.h>
 
@@ -64,9 +63,6 @@ protected:
         QObject::connect(&application, &AppDelegate::rootSet, &application,
                          [this](Root kind, bool) { roots.push_back(kind); });
     }
-
-    // Work of a screen that is gone may still read the orders.
-    ~ShellTest() override { QThreadPool::globalInstance()->waitForDone(); }
 
     // The rights that the server always sends, and nothing more.
     static LoginResult rights(const std::string& msg = "ok") {
@@ -134,6 +130,7 @@ protected:
     FontRegistry fonts;
     FontUpdater fontUpdater{folder / "caches", downloader, fonts};
     ResourceUpdateRun resources{images, fontUpdater, notifications};
+    BackgroundWorkEnd backgroundWork; // a screen that is gone may still read the orders
     AppDelegate application{
         {session, sessions, network, auth, defaults, notifications, localNotifications, push, tasks, sync}};
     CatalogueUpdate catalogue{{session, network, resources, sessions, defaults, clock}};
