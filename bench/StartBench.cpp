@@ -1,7 +1,7 @@
 #include "base/AtomicFile.h"
 #include "base/json/Json.h"
-#include "device/FileKeychain.h"
 #include "device/UserDefaults.h"
+#include "device/keychain/FileKeychain.h"
 #include "kavor/KavorApplication.h"
 #include "session/LoginResult.h"
 #include "session/StateFile.h"

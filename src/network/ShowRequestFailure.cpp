@@ -1,23 +1,19 @@
 #include "network/ShowRequestFailure.h"
 
-#include "device/AlertPresenter.h"
-#include "device/OpenLink.h"
+#include "interaction/AlertPresenter.h"
+#include "interaction/OpenLink.h"
+#include "interaction/Questions.h"
 
 namespace kavor {
 
 namespace {
 
 void offerUpdate(const FailurePresenter& presenter, const ServerResponseError& update) {
-    AlertRequest alert;
-    alert.title = QStringLiteral("Atención");
-    alert.text = update.errorMessage;
-    alert.buttons = {{QStringLiteral("No"), AlertButton::Role::Cancel},
-                     {QStringLiteral("Actualizar"), AlertButton::Role::Normal}};
-    presenter.alerts.present(
-        alert, nullptr, [presenter, link = update.updateLink](const AlertAnswer& answer) {
-            if (answer.button == 1)
-                openLink(presenter.urls, presenter.alerts, link.toString(QUrl::FullyEncoded));
-        });
+    const auto open = [presenter, link = update.updateLink] {
+        openLink(presenter.urls, presenter.alerts, link.toString(QUrl::FullyEncoded));
+    };
+    ask(presenter.alerts, nullptr, QStringLiteral("Atención"), update.errorMessage,
+        {no(), {QStringLiteral("Actualizar"), AlertButton::Role::Normal, open}});
 }
 
 } // namespace

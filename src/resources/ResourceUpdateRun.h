@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/PendingRun.h"
+#include "interaction/PendingRun.h"
 
 #include <QObject>
 #include <QString>

@@ -1,4 +1,3 @@
-#include "device/AlertPresenter.h"
 #include "device/AppLifecycle.h"
 #include "device/LocalNotifications.h"
 #include "device/PhotoPicker.h"
@@ -6,6 +5,7 @@
 #include "device/Reachability.h"
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
+#include "interaction/AlertPresenter.h"
 #include "support/DeviceFakes.h"
 #include "support/TemporaryFolder.h"
 #include "support/WaitFor.h"

@@ -1,5 +1,5 @@
-#include "device/FileKeychain.h"
 #include "device/UserDefaults.h"
+#include "device/keychain/FileKeychain.h"
 #include "support/DeviceFakes.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"

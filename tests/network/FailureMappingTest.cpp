@@ -1,7 +1,7 @@
 #include "network/FailureMapping.h"
 
 #include "NetworkFixture.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 #include "network/ShowRequestFailure.h"
 
 // What the user reads about a failed request.

@@ -1,6 +1,6 @@
 #include "robust/KillHarness.h"
 
-#include "device/FileKeychain.h"
+#include "device/keychain/FileKeychain.h"
 #include "orders/OrderDiskManager.h"
 #include "robust/StampedFiles.h"
 

@@ -2,8 +2,8 @@
 
 #include "base/AtomicFile.h"
 #include "base/json/Json.h"
-#include "device/FileKeychain.h"
 #include "device/UserDefaults.h"
+#include "device/keychain/FileKeychain.h"
 #include "session/StateFile.h"
 
 #include <sys/stat.h>

@@ -2,7 +2,7 @@
 
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "catalogue/ApplicationInformation.h"
-#include "device/KeychainStore.h"
+#include "device/keychain/KeychainStore.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "device/BackgroundTasks.h"
-#include "device/KeychainItems.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
 #include "device/PhotoPicker.h"
@@ -9,6 +8,7 @@
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
 #include "device/UserDefaults.h"
+#include "device/keychain/KeychainItems.h"
 
 #include <QJsonObject>
 #include <QStringList>

@@ -3,7 +3,7 @@
 #include "base/AppFormatter.h"
 #include "base/json/Json.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "orders/OrderDiskManager.h"
 #include "session/AppSingleton.h"

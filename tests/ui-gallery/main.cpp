@@ -1,5 +1,5 @@
 #include "GalleryPaper.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 #include "ui/Ui.h"
 
 #include <QCommandLineParser>

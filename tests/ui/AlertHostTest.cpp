@@ -1,5 +1,5 @@
 #include "UiScene.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "window/SoakSession.h"
 
 #include "base/NotificationCenter.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "shell/screens/RootController.h"
 #include "support/TouchDriver.h"

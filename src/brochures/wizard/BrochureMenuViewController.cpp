@@ -5,15 +5,15 @@
 #include "brochures/engine/DraftContent.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
-#include "brochures/wizard/VeiledRun.h"
-#include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/WizardStepFactory.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
 #include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 #include "catalogue/OwnBrand.h"
-#include "device/PressGuard.h"
 #include "device/Reachability.h"
+#include "interaction/PressGuard.h"
+#include "interaction/Questions.h"
+#include "interaction/VeiledRun.h"
 #include "network/ServiceOperations.h"
 #include "session/AppSingleton.h"
 
@@ -270,16 +270,13 @@ void BrochureMenuViewController::select(int index) {
 void BrochureMenuViewController::askForReset() {
     if (!AppSingleton::shared().catalogue().ownBrands().empty())
         catalogueToReset_.prepare();
-    services_.alerts.present(
-        dialogue(QStringLiteral("Atención"),
-                 QStringLiteral("¿Desea borrar todos los datos introducidos en la carta actual?"),
-                 {{QStringLiteral("No"), AlertButton::Role::Cancel},
-                  {QStringLiteral("Sí"), AlertButton::Role::Destructive}}),
-        this, [this](const AlertAnswer& answer) {
-            if (answer.button == 1)
-                reset();
-            catalogueToReset_ = {};
-        });
+    ask(services_.alerts, this, QStringLiteral("Atención"),
+        QStringLiteral("¿Desea borrar todos los datos introducidos en la carta actual?"),
+        {{QStringLiteral("No"), AlertButton::Role::Cancel, [this] { catalogueToReset_ = {}; }},
+         yesDestroy([this] {
+             reset();
+             catalogueToReset_ = {};
+         })});
 }
 
 void BrochureMenuViewController::reset() {
@@ -339,7 +336,7 @@ void BrochureMenuViewController::leaveVeil() {
 
 QString BrochureMenuViewController::title() const {
     const auto type = AppSingleton::shared().brochureType();
-    return type ? QString::fromUtf8(label(*type).data(), qsizetype(label(*type).size())) : QString();
+    return type ? fromUtf8(label(*type)) : QString();
 }
 
 QString BrochureMenuViewController::subtitle() const {

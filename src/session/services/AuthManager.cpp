@@ -2,8 +2,8 @@
 
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
-#include "device/KeychainStore.h"
 #include "device/UserDefaults.h"
+#include "device/keychain/KeychainStore.h"
 #include "session/LoginResult.h"
 
 #include <utility>

@@ -1,6 +1,7 @@
 #include "session/services/SessionStore.h"
 
 #include "base/StopProcess.h"
+#include "device/Background.h"
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 
@@ -37,7 +38,7 @@ void SessionStore::flush() {
 }
 
 void SessionStore::run(std::function<void()> work) {
-    worker_.start(std::move(work));
+    startInPool(worker_, std::move(work));
 }
 
 void SessionStore::preload() {

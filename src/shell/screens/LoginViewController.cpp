@@ -1,9 +1,10 @@
 #include "shell/screens/LoginViewController.h"
 
 #include "base/StopProcess.h"
-#include "device/AlertPresenter.h"
-#include "device/OpenLink.h"
 #include "device/UserDefaults.h"
+#include "interaction/AlertPresenter.h"
+#include "interaction/OpenLink.h"
+#include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"
@@ -81,7 +82,7 @@ void LoginViewController::performLogin(const QString& login, const std::optional
                                        const std::optional<QString>& token) {
     if (!services_.network.isReachable()) {
         setLoginEnabled(true);
-        services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+        informOffline(services_.alerts);
         return;
     }
     setLoggingIn(true);

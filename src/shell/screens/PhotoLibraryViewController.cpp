@@ -1,9 +1,9 @@
 #include "shell/screens/PhotoLibraryViewController.h"
 
-#include "device/AlertPresenter.h"
 #include "device/Background.h"
 #include "device/Clock.h"
 #include "device/UserDefaults.h"
+#include "interaction/AlertPresenter.h"
 
 #include <QDir>
 #include <QFileInfo>

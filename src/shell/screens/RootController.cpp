@@ -1,7 +1,7 @@
 #include "shell/screens/RootController.h"
 
-#include "device/AlertPresenter.h"
 #include "device/LocalNotifications.h"
+#include "interaction/AlertPresenter.h"
 #include "session/AppSingleton.h"
 #include "shell/screens/LaunchViewController.h"
 #include "shell/screens/Screens.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "device/PressGuard.h"
+#include "interaction/PressGuard.h"
 #include "screens/ScreenStack.h"
 #include "shell/screens/LoginViewController.h"
 #include "shell/screens/WelcomeViewController.h"

@@ -2,11 +2,13 @@
 
 #include "base/StopProcess.h"
 #include "base/Url.h"
-#include "device/AlertPresenter.h"
 #include "device/Background.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "device/UrlOpener.h"
+#include "interaction/AlertPresenter.h"
+#include "interaction/QtText.h"
+#include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "orders/OrderDiskManager.h"
 #include "screens/ResourceImages.h"
@@ -24,10 +26,6 @@
 namespace kavor {
 
 namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
 
 const QString serverTrouble = QStringLiteral("Error de conexión con el servidor.");
 const QString sendingText = QStringLiteral("Enviando pedidos %1/%2");
@@ -159,8 +157,8 @@ void WelcomeViewController::rebuildButtons() {
         if (flag == flags.end() || !flag->second)
             continue;
         buttons.append(QVariantMap{{QStringLiteral("identifier"), int(option.type)},
-                                   {QStringLiteral("label"), text(option.label)},
-                                   {QStringLiteral("image"), text(option.image)}});
+                                   {QStringLiteral("label"), fromUtf8(option.label)},
+                                   {QStringLiteral("image"), fromUtf8(option.image)}});
     }
     if (std::exchange(welcomeButtons_, buttons) != buttons)
         emit welcomeButtonsChanged();
@@ -170,7 +168,7 @@ void WelcomeViewController::openSection(int identifier) {
     const WelcomeOption& option = openableOption(identifier);
     services_.session.actualSection = option.section;
     services_.session.actualApplicationType = option.type;
-    emit transitionPerformed(text(option.transition));
+    emit transitionPerformed(fromUtf8(option.transition));
 }
 
 void WelcomeViewController::updateInfoapp() {
@@ -222,14 +220,9 @@ void WelcomeViewController::cancelUpdateAction() {
 }
 
 void WelcomeViewController::catalogueFetchFailed(const QStringList& messages) {
-    AlertRequest alert{serverTrouble,
-                       messages.join(QLatin1Char('\n')),
-                       {{QStringLiteral("Volver"), AlertButton::Role::Cancel}},
-                       std::nullopt,
-                       {}};
-    services_.alerts.present(std::move(alert), this, [this](const AlertAnswer&) {
-        services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation);
-    });
+    ask(services_.alerts, this, serverTrouble, messages.join(QLatin1Char('\n')),
+        {{QStringLiteral("Volver"), AlertButton::Role::Cancel,
+          [this] { services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation); }}});
 }
 
 void WelcomeViewController::refreshNotifications() {
@@ -243,8 +236,8 @@ void WelcomeViewController::refreshNotifications() {
                                   ? resourceImageUrl(HashedResource{*entry.image, Url{*entry.image}, 0})
                                   : QString();
         notificationsList_.append(
-            QVariantMap{{QStringLiteral("title"), text(entry.title)},
-                        {QStringLiteral("description"), text(entry.description.value_or(""))},
+            QVariantMap{{QStringLiteral("title"), fromUtf8(entry.title)},
+                        {QStringLiteral("description"), fromUtf8(entry.description.value_or(""))},
                         {QStringLiteral("image"), image}});
     }
     notificationsShown_ = !notificationsList_.isEmpty();
@@ -308,16 +301,8 @@ void WelcomeViewController::updateOrderSendingProgress(const NotificationInfo& i
 }
 
 void WelcomeViewController::logout() {
-    AlertRequest alert{QStringLiteral("Atención"),
-                       QStringLiteral("¿Desea cerrar sesión?"),
-                       {{QStringLiteral("No"), AlertButton::Role::Cancel},
-                        {QStringLiteral("Sí"), AlertButton::Role::Destructive}},
-                       std::nullopt,
-                       {}};
-    services_.alerts.present(std::move(alert), this, [this](const AlertAnswer& answer) {
-        if (answer.button == 1)
-            confirmedLogout();
-    });
+    ask(services_.alerts, this, QStringLiteral("Atención"), QStringLiteral("¿Desea cerrar sesión?"),
+        {no(), yesDestroy([this] { confirmedLogout(); })});
 }
 
 void WelcomeViewController::confirmedLogout() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "device/PendingRun.h"
+#include "interaction/PendingRun.h"
 #include "network/ShowRequestFailure.h"
 #include "shell/services/OrderUploadManager.h"
 

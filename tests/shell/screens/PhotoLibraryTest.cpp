@@ -1,5 +1,5 @@
-#include "device/AlertPresenter.h"
 #include "device/Clock.h"
+#include "interaction/AlertPresenter.h"
 #include "shell/screens/PhotoLibraryViewController.h"
 #include "support/DeviceFakes.h"
 #include "support/TemporaryFolder.h"

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "device/AlertPresenter.h"
 #include "device/Background.h"
 #include "device/Clock.h"
 #include "device/PushRegistration.h"
+#include "interaction/AlertPresenter.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/services/OrderSync.h"
 #include "resources/FontRegistry.h"

@@ -4,13 +4,13 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-#include "brochures/wizard/WizardAlerts.h"
 #include "brochures/wizard/configuration/BlackboardFormatModel.h"
 #include "brochures/wizard/configuration/CustomerFieldModel.h"
 #include "catalogue/Catalogue.h"
 #include "device/Background.h"
 #include "device/PhotoPicker.h"
 #include "device/ReverseLocationManager.h"
+#include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
 #include "session/AppSingleton.h"
@@ -209,7 +209,7 @@ void BrochureConfigurationViewController::allTextsChanged() {
 
 void BrochureConfigurationViewController::searchTEVOCodeAction() {
     if (!services_.network.isReachable()) {
-        services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+        informOffline(services_.alerts);
         return;
     }
     services_.network.getCustomerDataFromTevoCode(
@@ -229,11 +229,10 @@ void BrochureConfigurationViewController::fillFrom(const std::vector<Customer>& 
     if (customers.empty()) {
         form_.forgetLookup();
         commit();
-        services_.alerts.present(dialogue(
-            QStringLiteral("Información"),
+        ask(services_.alerts, this, QStringLiteral("Información"),
             QStringLiteral("No se ha encontrado ningún cliente asociado al código TEVO introducido.\n"
                            "Deberás completar la información para este Punto de Venta en esta pantalla."),
-            {{QStringLiteral("Ok"), AlertButton::Role::Cancel}}));
+            {{QStringLiteral("Ok"), AlertButton::Role::Cancel, {}}});
         return;
     }
     form_.fillFromLookup(customers.front());
@@ -255,16 +254,12 @@ void BrochureConfigurationViewController::startLocation(QObject* run) {
             wait_.end();
             if (place)
                 return confirmPlace(*place);
-            services_.alerts.present(
-                dialogue(QStringLiteral("Error"),
-                         QStringLiteral("No se ha podido obtener la localización. Habilite los permisos de "
-                                        "ubicación para la app."),
-                         {{QStringLiteral("Reintentar"), AlertButton::Role::Cancel},
-                          {QStringLiteral("Cancelar"), AlertButton::Role::Normal}}),
-                this, [this](const AlertAnswer& answer) {
-                    if (answer.button == 0)
-                        locateDeviceAndFillFields();
-                });
+            ask(services_.alerts, this, QStringLiteral("Error"),
+                QStringLiteral("No se ha podido obtener la localización. Habilite los permisos de "
+                               "ubicación para la app."),
+                {{QStringLiteral("Reintentar"), AlertButton::Role::Cancel,
+                  [this] { locateDeviceAndFillFields(); }},
+                 {QStringLiteral("Cancelar"), AlertButton::Role::Normal, {}}});
         };
         if (services_.location->start())
             return;
@@ -279,19 +274,15 @@ void BrochureConfigurationViewController::confirmPlace(const Placemark& place) {
         if (part && !part->isEmpty())
             parts.append(*part);
     }
-    services_.alerts.present(dialogue(QStringLiteral("¿Desea utilizar la siguiente ubicación?"),
-                                      parts.join(QStringLiteral(", ")),
-                                      {{QStringLiteral("Sí"), AlertButton::Role::Normal},
-                                       {QStringLiteral("No"), AlertButton::Role::Cancel}}),
-                             this, [this, place](const AlertAnswer& answer) {
-                                 if (answer.button != 0)
-                                     return;
-                                 form_.editText("postalCodeTextField", place.postalCode.value_or(QString()));
-                                 form_.editText("municipalityTextField", place.locality.value_or(QString()));
-                                 form_.editText("provinceTextField", place.state.value_or(QString()));
-                                 allTextsChanged();
-                                 commit();
-                             });
+    const auto taken = [this, place] {
+        form_.editText("postalCodeTextField", place.postalCode.value_or(QString()));
+        form_.editText("municipalityTextField", place.locality.value_or(QString()));
+        form_.editText("provinceTextField", place.state.value_or(QString()));
+        allTextsChanged();
+        commit();
+    };
+    ask(services_.alerts, this, QStringLiteral("¿Desea utilizar la siguiente ubicación?"),
+        parts.join(QStringLiteral(", ")), {yes(taken), no()});
 }
 
 void BrochureConfigurationViewController::searchLogoInGallery() {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardStep.h"
 #include "brochures/wizard/configuration/CustomerForm.h"
 #include "catalogue/Brochures.h"
+#include "interaction/VeiledRun.h"
 
 #include <QAbstractItemModel>
 #include <QQmlEngine>

@@ -2,16 +2,9 @@
 
 #include "base/Text.h"
 #include "catalogue/Shared.h"
+#include "interaction/QtText.h"
 
 namespace kavor {
-
-namespace {
-
-QString shown(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
-
-} // namespace
 
 CustomerFieldModel::CustomerFieldModel(const CustomerForm& form, const Validations& validations,
                                        QObject* parent)
@@ -52,15 +45,15 @@ QVariant CustomerFieldModel::data(const QModelIndex& index, int role) const {
     const CustomerField& field = *rows_[std::size_t(index.row())];
     switch (role) {
     case NameRole:
-        return shown(field.name);
+        return fromUtf8(field.name);
     case LabelRole:
-        return shown(field.label);
+        return fromUtf8(field.label);
     case TextRole:
         return form_.text(field.name);
     case ErrorRole:
         return errorOf(field);
     case IconRole:
-        return shown(field.icon);
+        return fromUtf8(field.icon);
     case HintsRole:
         return field.inputMethodHints;
     default:

@@ -4,7 +4,8 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
+#include "interaction/Questions.h"
 #include "resources/PDFCacheManager.h"
 #include "session/AppSingleton.h"
 
@@ -226,17 +227,10 @@ void BrochurePriceSetterViewController::deleteProductButton(int row) {
     if (!product)
         return;
     // The question ends without its closing mark, meant so.
-    AlertRequest question{attention,
-                          QStringLiteral("¿Desea borrar ") + fromUtf8(product->brandName) +
-                              QStringLiteral(" - ") + fromUtf8(product->productName),
-                          {{QStringLiteral("No"), AlertButton::Role::Cancel},
-                           {QStringLiteral("Sí"), AlertButton::Role::Destructive}},
-                          std::nullopt,
-                          {}};
-    services_.alerts.present(std::move(question), this, [this, doomed = *product](const AlertAnswer& answer) {
-        if (answer.button == 1)
-            deleteRow(doomed);
-    });
+    ask(services_.alerts, this, attention,
+        QStringLiteral("¿Desea borrar ") + fromUtf8(product->brandName) + QStringLiteral(" - ") +
+            fromUtf8(product->productName),
+        {no(), yesDestroy([this, doomed = *product] { deleteRow(doomed); })});
 }
 
 void BrochurePriceSetterViewController::deleteRow(const PriceRow& row) {
@@ -284,8 +278,7 @@ QString BrochurePriceSetterViewController::orderBySecondaryTitle() const {
 }
 
 QString BrochurePriceSetterViewController::brochureWord() const {
-    const std::string_view word = orderType_ ? label(orderType_->id) : std::string_view();
-    return QString::fromUtf8(word.data(), qsizetype(word.size()));
+    return orderType_ ? fromUtf8(label(orderType_->id)) : QString();
 }
 
 QString BrochurePriceSetterViewController::withoutPriceLabel() const {

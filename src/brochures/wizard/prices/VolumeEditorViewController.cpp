@@ -2,7 +2,7 @@
 
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStep.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 #include "session/AppSingleton.h"
 
 #include <algorithm>
@@ -78,9 +78,8 @@ void BrochureProductListViewController::readChalkboard() {
 }
 
 QString BrochureProductListViewController::informationText(const Brochures::Type& type) const {
-    const std::string_view word = label(type.id);
     QString result = QStringLiteral("Selecciona las marcas y los formatos que aparecerán en tu %1.")
-                         .arg(QString::fromUtf8(word.data(), qsizetype(word.size())));
+                         .arg(fromUtf8(label(type.id)));
     if (!type.parameters->isHighlightable)
         return result;
     result +=

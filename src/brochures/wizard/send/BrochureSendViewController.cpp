@@ -4,10 +4,10 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
-#include "brochures/wizard/WizardAlerts.h"
 #include "catalogue/Catalogue.h"
 #include "device/Background.h"
-#include "device/OpenLink.h"
+#include "interaction/OpenLink.h"
+#include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/OrderDiskManager.h"
@@ -178,13 +178,9 @@ void BrochureSendViewController::checkAndSend(OrderRequestType type) {
 }
 
 void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QString& warnings) {
-    services_.alerts.present(dialogue(QStringLiteral("¿Los precios son correctos?"), warnings,
-                                      {{QStringLiteral("Corregir"), AlertButton::Role::Cancel},
-                                       {QStringLiteral("Continuar"), AlertButton::Role::Normal}}),
-                             this, [this, type](const AlertAnswer& answer) {
-                                 if (answer.button == 1)
-                                     send(type);
-                             });
+    ask(services_.alerts, this, QStringLiteral("¿Los precios son correctos?"), warnings,
+        {{QStringLiteral("Corregir"), AlertButton::Role::Cancel, {}},
+         {QStringLiteral("Continuar"), AlertButton::Role::Normal, [this, type] { send(type); }}});
 }
 
 void BrochureSendViewController::send(OrderRequestType type) {
@@ -212,7 +208,7 @@ void BrochureSendViewController::sendOffline(OrderRequestType type) {
     case OrderRequestType::sendToPrint:
         return queueOffline();
     case OrderRequestType::sendPreview:
-        services_.alerts.inform(QStringLiteral("Error"), QStringLiteral("No hay conexión a internet."));
+        informOffline(services_.alerts);
         return;
     case OrderRequestType::saveCloud:
         services_.alerts.inform(
@@ -363,14 +359,8 @@ void BrochureSendViewController::saveOrderAction() {
 }
 
 void BrochureSendViewController::askForName(const QString& proposal) {
-    AlertRequest request = dialogue(QStringLiteral("Guardar como"), {},
-                                    {{QStringLiteral("Guardar"), AlertButton::Role::Normal},
-                                     {QStringLiteral("Cancelar"), AlertButton::Role::Cancel}});
-    request.textField = AlertTextField{QStringLiteral("Nombre:"), proposal, 0};
-    services_.alerts.present(std::move(request), this, [this](const AlertAnswer& answer) {
-        if (answer.button == 0 && !answer.text.isEmpty())
-            saveUnderName(answer.text);
-    });
+    askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
+               QStringLiteral("Guardar"), [this](const QString& name) { saveUnderName(name); });
 }
 
 void BrochureSendViewController::saveUnderName(const QString& name) {
@@ -380,15 +370,9 @@ void BrochureSendViewController::saveUnderName(const QString& name) {
                                        [this, name] { askForName(name); });
     if (!services_.orders.exists<Order>(plainName, Directory::draft))
         return writeDraftFile(plainName);
-    services_.alerts.present(
-        dialogue(QStringLiteral("Atención"),
-                 QStringLiteral("Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?"),
-                 {{QStringLiteral("No"), AlertButton::Role::Cancel},
-                  {QStringLiteral("Sí"), AlertButton::Role::Destructive}}),
-        this, [this, plainName](const AlertAnswer& answer) {
-            if (answer.button == 1)
-                writeDraftFile(plainName);
-        });
+    ask(services_.alerts, this, QStringLiteral("Atención"),
+        QStringLiteral("Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?"),
+        {no(), yesDestroy([this, plainName] { writeDraftFile(plainName); })});
 }
 
 void BrochureSendViewController::writeDraftFile(const std::string& name) {
@@ -452,10 +436,7 @@ void BrochureSendViewController::setMissing(const QStringList& sentences) {
 }
 
 QString BrochureSendViewController::brochureWord() const {
-    if (!type_)
-        return {};
-    const auto word = label(*type_);
-    return QString::fromUtf8(word.data(), qsizetype(word.size()));
+    return type_ ? fromUtf8(label(*type_)) : QString();
 }
 
 bool BrochureSendViewController::isLocalNameMissing() const {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "brochures/engine/SaveBrochuresOrder.h"
-#include "brochures/wizard/VeiledRun.h"
 #include "brochures/wizard/WizardStep.h"
 #include "brochures/wizard/send/BrochureSendSummary.h"
 #include "catalogue/Brochures.h"
+#include "interaction/VeiledRun.h"
 
 #include <QQmlEngine>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "device/PressGuard.h"
+#include "interaction/PressGuard.h"
 
 #include "device/Clock.h"
 

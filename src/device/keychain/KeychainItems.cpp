@@ -1,4 +1,4 @@
-#include "device/KeychainItems.h"
+#include "device/keychain/KeychainItems.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
-#include "device/FileKeychain.h"
+#include "device/keychain/FileKeychain.h"
 
 #include "base/AtomicFile.h"
 #include "base/Log.h"
-#include "device/KeychainItems.h"
+#include "device/keychain/KeychainItems.h"
 
 #include <utility>
 

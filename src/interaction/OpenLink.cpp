@@ -1,7 +1,7 @@
-#include "device/OpenLink.h"
+#include "interaction/OpenLink.h"
 
-#include "device/AlertPresenter.h"
 #include "device/UrlOpener.h"
+#include "interaction/AlertPresenter.h"
 
 namespace kavor {
 

@@ -1,7 +1,7 @@
-#include "device/SystemKeychain.h"
+#include "device/keychain/SystemKeychain.h"
 
 #include "base/Log.h"
-#include "device/FileKeychain.h"
+#include "device/keychain/FileKeychain.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "device/AlertPresenter.h"
+#include "interaction/AlertPresenter.h"
 
 #include <QVariantMap>
 

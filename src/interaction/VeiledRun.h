@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "device/PendingRun.h"
+#include "interaction/PendingRun.h"
 
 #include <functional>
 #include <string>
@@ -13,6 +13,12 @@ namespace notification {
 // The user has left the wizard's veil.
 inline constexpr std::string_view veilViewLeft = "VeilViewLeft";
 } // namespace notification
+
+// Shows or hides the veil, which says what it waits for.
+inline void showVeil(bool show, const char* waitingFor = "") {
+    NotificationCenter::shared().post(notification::visibilityVeilView,
+                                      {{"show", show}, {"text", std::string(waitingFor)}});
+}
 
 // A run of a step behind the wizard's veil that the user may leave: the veil goes, and what takes the run's
 // context hears nothing more.

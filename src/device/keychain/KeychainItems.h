@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/KeychainStore.h"
+#include "device/keychain/KeychainStore.h"
 
 #include <string_view>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "device/KeychainItems.h"
-#include "device/KeychainStore.h"
+#include "device/keychain/KeychainItems.h"
+#include "device/keychain/KeychainStore.h"
 
 #include <QObject>
 #include <QString>
