@@ -32,3 +32,11 @@ function(kavor_sources OUT)
   endforeach()
   set(${OUT} ${found} PARENT_SCOPE)
 endfunction()
+
+# The QML compiler writes a source for each view, which is mostly headers: bundled they build in a fraction of the time.
+function(kavor_bundle_views TARGET)
+  get_target_property(sources ${TARGET} SOURCES)
+  list(FILTER sources EXCLUDE REGEX "/\\.rcc/qmlcache/")
+  set_source_files_properties(${sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  set_target_properties(${TARGET} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+endfunction()
