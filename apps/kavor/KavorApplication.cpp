@@ -107,20 +107,17 @@ struct KavorApplication::Parts {
         , application({session, *sessions, network, auth, defaults, notifications, localNotifications, push,
                        tasks, sync})
         , catalogue({session, network, resources, *sessions, defaults, clock})
-        , wizard{network,   OrderDiskManager::shared(),
-                 *sessions, sync,
-                 alerts,    urls,
-                 clock,     downloader,
-                 photos,    reachability,
-                 &location}
+        , sections{{network, OrderDiskManager::shared(), *sessions, sync, alerts, urls, clock, downloader,
+                    photos, reachability, &location},
+                   {session, network, auth, alerts, urls, reachability, suggestion}}
         , root({application,
                 alerts,
                 localNotifications,
                 {session, network, auth, defaults, notifications, alerts, urls},
                 {session, application, network, auth, catalogue, notifications, OrderDiskManager::shared(),
                  alerts, urls, clock, reachability},
-                [this](const QString& transition, const std::function<void()>& close) {
-                    return makeSectionScreen(transition, wizard, close);
+                [this](const QString& transition, ScreenStack&) {
+                    return makeSectionScreen(transition, sections);
                 }}) {}
 
     AppSingleton& session;
@@ -151,7 +148,8 @@ struct KavorApplication::Parts {
     QtAppLifecycle lifecycle;
     AppDelegate application;
     CatalogueUpdate catalogue;
-    WizardServices wizard;
+    SuggestionDraft suggestion;
+    SectionServices sections;
     RootController root;
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;

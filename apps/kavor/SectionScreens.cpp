@@ -1,5 +1,7 @@
 #include "kavor/SectionScreens.h"
 
+#include "account/screens/ProfileViewController.h"
+#include "account/screens/SuggestionViewController.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
 #include "session/AppSingleton.h"
@@ -29,26 +31,21 @@ constexpr std::array comingSections{
     ComingSection{RootController::allOrdersTransition, "Pedidos", "orders"},
 };
 
-Screen wizardScreen(const WizardServices& wizard, const std::function<void()>& close) {
-    auto* controller = new BrochureMenuViewController(wizard);
-    QObject::connect(controller, &BrochureMenuViewController::closed, controller, close);
-    return {screenView("BrochureMenuView"), controller};
-}
-
 } // namespace
 
-Screen makeSectionScreen(const QString& transition, const WizardServices& wizard,
-                         const std::function<void()>& close) {
+Screen makeSectionScreen(const QString& transition, const SectionServices& services) {
     const std::string name = transition.toStdString();
     if (name == transition::brochure)
-        return wizardScreen(wizard, close);
+        return {screenView("BrochureMenuView"), new BrochureMenuViewController(services.wizard)};
+    if (name == transition::profile)
+        return {screenView("ProfileView"), new ProfileViewController(services.account)};
+    if (name == transition::suggestions)
+        return {screenView("SuggestionView"), new SuggestionViewController(services.account)};
     for (const ComingSection& section : comingSections) {
-        if (name != section.transition)
-            continue;
-        auto* controller =
-            new ComingSoonViewController(QString::fromUtf8(section.title), QString::fromLatin1(section.icon));
-        QObject::connect(controller, &ComingSoonViewController::closed, controller, close);
-        return {screenView("ComingSoonView"), controller};
+        if (name == section.transition)
+            return {screenView("ComingSoonView"),
+                    new ComingSoonViewController(QString::fromUtf8(section.title),
+                                                 QString::fromLatin1(section.icon))};
     }
     stopProcess("a screen for the transition " + name);
 }

@@ -1,18 +1,21 @@
 #pragma once
 
+#include "account/screens/AccountServices.h"
+#include "brochures/wizard/WizardStep.h"
 #include "screens/ScreenStack.h"
 
 #include <QString>
 
-#include <functional>
-
 namespace kavor {
 
-struct WizardServices;
+// What the sections work with. Everything outlives their screens.
+struct SectionServices {
+    WizardServices wizard;
+    AccountServices account;
+};
 
-// Makes the screen that a transition of the dashboard or of a notification leads to; it calls `close` when
-// the user leaves. The services outlive the screen. The process stops for a transition that leads nowhere.
-Screen makeSectionScreen(const QString& transition, const WizardServices& wizard,
-                         const std::function<void()>& close);
+// Makes the screen that a transition of the dashboard or of a notification leads to. The process stops for a
+// transition that leads nowhere.
+Screen makeSectionScreen(const QString& transition, const SectionServices& services);
 
 } // namespace kavor

@@ -1,5 +1,7 @@
 #include "screens/ScreenStack.h"
 
+#include "screens/ScreenController.h"
+
 #include <algorithm>
 
 namespace kavor {
@@ -11,6 +13,24 @@ void ScreenStack::push(const Screen& screen) {
     beginInsertRows({}, row, row);
     screens_.push_back(screen);
     endInsertRows();
+    if (auto* controller = qobject_cast<ScreenController*>(screen.controller)) {
+        connect(controller, &ScreenController::closed, this, [this, controller] { close(controller); });
+        controller->viewWillAppear();
+    }
+}
+
+void ScreenStack::close(const QObject* controller) {
+    if (!screens_.empty() && screens_.front().controller == controller) {
+        emit rootClosed();
+        return;
+    }
+    remove(controller);
+    appear();
+}
+
+void ScreenStack::appear() {
+    if (auto* controller = top() ? qobject_cast<ScreenController*>(top()->controller) : nullptr)
+        controller->viewWillAppear();
 }
 
 void ScreenStack::remove(const QObject* controller) {

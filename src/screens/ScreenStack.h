@@ -14,7 +14,8 @@ struct Screen {
 };
 
 // The root screen and those that were opened on top of it; the last one is on show. Roles: view, controller.
-// The stack owns the controllers and drops one after its view.
+// Any screen may open another one. The stack owns the controllers and drops one after its view; one that is a
+// ScreenController hears when it comes on show, and goes when it says that the user leaves it.
 class ScreenStack : public QAbstractListModel {
     Q_OBJECT
 public:
@@ -22,6 +23,7 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
+    // The one way to a further screen; what it needs it was made with.
     void push(const Screen& screen);
     // Removes the screen of this controller and all above it; a controller that is not there is no fault.
     void remove(const QObject* controller);
@@ -35,8 +37,14 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
+signals:
+    // The user left the root screen; it stays until another one takes its place.
+    void rootClosed();
+
 private:
+    void close(const QObject* controller);
     void truncate(int count);
+    void appear();
 
     std::vector<Screen> screens_;
 };

@@ -28,6 +28,9 @@ inline constexpr std::string_view promotion = "showPromotionSegue";
 inline constexpr std::string_view sellingSheet = "showSellingSheetSegue";
 inline constexpr std::string_view textile = "showTextileSegue";
 inline constexpr std::string_view activations = "showActivationsSegue";
+// Beside the sections: what is about the user.
+inline constexpr std::string_view profile = "showProfileSegue";
+inline constexpr std::string_view suggestions = "showSuggestionsSegue";
 } // namespace transition
 
 // The options that have a button, in the order of the dashboard (which is not the order of their

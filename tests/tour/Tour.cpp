@@ -118,7 +118,8 @@ int Tour::run() {
                                        {"previa", &Tour::preview},
                                        {"impresion", &Tour::print},
                                        {"pedido", &Tour::checkOrder},
-                                       {"sin-red", &Tour::orderOffline}};
+                                       {"sin-red", &Tour::orderOffline},
+                                       {"cuenta", &Tour::showAccount}};
     for (const Step& step : options_.everyKind ? everyKind : mainJob) {
         try {
             (this->*step.action)();
@@ -497,6 +498,25 @@ void Tour::orderOffline() {
          QStringLiteral("the order in the outbox"));
     must(QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array().size() == 1,
          QStringLiteral("nothing reached the server"));
+}
+
+void Tour::showAccount() {
+    application_->setOffline(false);
+    touch_->tap(QStringLiteral("profileButton"));
+    touch_->await(QStringLiteral("profileName"));
+    must(touch_->allTexts().contains(QStringLiteral("Lucía Ferrandel")), touch_->allTexts());
+    shot(QStringLiteral("perfil"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->tap(QStringLiteral("suggestionsButton"));
+    touch_->tap(QStringLiteral("sendSuggestion"));
+    must(touch_->allTexts().contains(QStringLiteral("Elige una categoría.")), touch_->allTexts());
+    chooseFirst(QStringLiteral("suggestionCategory"));
+    touch_->type(QStringLiteral("suggestionBody"), QStringLiteral("Un papel que aguante la lluvia."));
+    shot(QStringLiteral("buzon"));
+    touch_->tap(QStringLiteral("sendSuggestion"));
+    dismissAlert(QStringLiteral("Buzón"), QStringLiteral("Gracias"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
 }
 
 void Tour::orderEveryKind() {

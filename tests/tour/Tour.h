@@ -55,6 +55,7 @@ private:
     void print();
     void checkOrder();
     void orderOffline();
+    void showAccount();
     void orderEveryKind();
 
     void orderKind(int applicationType);

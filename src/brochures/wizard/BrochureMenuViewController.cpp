@@ -87,7 +87,7 @@ QString styleCaption(BrochureType type) {
 } // namespace
 
 BrochureMenuViewController::BrochureMenuViewController(const WizardServices& services, QObject* parent)
-    : QObject(parent)
+    : ScreenController(parent)
     , services_(services)
     , visibleButtons_(entries.size(), true) {
     connect(&services_.reachability, &Reachability::changed, this,

@@ -3,9 +3,9 @@
 #include "base/NotificationCenter.h"
 #include "brochures/wizard/CatalogueCopy.h"
 #include "brochures/wizard/WizardStep.h"
+#include "screens/ScreenController.h"
 #include "screens/WebPreviewViewController.h"
 
-#include <QObject>
 #include <QQmlEngine>
 #include <QString>
 #include <QVariantList>
@@ -20,7 +20,7 @@ class BrochureSendViewController;
 
 // The frame of the brochure wizard: a menu and one step at a time, all working on the one shared draft.
 // Opened with the section of the session set to a kind of brochure.
-class BrochureMenuViewController : public QObject {
+class BrochureMenuViewController : public kavor::ScreenController {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the screen that opens the wizard")
@@ -91,7 +91,6 @@ public:
     void viewWillDisappear();
 
 signals:
-    void closed();
     void menuButtonsChanged();
     void activeStepChanged();
     void offlineChanged();

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QObject>
+#include "screens/ScreenController.h"
+
 #include <QtQml/qqmlregistration.h>
 
 #include <utility>
@@ -8,7 +9,7 @@
 namespace kavor {
 
 // Stands for a section that is still to come: says so and leads back.
-class ComingSoonViewController : public QObject {
+class ComingSoonViewController : public kavor::ScreenController {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -17,14 +18,11 @@ class ComingSoonViewController : public QObject {
 
 public:
     ComingSoonViewController(QString title, QString icon, QObject* parent = nullptr)
-        : QObject(parent)
+        : ScreenController(parent)
         , title_(std::move(title))
         , icon_(std::move(icon)) {}
 
     Q_INVOKABLE void close() { emit closed(); }
-
-signals:
-    void closed();
 
 private:
     QString title_;

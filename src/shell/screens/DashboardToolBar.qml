@@ -11,18 +11,11 @@ Row {
     readonly property var entries: [
         { id: "updateInfoapp", text: "Actualizar", icon: "refresh", ready: true },
         { id: "allOrders", text: "Pedidos", icon: "orders", ready: false },
-        { id: "profile", text: "Perfil", icon: "user", ready: false },
-        { id: "suggestions", text: "Buzón", icon: "mailbox", ready: false },
+        { id: "profile", text: "Perfil", icon: "user", ready: true },
+        { id: "suggestions", text: "Buzón", icon: "mailbox", ready: true },
         { id: "tutorials", text: "Tutoriales", icon: "play", ready: false },
         { id: "logout", text: "Salir", icon: "logout", ready: true }
     ]
-
-    function act(id: string): void {
-        if (id === "updateInfoapp")
-            controller.updateInfoapp();
-        else if (id === "logout")
-            controller.logout();
-    }
 
     Repeater {
         model: bar.entries
@@ -40,7 +33,7 @@ Row {
             Accessible.description: modelData.ready ? "" : "Próximamente"
             enabled: modelData.ready
             opacity: enabled ? 1 : 0.4
-            onClicked: bar.act(modelData.id)
+            onClicked: bar.controller.openTool(modelData.id)
 
             background: Rectangle {
                 anchors.fill: parent

@@ -8,7 +8,6 @@
 
 #include <QQuickWindow>
 
-#include <memory>
 #include <utility>
 
 namespace kavor {
@@ -21,6 +20,7 @@ RootController::RootController(Services services, QObject* parent)
     connect(&screens_, &ScreenStack::rowsRemoved, &presses_, &PressGuard::screenChanged);
     viewChanged_ = services_.welcome.notifications.observe(
         notification::viewChanged, [this](const NotificationInfo&) { presses_.screenChanged(); });
+    connect(&screens_, &ScreenStack::rootClosed, this, &RootController::leaveRoot);
     connect(&services_.application, &AppDelegate::rootSet, this, &RootController::setRoot);
     connect(&services_.notifications, &LocalNotifications::bannerWanted, this,
             [this](int number, const QString& title, const QString& body) {
@@ -44,8 +44,6 @@ void RootController::setRoot(AppDelegate::RootKind kind, bool inTransition) {
     if (inTransition)
         takeSnapshot();
     screens_.replaceAll(makeRoot(kind));
-    if (kind == AppDelegate::RootKind::MainNavigation)
-        welcome_->viewWillAppear();
 }
 
 void RootController::takeSnapshot() {
@@ -69,7 +67,7 @@ Screen RootController::makeRoot(AppDelegate::RootKind kind) {
     case AppDelegate::RootKind::LoginNavigation:
         return makeLogin();
     case AppDelegate::RootKind::AllOrders:
-        return makeAllOrders();
+        return services_.sections(QLatin1String(allOrdersTransition), screens_);
     case AppDelegate::RootKind::Launch:
         break;
     }
@@ -93,18 +91,17 @@ Screen RootController::makeWelcome() {
     return {screenView("WelcomeView"), welcome_};
 }
 
-Screen RootController::makeAllOrders() {
-    return services_.sections(QLatin1String(allOrdersTransition), [this] {
-        const bool hasSession = services_.welcome.session.loginResult.has_value();
-        services_.application.setRoot(hasSession ? AppDelegate::RootKind::MainNavigation
-                                                 : AppDelegate::RootKind::LoginNavigation);
-    });
+// From the orders that a notification made the root.
+void RootController::leaveRoot() {
+    const bool hasSession = services_.welcome.session.loginResult.has_value();
+    services_.application.setRoot(hasSession ? AppDelegate::RootKind::MainNavigation
+                                             : AppDelegate::RootKind::LoginNavigation);
 }
 
 void RootController::showUserApplications() {
-    screens_.push(makeWelcome());
+    const Screen dashboard = makeWelcome();
     welcome_->downloadApplicationInformation = true;
-    welcome_->viewWillAppear();
+    screens_.push(dashboard);
     login_->viewWillDisappear();
 }
 
@@ -119,14 +116,7 @@ void RootController::cutToLogin() {
 }
 
 void RootController::openSection(const QString& transition) {
-    const auto controller = std::make_shared<QPointer<QObject>>();
-    const Screen screen = services_.sections(transition, [this, controller] {
-        screens_.remove(*controller);
-        if (welcome_ && screens_.top() && screens_.top()->controller == welcome_)
-            welcome_->viewWillAppear();
-    });
-    *controller = screen.controller;
-    screens_.push(screen);
+    screens_.push(services_.sections(transition, screens_));
 }
 
 void RootController::bannerTapped() {

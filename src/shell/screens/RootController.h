@@ -33,9 +33,8 @@ class RootController : public QObject {
     Q_PROPERTY(QVariant snapshot READ snapshot NOTIFY snapshotChanged)
 
 public:
-    // Makes the screen that a transition of the dashboard leads to; it calls `close` when the user leaves it.
-    using SectionFactory =
-        std::function<Screen(const QString& transition, const std::function<void()>& close)>;
+    // Makes the screen that a transition leads to. It may open further ones on the stack.
+    using SectionFactory = std::function<Screen(const QString& transition, ScreenStack& screens)>;
 
     struct Services {
         AppDelegate& application;
@@ -83,10 +82,10 @@ private:
     [[nodiscard]] Screen makeRoot(AppDelegate::RootKind kind);
     [[nodiscard]] Screen makeLogin();
     [[nodiscard]] Screen makeWelcome();
-    [[nodiscard]] Screen makeAllOrders();
     void showUserApplications();
     void cutToLogin();
     void openSection(const QString& transition);
+    void leaveRoot();
     void takeSnapshot();
 
     Services services_;

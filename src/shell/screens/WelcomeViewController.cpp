@@ -53,7 +53,7 @@ int countOutbox(const OrderDiskManager& disk) {
 } // namespace
 
 WelcomeViewController::WelcomeViewController(const Services& services, QObject* parent)
-    : QObject(parent)
+    : ScreenController(parent)
     , services_(services) {
     observe();
     const auto& rights = services_.session.loginResult;
@@ -169,6 +169,17 @@ void WelcomeViewController::openSection(int identifier) {
     services_.session.actualSection = option.section;
     services_.session.actualApplicationType = option.type;
     emit transitionPerformed(fromUtf8(option.transition));
+}
+
+void WelcomeViewController::openTool(const QString& name) {
+    if (name == QLatin1String("updateInfoapp"))
+        updateInfoapp();
+    else if (name == QLatin1String("logout"))
+        logout();
+    else if (name == QLatin1String("profile"))
+        emit transitionPerformed(fromUtf8(transition::profile));
+    else if (name == QLatin1String("suggestions"))
+        emit transitionPerformed(fromUtf8(transition::suggestions));
 }
 
 void WelcomeViewController::updateInfoapp() {

@@ -3,9 +3,9 @@
 #include "base/NotificationCenter.h"
 #include "interaction/PendingRun.h"
 #include "network/ShowRequestFailure.h"
+#include "screens/ScreenController.h"
 #include "shell/services/OrderUploadManager.h"
 
-#include <QObject>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
@@ -25,7 +25,7 @@ class Reachability;
 
 // The hub after login: one button for each kind of order that the user's rights allow, the refresh of rights
 // and catalogue, the server's notifications, and the diagnostic upload of the device's orders.
-class WelcomeViewController : public QObject {
+class WelcomeViewController : public kavor::ScreenController {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -67,7 +67,7 @@ public:
     // Whether the catalogue is to be downloaded when the screen appears: after the login form.
     bool downloadApplicationInformation = false;
 
-    void viewWillAppear();
+    void viewWillAppear() override;
 
     [[nodiscard]] bool isProgressVeilShown() const { return progressVeilShown_; }
     [[nodiscard]] QString progressMessage() const { return progressMessage_; }
@@ -88,6 +88,8 @@ public:
     // nowhere.
     Q_INVOKABLE int tileAfter(int index, int key, int columns) const;
     Q_INVOKABLE void openSection(int identifier);
+    // A tool of the bar, by the name of its entry; one that is not there yet does nothing.
+    Q_INVOKABLE void openTool(const QString& name);
     Q_INVOKABLE void updateInfoapp();
     // Leaves the refresh under way; what was under way changes nothing any more.
     Q_INVOKABLE void cancelUpdateAction();

@@ -29,9 +29,8 @@ protected:
     std::function<void()> leaveSection;
     RootController root{
         {application, alerts, banners, loginServices(), welcomeServices(),
-         [this](const QString& transition, const std::function<void()>& close) {
+         [this](const QString& transition, ScreenStack&) {
              auto* controller = new ComingSoonViewController(transition, {});
-             QObject::connect(controller, &ComingSoonViewController::closed, controller, close);
              leaveSection = [controller] { controller->close(); };
              return Screen{QUrl(QStringLiteral("x:/") + transition + QStringLiteral(".qml")), controller};
          }}};

@@ -62,11 +62,9 @@ protected:
 
     DesktopNotifications banners;
     RootController root{{application, alerts, banners, loginServices(), welcomeServices(),
-                         [](const QString& transition, const std::function<void()>& close) {
-                             auto* controller = new ComingSoonViewController(transition, {});
-                             QObject::connect(controller, &ComingSoonViewController::closed, controller,
-                                              close);
-                             return Screen{screenView(QStringLiteral("ComingSoonView")), controller};
+                         [](const QString& transition, ScreenStack&) {
+                             return Screen{screenView(QStringLiteral("ComingSoonView")),
+                                           new ComingSoonViewController(transition, {})};
                          }}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;
