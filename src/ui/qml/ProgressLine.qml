@@ -9,6 +9,9 @@ Item {
     property int thickness: 8
     property color track: Theme.hairline
     readonly property real shown: Math.max(0, Math.min(1, isNaN(value) ? 0 : value))
+    property real drawn: shown // follows in its own time, but a new width at once
+
+    Behavior on drawn { NumberAnimation { duration: Theme.normal } }
 
     implicitWidth: 160
     implicitHeight: thickness
@@ -24,12 +27,10 @@ Item {
         color: line.track
 
         Rectangle {
-            width: line.shown <= 0 ? 0 : Math.max(parent.height, parent.width * line.shown)
+            width: line.drawn <= 0 ? 0 : Math.max(parent.height, parent.width * line.drawn)
             height: parent.height
             radius: height / 2
             color: Theme.toneStrong(line.tone)
-
-            Behavior on width { NumberAnimation { duration: Theme.normal } }
         }
     }
 }
