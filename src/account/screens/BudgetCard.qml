@@ -6,8 +6,8 @@ Card {
     id: card
 
     property string title: ""
-    property string left: ""
-    property string of: ""
+    property string available: ""
+    property string initial: ""
     property string orders: ""
     property real share: -1
 
@@ -18,7 +18,7 @@ Card {
     }
     Text {
         width: parent.width
-        text: card.left
+        text: card.available
         color: Theme.ink
         font.family: Theme.fontFamily
         font.pixelSize: Theme.fontTitle
@@ -34,6 +34,6 @@ Card {
     }
     HelpText {
         width: parent.width
-        text: "Disponible de " + card.of
+        text: "Disponible de " + card.initial
     }
 }

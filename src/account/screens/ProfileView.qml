@@ -92,8 +92,8 @@ FocusScope {
 
                 Layout.fillWidth: true
                 title: modelData.title
-                left: modelData.left
-                of: modelData.of
+                available: modelData.available
+                initial: modelData.initial
                 orders: modelData.orders
                 share: modelData.share
             }

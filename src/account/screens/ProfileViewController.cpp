@@ -37,8 +37,8 @@ constexpr Detail shownDetails[] = {{"Perfil", "user", &User::profile},
 QVariantMap budget(const QString& title, const std::string& initial, const std::string& available,
                    const std::string& orders) {
     return {{QStringLiteral("title"), title},
-            {QStringLiteral("left"), fromUtf8(available)},
-            {QStringLiteral("of"), fromUtf8(initial)},
+            {QStringLiteral("available"), fromUtf8(available)},
+            {QStringLiteral("initial"), fromUtf8(initial)},
             {QStringLiteral("orders"), fromUtf8(orders)},
             {QStringLiteral("share"), shareLeft(initial, available).value_or(-1)}};
 }

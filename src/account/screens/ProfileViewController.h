@@ -26,7 +26,7 @@ class ProfileViewController : public kavor::ScreenController {
     Q_PROPERTY(QString name READ name NOTIFY changed)
     // Entries {label, text, icon}; what the server leaves out has none.
     Q_PROPERTY(QVariantList details READ details NOTIFY changed)
-    // Entries {title, left, of, orders, share}; share is below 0 when it cannot be told.
+    // Entries {title, available, initial, orders, share}; share is below 0 when it cannot be told.
     Q_PROPERTY(QVariantList budgets READ budgets NOTIFY changed)
     Q_PROPERTY(bool editable READ isEditable NOTIFY changed)
 
