@@ -1,7 +1,7 @@
 #include "OrderRowOutput.h"
 
 #include "base/json/Table.h"
-#include "orders/DraftOrderRows.h"
+#include "orders/list/DraftOrderRows.h"
 
 namespace kavor::ctl {
 

@@ -51,10 +51,4 @@ struct Cases<OrderState> {
                                        OrderState::cloud};
 };
 
-template <>
-struct Cases<OrderRequestType> {
-    static constexpr std::array values{OrderRequestType::sendToPrint, OrderRequestType::sendPreview,
-                                       OrderRequestType::saveCloud};
-};
-
 } // namespace kavor::json

@@ -83,9 +83,6 @@ enum class OrderState : Int {
     cloud = 12,
 };
 
-// What the server is to do with a saved order: the key "save" of order documents.
-enum class OrderRequestType : Int { sendToPrint = 1, sendPreview = 2, saveCloud = 3 };
-
 // The Spanish titles of the kinds; some kinds have none and answer the empty text.
 std::string_view label(ApplicationType type);
 std::string_view label(BrochureType type);

@@ -5,6 +5,7 @@
 #include "brochures/engine/RetrieveBrochureOrderListResponse.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/Catalogue.h"
+#include "documents/Answers.h"
 #include "network/NetworkManager.h"
 #include "network/Pipeline.h"
 #include "network/records/ErrorRecords.h"

@@ -1,6 +1,7 @@
 #include "textile/SaveTextileOrder.h"
 
-#include "brochures/engine/SaveBrochuresOrderTables.h"
+#include "catalogue/EnumerationTables.h"
+#include "documents/DocumentTables.h"
 
 namespace kavor::json {
 

@@ -1,4 +1,4 @@
-#include "orders/OrderSyncState.h"
+#include "documents/OrderSyncState.h"
 
 namespace kavor {
 
