@@ -34,22 +34,8 @@ namespace kavor::ctl {
 
 namespace {
 
-std::string stateName(OrderSyncState state) {
-    switch (state) {
-    case OrderSyncState::synced:
-        return "synced";
-    case OrderSyncState::savedLocally:
-        return "savedLocally";
-    case OrderSyncState::cloud:
-        return "cloud";
-    case OrderSyncState::pendingToSend:
-        return "pendingToSend";
-    }
-    return "";
-}
-
 RowRecord recordOf(const DraftOrderRow& row) {
-    return {utf8Text(row.filename), stateName(row.syncState), row.sectionIdentifier.text(),
+    return {utf8Text(row.filename), std::string(caseName(row.syncState)), row.sectionIdentifier.text(),
             row.date.text(),        row.serverId(),           std::nullopt};
 }
 

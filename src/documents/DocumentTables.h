@@ -8,12 +8,6 @@
 
 namespace kavor::json {
 
-template <>
-struct Cases<OrderRequestType> {
-    static constexpr std::array values{OrderRequestType::sendToPrint, OrderRequestType::sendPreview,
-                                       OrderRequestType::saveCloud};
-};
-
 // "save" is a number; in files of older versions it is a boolean, true for print and false for preview.
 struct SaveModeCodec {
     static bool read(Element element, OrderRequestType& out, Context& context) {

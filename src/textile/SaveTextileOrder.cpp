@@ -1,6 +1,5 @@
 #include "textile/SaveTextileOrder.h"
 
-#include "catalogue/EnumerationTables.h"
 #include "documents/DocumentTables.h"
 
 namespace kavor::json {

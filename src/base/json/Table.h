@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Enumeration.h"
 #include "base/LocalDateTime.h"
 #include "base/Url.h"
 #include "base/json/Fields.h"
@@ -33,10 +34,7 @@
 //           &Pairing::note)};
 //   };
 //
-// and an enumeration's like this:
-//
-//   template <> struct Cases<PriceType> { static constexpr std::array values{PriceType::main,
-//   PriceType::table}; };
+// An enumeration's table is its declaration (base/Enumeration.h).
 namespace kavor::json {
 
 namespace ondemand = simdjson::ondemand;
@@ -182,15 +180,13 @@ bool readCase(Element element, Enumeration& out, Context& context) {
     std::int64_t raw = 0;
     if (!readValue(element, raw, context))
         return false;
-    for (const Enumeration value : Cases<Enumeration>::values) {
-        if (static_cast<std::int64_t>(value) == raw) {
-            out = value;
-            return true;
-        }
+    if (const auto found = caseOf<Enumeration>(raw)) {
+        out = *found;
+        return true;
     }
     std::string known;
-    for (const Enumeration value : Cases<Enumeration>::values)
-        known += (known.empty() ? "" : ", ") + std::to_string(static_cast<std::int64_t>(value));
+    for (const auto& each : casesOf<Enumeration>())
+        known += (known.empty() ? "" : ", ") + std::to_string(static_cast<std::int64_t>(each.value));
     return context.fail("expected one of " + known + ", found " + std::to_string(raw));
 }
 

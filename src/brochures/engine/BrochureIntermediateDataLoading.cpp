@@ -16,11 +16,7 @@ using engine::catalogue;
 
 // The price column of a number in an order document; every other number is the main one.
 PriceType priceTypeOf(Int raw) {
-    for (const auto type : {PriceType::terrace, PriceType::table, PriceType::night}) {
-        if (static_cast<Int>(type) == raw)
-            return type;
-    }
-    return PriceType::main;
+    return caseOf<PriceType>(raw).value_or(PriceType::main);
 }
 
 std::optional<Int> knownStyle(std::optional<Int> id) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "brochures/engine/SaveBrochuresOrder.h"
-#include "catalogue/EnumerationTables.h"
 #include "documents/DocumentTables.h"
 
 namespace kavor::json {
