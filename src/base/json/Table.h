@@ -44,7 +44,6 @@ namespace ondemand = simdjson::ondemand;
 using Element = ondemand::value&;
 
 // ---- Reading
-// ------------------------------------------------------------------------------------------------
 
 // Carries the error up from the place where it was met; every level puts its step in front of the path.
 struct Context {
@@ -388,7 +387,6 @@ bool readRecord(Element element, Record& out, Context& context) {
 }
 
 // ---- Writing
-// ------------------------------------------------------------------------------------------------
 
 // Appends a document to a text, plain or pretty.
 class Writer {
@@ -532,7 +530,6 @@ bool writeElement(Writer& writer, const T& value) {
 }
 
 // ---- The functions of Json.h
-// --------------------------------------------------------------------------------
 
 // Reads one document through a reader that sees its root value; answers the document's fault, if it has one.
 using RootReader = std::function<bool(Element, Context&)>;
