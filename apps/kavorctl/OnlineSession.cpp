@@ -45,14 +45,6 @@ NetworkConfiguration loadConfiguration(const CommandContext& context) {
 
 } // namespace
 
-void CatalogueNetwork::appInformation(Completion<std::shared_ptr<const Catalogue>> done) {
-    done.failure = [this, failed = done.failure](const RequestFailure& failure) {
-        catalogueFailure = failure;
-        failed(failure);
-    };
-    NetworkManager::appInformation(std::move(done));
-}
-
 OnlineSession::OnlineSession(const CommandContext& context)
     : OnlineSession(context, loadConfiguration(context)) {}
 

@@ -35,15 +35,6 @@ public:
     [[nodiscard]] std::optional<QFont> font(const QString&, int) const override { return std::nullopt; }
 };
 
-// Remembers why the catalogue did not come; the run that asks for it hands on no more than the messages.
-class CatalogueNetwork : public NetworkManager {
-public:
-    using NetworkManager::NetworkManager;
-    void appInformation(Completion<std::shared_ptr<const Catalogue>> done) override;
-
-    std::optional<RequestFailure> catalogueFailure;
-};
-
 // What a request shows: while it takes long, and in front of the reason when it failed.
 struct RequestTexts {
     QString waiting;
@@ -67,7 +58,7 @@ public:
     FileUserDefaults defaults;
     std::unique_ptr<KeychainStore> keychain;
     AuthManager auth;
-    CatalogueNetwork network;
+    NetworkManager network;
     OrderDiskManager orders;
     SessionStore sessions;
     PlainDownloader downloader;

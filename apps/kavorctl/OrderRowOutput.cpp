@@ -35,8 +35,12 @@ namespace kavor::ctl {
 namespace {
 
 RowRecord recordOf(const DraftOrderRow& row) {
-    return {utf8Text(row.filename), std::string(caseName(row.syncState)), row.sectionIdentifier.text(),
-            row.date.text(),        row.serverId(),           std::nullopt};
+    return {utf8Text(row.filename),
+            std::string(caseName(row.syncState)),
+            row.sectionIdentifier.text(),
+            row.date.text(),
+            row.serverId(),
+            std::nullopt};
 }
 
 RowRecord recordOf(const OrderList::Order& order) {

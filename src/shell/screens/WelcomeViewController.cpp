@@ -219,8 +219,9 @@ void WelcomeViewController::cancelUpdateAction() {
         services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation);
 }
 
-void WelcomeViewController::catalogueFetchFailed(const QStringList& messages) {
-    ask(services_.alerts, this, serverTrouble, messages.join(QLatin1Char('\n')),
+void WelcomeViewController::catalogueFetchFailed(const RequestFailure& failure) {
+    const QString text = failure.messages.value_or(QStringList()).join(QLatin1Char('\n'));
+    ask(services_.alerts, this, serverTrouble, text,
         {{QStringLiteral("Volver"), AlertButton::Role::Cancel,
           [this] { services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation); }}});
 }
