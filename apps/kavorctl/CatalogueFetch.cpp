@@ -54,7 +54,7 @@ public:
 private:
     // Without a catalogue on the disk the pictures are not waited for.
     void store() {
-        online_.sessions.flush();
+        online_.sessions->flush();
         stored_ =
             online_.isStored(state_file::applicationInformation, online_.session.catalogue().information());
         if (!stored_)

@@ -3,7 +3,6 @@
 #include "base/AtomicFile.h"
 #include "base/Log.h"
 #include "base/StopProcess.h"
-#include "session/AppSingleton.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,11 +51,6 @@ OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder, Openin
         }
     }
     atomic_file::sweepTemporaries(documents_);
-}
-
-OrderDiskManager& OrderDiskManager::shared() {
-    static OrderDiskManager instance(AppSingleton::shared().documentsFolder());
-    return instance;
 }
 
 std::filesystem::path OrderDiskManager::folder(std::string_view recordName, DirectoryName directory) const {

@@ -48,9 +48,6 @@ public:
     // be made.
     explicit OrderDiskManager(std::filesystem::path documentsFolder, Opening opening = Opening::AsOwner);
 
-    // The instance over the application's documents folder, made on first use.
-    static OrderDiskManager& shared();
-
     template <class Order>
     [[nodiscard]] bool exists(std::string_view plainName, DirectoryName directory) const {
         return isReadable(folder(Order::folderName, directory), fileName(plainName));
