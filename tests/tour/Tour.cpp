@@ -493,8 +493,8 @@ void Tour::orderOffline() {
     shot(QStringLiteral("panel-sin-conexion"));
     const OrderDiskManager orders(AppSingleton::shared().documentsFolder(),
                                   OrderDiskManager::Opening::AsItStands);
-    const auto waiting = orders.retrieve<SaveBrochuresOrder>("Sin enviar.zvo",
-                                                             OrderDiskManager::DirectoryName::outbox);
+    const auto waiting =
+        orders.retrieve<SaveBrochuresOrder>("Sin enviar.zvo", OrderDiskManager::DirectoryName::outbox);
     must(waiting && waiting->menu.customer.name == "Bar La Cantera Nueva",
          QStringLiteral("the order in the outbox"));
     must(QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array().size() == 1,
