@@ -59,10 +59,6 @@ public:
         bool operator==(const BeverageIdentifier&) const = default;
     };
 
-    struct ProductFormatIdentifier {
-        std::string formatName;
-    };
-
     struct BrandSecondaryItemPrice {
         Int type = 0;
         std::optional<double> price;
