@@ -50,8 +50,8 @@ constexpr QSize usualSize(1024, 768);
 constexpr QSize smallestSize(320, 480);
 
 // What the core of a client stands on, before anything reads it.
-HeadlessCore::Settings openFolders(const KavorOptions& options, NetworkConfiguration configuration,
-                                   std::unique_ptr<SessionStore> reading) {
+HeadlessCore::Settings openCore(const KavorOptions& options, NetworkConfiguration configuration,
+                                std::unique_ptr<SessionStore> reading) {
     if (const auto opened = HeadlessCore::openFolders(options.documents, options.caches); !opened)
         stopProcess("the folder " + opened.error().text());
     atomic_file::sweepTemporaries(options.documents);
@@ -65,7 +65,7 @@ HeadlessCore::Settings openFolders(const KavorOptions& options, NetworkConfigura
 struct KavorApplication::Parts : HeadlessCore {
     Parts(const KavorOptions& options, NetworkConfiguration configuration,
           std::unique_ptr<SessionStore> reading)
-        : HeadlessCore(openFolders(options, std::move(configuration), std::move(reading)))
+        : HeadlessCore(openCore(options, std::move(configuration), std::move(reading)))
         , tasks(clock, reachability, {})
         , sync({network, orders, localNotifications, notifications, tasks, clock,
                 [this] { network.configureSession(NetworkManager::backgroundConfiguration()); },
