@@ -12,6 +12,7 @@
 #include "network/ServiceOperations.h"
 #include "orders/OrderDiskManager.h"
 #include "screens/ResourceImages.h"
+#include "sellingsheets/SellingSheetOrder.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"
 #include "shell/WelcomeOptions.h"
@@ -19,6 +20,7 @@
 #include "shell/services/AppDelegate.h"
 #include "shell/services/CatalogueUpdate.h"
 #include "shell/services/DispatchGroup.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <chrono>
 #include <utility>
