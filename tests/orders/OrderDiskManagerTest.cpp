@@ -3,7 +3,6 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
-#include "sellingsheets/SellingSheetOrder.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
 #include "textile/SaveTextileOrder.h"
