@@ -34,13 +34,9 @@ bool readTyped(const typename Backend::Value& value, T& out) {
         std::int64_t raw = 0;
         if (!Backend::readInteger(value, raw))
             return false;
-        for (const T known : json::Cases<T>::values) {
-            if (static_cast<std::int64_t>(known) == raw) {
-                out = known;
-                return true;
-            }
-        }
-        return false;
+        const auto known = caseOf<T>(raw);
+        out = known.value_or(out);
+        return known.has_value();
     } else if constexpr (requires { json::Table<T>::fields; }) {
         return std::apply(
             [&](const auto&... field) { return (readMember<Backend>(value, out, field) && ...); },

@@ -1,6 +1,6 @@
 #include "RoundTrip.h"
 #include "catalogue/Catalogue.h"
-#include "orders/DraftOrderRows.h"
+#include "orders/list/DraftOrderRows.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"

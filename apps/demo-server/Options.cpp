@@ -1,106 +1,65 @@
 #include "Options.h"
 
-#include <charconv>
-#include <functional>
-#include <map>
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <limits>
 
 namespace kavor::demo {
 
 namespace {
 
-bool readNumber(const std::string& text, int least, int& into) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size() || value < least) {
-        return false;
-    }
-    into = value;
-    return true;
-}
+constexpr int wrongUsage = 64;
 
-using Setter = std::function<bool(Options&, const std::string&)>;
-
-Setter text(std::string Options::*member) {
-    return [member](Options& options, const std::string& value) {
-        options.*member = value;
-        return !value.empty();
+void addNumbers(CLI::App& program, Options& options) {
+    const auto number = [&program](const char* name, int& into, int least, int most, const char* text) {
+        program.add_option(name, into, text)->check(CLI::Range(least, most))->capture_default_str();
     };
+    constexpr int any = std::numeric_limits<int>::max();
+    number("--port", options.port, 0, 65535, "port on 127.0.0.1, 0 picks a free one");
+    number("--brands", options.brands, 12, any, "number of brands in the catalogue");
+    number("--token-seconds", options.tokenSeconds, 1, any, "life of a bearer token");
+    number("--state-seconds", options.stateSeconds, 1, any, "time of an order in each state");
 }
 
-Setter file(std::optional<std::string> Options::*member) {
-    return [member](Options& options, const std::string& value) {
-        options.*member = value;
-        return !value.empty();
+void addTexts(CLI::App& program, Options& options) {
+    const auto text = [&program](const char* name, auto& into, const char* description) {
+        program.add_option(name, into, description)->check([](const std::string& value) {
+            return value.empty() ? std::string("the value is empty") : std::string();
+        });
     };
+    text("--data", options.dataFolder, "folder of the database and the PDFs");
+    text("--minimum-version", options.minimumVersion, "older clients get status 505 with a link");
+    text("--write-configuration", options.configurationFile, "property list that points at this server");
+    text("--dump-catalogue", options.dumpCatalogueFile, "write the catalogue document and end");
+    text("--base-url", options.baseUrl, "address inside a dumped catalogue");
 }
 
-Setter number(int Options::*member, int least) {
-    return [member, least](Options& options, const std::string& value) {
-        return readNumber(value, least, options.*member);
-    };
+void addFlags(CLI::App& program, Options& options) {
+    program.add_flag_callback(
+        "--no-history", [&options] { options.history = false; }, "no earlier orders in the order list");
+    program.add_flag("--stop-with-parent", options.stopWithParent, "end together with the starting process");
+    program.add_flag("--quiet", options.quiet, "no line for each request");
 }
-
-const std::map<std::string, Setter> withValue = {
-    {"--port", number(&Options::port, 0)},
-    {"--data", text(&Options::dataFolder)},
-    {"--brands", number(&Options::brands, 12)},
-    {"--token-seconds", number(&Options::tokenSeconds, 1)},
-    {"--state-seconds", number(&Options::stateSeconds, 1)},
-    {"--minimum-version", text(&Options::minimumVersion)},
-    {"--write-configuration", file(&Options::configurationFile)},
-    {"--dump-catalogue", file(&Options::dumpCatalogueFile)},
-    {"--base-url", text(&Options::baseUrl)},
-};
-
-const std::map<std::string, bool Options::*> flags = {
-    {"--quiet", &Options::quiet},
-    {"--help", &Options::help},
-    {"--stop-with-parent", &Options::stopWithParent},
-};
 
 } // namespace
 
-OptionsResult readOptions(const std::vector<std::string>& arguments) {
+std::variant<Options, int> readOptions(int argc, const char* const* argv) {
     Options options;
-    for (size_t i = 0; i < arguments.size(); ++i) {
-        const std::string& name = arguments[i];
-        if (const auto flag = flags.find(name); flag != flags.end()) {
-            options.*(flag->second) = true;
-            continue;
-        }
-        if (name == "--no-history") {
-            options.history = false;
-            continue;
-        }
-        const auto setter = withValue.find(name);
-        if (setter == withValue.end()) {
-            return {std::nullopt, "unknown option " + name};
-        }
-        if (i + 1 == arguments.size() || !setter->second(options, arguments[i + 1])) {
-            return {std::nullopt, "option " + name + " needs a usable value"};
-        }
-        ++i;
+    CLI::App program("A server side of the programme on one's own machine", "kavor-demo-server");
+    program.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    addNumbers(program, options);
+    addTexts(program, options);
+    addFlags(program, options);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::Success&) {
+        std::cout << program.help();
+        return 0;
+    } catch (const CLI::ParseError& fault) {
+        std::cerr << "kavor-demo-server: " << fault.what() << "\n" << program.help();
+        return wrongUsage;
     }
-    if (options.port > 65535) {
-        return {std::nullopt, "option --port needs a usable value"};
-    }
-    return {options, {}};
-}
-
-std::string optionsHelp() {
-    return "kavor-demo-server [options]\n"
-           "  --port N                   port on 127.0.0.1, 0 picks a free one (8480)\n"
-           "  --data DIR                 folder of the database and the PDFs\n"
-           "  --brands N                 number of brands in the catalogue, at least 12 (60)\n"
-           "  --token-seconds S          life of a bearer token (43200)\n"
-           "  --state-seconds S          time of an order in each state (90)\n"
-           "  --minimum-version V        older clients get status 505 with a link\n"
-           "  --write-configuration FILE property list that points at this server\n"
-           "  --dump-catalogue FILE      write the catalogue document and end\n"
-           "  --base-url URL             address inside a dumped catalogue\n"
-           "  --no-history               no earlier orders in the order list\n"
-           "  --stop-with-parent         end together with the starting process\n"
-           "  --quiet                    no line for each request\n";
+    return options;
 }
 
 } // namespace kavor::demo

@@ -2,7 +2,7 @@
 
 #include <optional>
 #include <string>
-#include <vector>
+#include <variant>
 
 namespace kavor::demo {
 
@@ -20,17 +20,10 @@ struct Options {
     bool history = true;                           ///< earlier orders in the list of the first account
     bool quiet = false;                            ///< no line for each request
     bool stopWithParent = false;                   ///< end when the process that started this one ends
-    bool help = false;
 };
 
-/// Reads the arguments after the program's name; answers the options or the sentence that says what is wrong.
-struct OptionsResult {
-    std::optional<Options> options;
-    std::string error;
-};
-OptionsResult readOptions(const std::vector<std::string>& arguments);
-
-/// The text of --help.
-std::string optionsHelp();
+/// Reads the command line. Answers the exit status instead when the help was asked for and printed, or when
+/// something is wrong, which is told with the help on stderr.
+std::variant<Options, int> readOptions(int argc, const char* const* argv);
 
 } // namespace kavor::demo

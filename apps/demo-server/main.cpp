@@ -80,16 +80,11 @@ int serve(const Options& options) {
 }
 
 int run(int argc, char** argv) {
-    const OptionsResult read = readOptions({argv + 1, argv + argc});
-    if (!read.options) {
-        std::cerr << "kavor-demo-server: " << read.error << "\n" << optionsHelp();
-        return 64;
+    const auto read = readOptions(argc, argv);
+    if (const int* status = std::get_if<int>(&read)) {
+        return *status;
     }
-    Options options = *read.options;
-    if (options.help) {
-        std::cout << optionsHelp();
-        return 0;
-    }
+    Options options = std::get<Options>(read);
     if (options.dumpCatalogueFile) {
         return writeFile(*options.dumpCatalogueFile, Catalogue(options.brands, options.baseUrl).text()) ? 0
                                                                                                         : 1;

@@ -3,42 +3,26 @@
 #include "base/AtomicFile.h"
 #include "base/BackgroundFileWriter.h"
 #include "base/BundleVersion.h"
-#include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/WizardStep.h"
 #include "device/AppLifecycle.h"
-#include "device/Background.h"
 #include "device/BackgroundTasks.h"
-#include "device/Clock.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
 #include "device/PushRegistration.h"
-#include "device/Reachability.h"
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
-#include "device/UserDefaults.h"
-#include "device/keychain/KeychainStore.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
-#include "network/NetworkManager.h"
-#include "orders/OrderDiskManager.h"
 #include "orders/services/OrderSyncManager.h"
-#include "resources/FontRegistry.h"
-#include "resources/FontUpdater.h"
-#include "resources/ImageCache.h"
 #include "resources/PDFCacheManager.h"
-#include "resources/PlainDownloader.h"
-#include "resources/ResourceUpdateRun.h"
 #include "screens/ResourceImages.h"
-#include "session/AppSingleton.h"
-#include "session/services/AuthManager.h"
-#include "session/services/SessionStore.h"
 #include "shell/screens/Artwork.h"
 #include "shell/screens/PhotoLibraryViewController.h"
 #include "shell/screens/RootController.h"
 #include "shell/screens/Screens.h"
 #include "shell/services/AppDelegate.h"
-#include "shell/services/CatalogueUpdate.h"
+#include "shell/services/HeadlessCore.h"
 #include "ui/Ui.h"
 
 #include <QFile>
@@ -65,75 +49,44 @@ constexpr char windowHeight[] = "windowHeight";
 constexpr QSize usualSize(1024, 768);
 constexpr QSize smallestSize(320, 480);
 
-void makeFolder(const std::filesystem::path& folder) {
-    if (const auto made = atomic_file::makeFolder(folder); !made)
-        stopProcess("the folder " + made.error().text());
-}
-
-// The session, before anything that reads it is made.
-AppSingleton& openSession(const KavorOptions& options) {
-    makeFolder(options.documents);
-    makeFolder(options.caches);
+// What the core of a client stands on, before anything reads it.
+HeadlessCore::Settings openCore(const KavorOptions& options, NetworkConfiguration configuration,
+                                std::unique_ptr<SessionStore> reading) {
+    if (const auto opened = HeadlessCore::openFolders(options.documents, options.caches); !opened)
+        stopProcess("the folder " + opened.error().text());
     atomic_file::sweepTemporaries(options.documents);
     atomic_file::sweepTemporaries(options.caches / PDFCacheManager::folderName);
-    AppSingleton& session = AppSingleton::shared();
-    session.version = bundleVersion();
-    session.compilation = bundleCompilation();
-    session.setFolders(options.documents, options.caches);
-    return session;
+    return {std::move(configuration), std::make_unique<FontRegistry>(), std::move(reading)};
 }
 
 } // namespace
 
-// All collaborators, each after those that it uses.
-struct KavorApplication::Parts {
+// The core, and what a window adds to it, each after those that it uses.
+struct KavorApplication::Parts : HeadlessCore {
     Parts(const KavorOptions& options, NetworkConfiguration configuration,
           std::unique_ptr<SessionStore> reading)
-        : session(openSession(options))
-        , sessions(std::move(reading))
-        , defaults(options.documents / "UserDefaults")
-        , keychain(makeKeychain(options.documents))
-        , auth(*keychain, defaults, configuration.urls.baseURLPro)
-        , network(std::move(configuration), {auth, reachability, clock})
-        , images(options.caches / "Images", downloader)
-        , fontUpdater(options.caches, downloader, fonts)
-        , resources(images, fontUpdater, notifications)
+        : HeadlessCore(openCore(options, std::move(configuration), std::move(reading)))
         , tasks(clock, reachability, {})
-        , sync({network, OrderDiskManager::shared(), localNotifications, notifications, tasks, clock,
+        , sync({network, orders, localNotifications, notifications, tasks, clock,
                 [this] { network.configureSession(NetworkManager::backgroundConfiguration()); },
                 [this] { network.configureSession(NetworkManager::defaultConfiguration()); },
                 [this] { application.resetRoot(AppDelegate::RootKind::AllOrders); }})
         , location(locationService, geocoder)
         , application({session, *sessions, network, auth, defaults, notifications, localNotifications, push,
                        tasks, sync})
-        , catalogue({session, network, resources, *sessions, defaults, clock})
-        , sections{{network, OrderDiskManager::shared(), *sessions, sync, alerts, urls, clock, downloader,
-                    photos, reachability, &location},
+        , sections{{network, orders, *sessions, sync, alerts, urls, clock, downloader, photos, reachability,
+                    &location},
                    {session, network, auth, alerts, urls, reachability, suggestion}}
         , root({application,
                 alerts,
                 localNotifications,
                 {session, network, auth, defaults, notifications, alerts, urls},
-                {session, application, network, auth, catalogue, notifications, OrderDiskManager::shared(),
-                 alerts, urls, clock, reachability},
+                {session, application, network, auth, catalogue, notifications, orders, alerts, urls, clock,
+                 reachability},
                 [this](const QString& transition, ScreenStack&) {
                     return makeSectionScreen(transition, sections);
                 }}) {}
 
-    AppSingleton& session;
-    NotificationCenter& notifications = NotificationCenter::shared();
-    std::unique_ptr<SessionStore> sessions;
-    SystemClock clock;
-    QtReachability reachability;
-    FileUserDefaults defaults;
-    std::unique_ptr<KeychainStore> keychain;
-    AuthManager auth;
-    NetworkManager network;
-    PlainDownloader downloader;
-    ImageCache images;
-    FontRegistry fonts;
-    FontUpdater fontUpdater;
-    ResourceUpdateRun resources;
     DesktopNotifications localNotifications;
     NoPushRegistration push;
     TimerBackgroundTasks tasks;
@@ -144,10 +97,8 @@ struct KavorApplication::Parts {
     QtLocationService locationService;
     NoReverseGeocoder geocoder;
     ReverseLocationManager location;
-    BackgroundWorkEnd backgroundWork;
     QtAppLifecycle lifecycle;
     AppDelegate application;
-    CatalogueUpdate catalogue;
     SuggestionDraft suggestion;
     SectionServices sections;
     RootController root;
@@ -214,7 +165,7 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
 KavorApplication::~KavorApplication() = default;
 
 bool KavorApplication::start() {
-    parts_->fonts.addStored(parts_->fontUpdater.folder()); // before anything is drawn
+    parts_->fonts->addStored(parts_->fontUpdater.folder()); // before anything is drawn
     registerUi(parts_->engine);
     registerScreens(parts_->engine);
     parts_->engine.addImageProvider(QStringLiteral("resource"), new ResourceImageProvider(parts_->images));

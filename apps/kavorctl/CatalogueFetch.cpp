@@ -21,7 +21,11 @@ public:
         , err_(err) {
         QObject::connect(&online.catalogue, &CatalogueUpdate::progressChanged, &loop_,
                          [this](double, const QString& text) { progress_.show(text); });
-        QObject::connect(&online.catalogue, &CatalogueUpdate::failed, &loop_, &QEventLoop::quit);
+        QObject::connect(&online.catalogue, &CatalogueUpdate::failed, &loop_,
+                         [this](const RequestFailure& failure) {
+                             failure_ = failure;
+                             loop_.quit();
+                         });
         // Queued: the catalogue goes into the session and to the disk after this signal.
         QObject::connect(
             &online.catalogue, &CatalogueUpdate::catalogueArrived, &loop_, [this] { store(); },
@@ -40,6 +44,8 @@ public:
         loop_.exec();
     }
 
+    // Why the catalogue did not come.
+    [[nodiscard]] const std::optional<RequestFailure>& failure() const { return failure_; }
     // Whether the catalogue stands on the disk.
     [[nodiscard]] bool isStored() const { return stored_; }
     // How many resources were not to be had; each has been told.
@@ -48,7 +54,7 @@ public:
 private:
     // Without a catalogue on the disk the pictures are not waited for.
     void store() {
-        online_.sessions.flush();
+        online_.sessions->flush();
         stored_ =
             online_.isStored(state_file::applicationInformation, online_.session.catalogue().information());
         if (!stored_)
@@ -86,6 +92,7 @@ private:
     QEventLoop loop_;
     Progress progress_;
     std::ostream& err_;
+    std::optional<RequestFailure> failure_;
     bool stored_ = false;
     int failures_ = 0;
     int unfinished_ = 2;
@@ -102,8 +109,9 @@ void fetch(CommandContext& context, const std::string& account) {
     run->run();
     const bool stored = run->isStored();
     const int failures = run->failures();
+    const auto failure = run->failure();
     run.reset();
-    if (const auto& failure = online.network.catalogueFailure)
+    if (failure)
         throw requestFailure(QStringLiteral("Error de conexión con el servidor"), *failure);
     if (!stored)
         throw CommandFailure(requestFailed, "kavorctl: the catalogue could not be stored");

@@ -1,9 +1,6 @@
 #include "OnlineSession.h"
 
 #include "Password.h"
-#include "base/AtomicFile.h"
-#include "base/BundleVersion.h"
-#include "base/NotificationCenter.h"
 #include "base/StopProcess.h"
 #include "session/StateFile.h"
 
@@ -18,20 +15,21 @@ std::filesystem::path standardFolder(QStandardPaths::StandardLocation location) 
     return (QStandardPaths::writableLocation(location) + QStringLiteral("/kavor")).toStdString();
 }
 
-AppSingleton& openFolders(const CommandContext& context) {
-    auto& session = AppSingleton::shared();
-    session.version = bundleVersion();
-    session.compilation = bundleCompilation();
+// Fonts are downloaded here, and there is nothing to draw with them.
+class FontFiles : public FontRegistry {
+public:
+    bool registerFont(const QString&, const QByteArray&) override { return true; }
+    void unregisterFont(const QString&) override {}
+    [[nodiscard]] std::optional<QFont> font(const QString&, int) const override { return std::nullopt; }
+};
+
+void openFolders(const CommandContext& context) {
     const auto documents =
         context.documents.empty() ? standardFolder(QStandardPaths::GenericDataLocation) : context.documents;
     const auto caches =
         context.caches.empty() ? standardFolder(QStandardPaths::GenericCacheLocation) : context.caches;
-    for (const auto& folder : {documents, caches}) {
-        if (const auto made = atomic_file::makeFolder(folder); !made)
-            throw CommandFailure(unreadableInput, made.error().text());
-    }
-    session.setFolders(documents, caches);
-    return session;
+    if (const auto opened = HeadlessCore::openFolders(documents, caches); !opened)
+        throw CommandFailure(unreadableInput, opened.error().text());
 }
 
 NetworkConfiguration loadConfiguration(const CommandContext& context) {
@@ -43,33 +41,18 @@ NetworkConfiguration loadConfiguration(const CommandContext& context) {
     return std::move(*configuration);
 }
 
-} // namespace
-
-void CatalogueNetwork::appInformation(Completion<std::shared_ptr<const Catalogue>> done) {
-    done.failure = [this, failed = done.failure](const RequestFailure& failure) {
-        catalogueFailure = failure;
-        failed(failure);
-    };
-    NetworkManager::appInformation(std::move(done));
+HeadlessCore::Settings openCore(const CommandContext& context) {
+    auto configuration = loadConfiguration(context);
+    openFolders(context);
+    return {std::move(configuration), std::make_unique<FontFiles>(), nullptr};
 }
 
-OnlineSession::OnlineSession(const CommandContext& context)
-    : OnlineSession(context, loadConfiguration(context)) {}
+} // namespace
 
-OnlineSession::OnlineSession(const CommandContext& context, const NetworkConfiguration& configuration)
-    : session(openFolders(context))
-    , defaults(session.documentsFolder() / "UserDefaults")
-    , keychain(makeKeychain(session.documentsFolder()))
-    , auth(*keychain, defaults, configuration.urls.baseURLPro)
-    , network(configuration, {auth, reachability, clock})
-    , orders(session.documentsFolder())
-    , sessions(session)
-    , images(session.cachesFolder() / "Images", downloader)
-    , fontUpdater(session.cachesFolder(), downloader, fonts)
-    , resources(images, fontUpdater, NotificationCenter::shared())
-    , catalogue({session, network, resources, sessions, defaults, clock})
+OnlineSession::OnlineSession(const CommandContext& context)
+    : HeadlessCore(openCore(context))
     , err_(context.err) {
-    sessions.restoreSession();
+    sessions->restoreSession();
 }
 
 OnlineSession::~OnlineSession() {
@@ -106,8 +89,8 @@ void OnlineSession::logIn(const std::string& account) {
     keepCredential({account, password, *answer.token});
     defaults.setBoolean(QLatin1String(default_key::loadIntoInitialViewController), true);
     session.loginResult = answer;
-    sessions.storeInBackground();
-    sessions.flush();
+    sessions->storeInBackground();
+    sessions->flush();
     if (!isStored(state_file::loginResult, answer))
         throw CommandFailure(requestFailed, "kavorctl: the login answer could not be stored");
 }

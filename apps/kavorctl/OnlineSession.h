@@ -2,47 +2,14 @@
 
 #include "Progress.h"
 #include "RequestFailures.h"
-#include "device/Clock.h"
-#include "device/Reachability.h"
-#include "device/UserDefaults.h"
-#include "device/keychain/KeychainStore.h"
-#include "network/NetworkManager.h"
-#include "orders/OrderDiskManager.h"
-#include "resources/FontRegistry.h"
-#include "resources/FontUpdater.h"
-#include "resources/ImageCache.h"
-#include "resources/PlainDownloader.h"
-#include "resources/ResourceUpdateRun.h"
-#include "session/AppSingleton.h"
 #include "session/LoginResult.h"
-#include "session/services/AuthManager.h"
-#include "session/services/SessionStore.h"
-#include "shell/services/CatalogueUpdate.h"
+#include "shell/services/HeadlessCore.h"
 
 #include <QEventLoop>
 
-#include <functional>
-#include <memory>
 #include <optional>
 
 namespace kavor::ctl {
-
-// Fonts are downloaded here, and there is nothing to draw with them.
-class FontFiles : public FontRegistry {
-public:
-    bool registerFont(const QString&, const QByteArray&) override { return true; }
-    void unregisterFont(const QString&) override {}
-    [[nodiscard]] std::optional<QFont> font(const QString&, int) const override { return std::nullopt; }
-};
-
-// Remembers why the catalogue did not come; the run that asks for it hands on no more than the messages.
-class CatalogueNetwork : public NetworkManager {
-public:
-    using NetworkManager::NetworkManager;
-    void appInformation(Completion<std::shared_ptr<const Catalogue>> done) override;
-
-    std::optional<RequestFailure> catalogueFailure;
-};
 
 // What a request shows: while it takes long, and in front of the reason when it failed.
 struct RequestTexts {
@@ -52,30 +19,12 @@ struct RequestTexts {
 
 // The client's session and its way to the server without a window: the same documents folder, credential and
 // engine. Needs a QCoreApplication.
-class OnlineSession {
+class OnlineSession : public HeadlessCore {
 public:
     // Opens the documents folder; a CommandFailure when the property list or the folder can't be had.
     explicit OnlineSession(const CommandContext& context);
-    OnlineSession(const OnlineSession&) = delete;
-    OnlineSession& operator=(const OnlineSession&) = delete;
     // Keeps the token that a repair brought, for the next process.
     ~OnlineSession();
-
-    AppSingleton& session;
-    SystemClock clock;
-    QtReachability reachability;
-    FileUserDefaults defaults;
-    std::unique_ptr<KeychainStore> keychain;
-    AuthManager auth;
-    CatalogueNetwork network;
-    OrderDiskManager orders;
-    SessionStore sessions;
-    PlainDownloader downloader;
-    ImageCache images;
-    FontFiles fonts;
-    FontUpdater fontUpdater;
-    ResourceUpdateRun resources;
-    CatalogueUpdate catalogue;
 
     // A CommandFailure without a network. To be asked before anything is sent.
     void requireNetwork() const;
@@ -118,7 +67,6 @@ public:
     }
 
 private:
-    OnlineSession(const CommandContext& context, const NetworkConfiguration& configuration);
     void keepCredential(const StoredCredentials& credential);
 
     std::ostream& err_;

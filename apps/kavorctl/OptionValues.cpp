@@ -4,6 +4,22 @@
 
 namespace kavor::ctl {
 
+namespace {
+
+constexpr std::string_view saveWord(OrderRequestType type) {
+    switch (type) {
+    case OrderRequestType::sendToPrint:
+        return "print";
+    case OrderRequestType::sendPreview:
+        return "preview";
+    case OrderRequestType::saveCloud:
+        break;
+    }
+    return "cloud";
+}
+
+} // namespace
+
 CLI::Option* withValue(CLI::Option* option) {
     const bool named = !option->get_positional();
     const auto fault = [named](const std::string& value) -> std::string {
@@ -17,9 +33,20 @@ CLI::Option* withValue(CLI::Option* option) {
 }
 
 void addSaveOption(CLI::App& command, std::string& save) {
+    std::vector<std::string> words;
+    for (const auto& each : casesOf<OrderRequestType>())
+        words.emplace_back(saveWord(each.value));
     command.add_option("--save", save, "what the server is to do with the order")
         ->required()
-        ->check(CLI::IsMember({"print", "preview", "cloud"}));
+        ->check(CLI::IsMember(words));
+}
+
+OrderRequestType requestType(std::string_view save) {
+    for (const auto& each : casesOf<OrderRequestType>()) {
+        if (saveWord(each.value) == save)
+            return each.value;
+    }
+    return OrderRequestType::saveCloud;
 }
 
 std::string optionWithoutValue(int argc, const char* const* argv) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "documents/OrderRequestType.h"
+
 #include <string>
 #include <string_view>
 
@@ -15,6 +17,8 @@ CLI::Option* withValue(CLI::Option* option);
 
 // Adds the option "--save" with its three words.
 void addSaveOption(CLI::App& command, std::string& save);
+// What one of the words asks for.
+OrderRequestType requestType(std::string_view save);
 
 // The name of the first option that is given as "--name=" without anything behind it, else empty. The parser
 // would take the next word for its value.

@@ -36,12 +36,6 @@ Int rowIdentifier(const std::string& row) {
     return number;
 }
 
-OrderRequestType requestType(const std::string& save) {
-    if (save == "print")
-        return OrderRequestType::sendToPrint;
-    return save == "preview" ? OrderRequestType::sendPreview : OrderRequestType::saveCloud;
-}
-
 std::shared_ptr<BrochureIntermediateData> openDraft(const OrderInputs& inputs, BrochureKind kind) {
     openSession(inputs);
     const auto order = readRecord<SaveBrochuresOrder>(inputs.order);

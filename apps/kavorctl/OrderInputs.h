@@ -28,9 +28,6 @@ void openSession(const OrderInputs& inputs);
 // The number of a row, in decimal digits; wrong usage when it is none.
 Int rowIdentifier(const std::string& row);
 
-// The number behind "print", "preview" and "cloud".
-OrderRequestType requestType(const std::string& save);
-
 // Whether a command can do without the order's kind in the catalogue.
 enum class BrochureKind { Optional, Required };
 

@@ -3,8 +3,8 @@
 #include "OptionValues.h"
 #include "OrderRowOutput.h"
 #include "catalogue/ApplicationInformation.h"
-#include "orders/DraftOrderRows.h"
 #include "orders/OrderList.h"
+#include "orders/list/DraftOrderRows.h"
 
 #include <CLI/CLI.hpp>
 #include <memory>

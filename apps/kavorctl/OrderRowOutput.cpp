@@ -1,7 +1,7 @@
 #include "OrderRowOutput.h"
 
 #include "base/json/Table.h"
-#include "orders/DraftOrderRows.h"
+#include "orders/list/DraftOrderRows.h"
 
 namespace kavor::ctl {
 
@@ -34,23 +34,13 @@ namespace kavor::ctl {
 
 namespace {
 
-std::string stateName(OrderSyncState state) {
-    switch (state) {
-    case OrderSyncState::synced:
-        return "synced";
-    case OrderSyncState::savedLocally:
-        return "savedLocally";
-    case OrderSyncState::cloud:
-        return "cloud";
-    case OrderSyncState::pendingToSend:
-        return "pendingToSend";
-    }
-    return "";
-}
-
 RowRecord recordOf(const DraftOrderRow& row) {
-    return {utf8Text(row.filename), stateName(row.syncState), row.sectionIdentifier.text(),
-            row.date.text(),        row.serverId(),           std::nullopt};
+    return {utf8Text(row.filename),
+            std::string(caseName(row.syncState)),
+            row.sectionIdentifier.text(),
+            row.date.text(),
+            row.serverId(),
+            std::nullopt};
 }
 
 RowRecord recordOf(const OrderList::Order& order) {

@@ -16,9 +16,10 @@ QString failureTitle(OrderRequestType save) {
         return QStringLiteral("El pedido no se puede realizar");
     case OrderRequestType::sendPreview:
         return QStringLiteral("El pedido no se puede previsualizar");
-    default:
-        return QStringLiteral("El pedido no se puede sincronizar");
+    case OrderRequestType::saveCloud:
+        break;
     }
+    return QStringLiteral("El pedido no se puede sincronizar");
 }
 
 // The key of the intent that was named, or of a send of the file which nobody answered; empty for a new one.

@@ -165,6 +165,29 @@ std::optional<double> AppFormatter::parseNumber(std::string_view text) const {
     return value;
 }
 
+std::string AppFormatter::typedPrice(std::string_view before, std::string_view text, std::size_t at) const {
+    constexpr std::size_t decimals = 2;
+    const auto isSign = [](char c) { return c == ',' || c == '.'; };
+    const bool typed = text.size() == before.size() + 1 && at > 0 && at <= text.size();
+    if (typed && isSign(text[at - 1]) && before.find(',') != std::string_view::npos)
+        return std::string(before);
+    const auto lastSign = text.find_last_of(",.");
+    std::string price;
+    for (const char c : text.substr(0, lastSign)) {
+        if (c >= '0' && c <= '9')
+            price += c;
+    }
+    if (lastSign == std::string_view::npos)
+        return price;
+    price += ',';
+    const std::size_t whole = price.size();
+    for (const char c : text.substr(lastSign + 1)) {
+        if (c >= '0' && c <= '9' && price.size() < whole + decimals)
+            price += c;
+    }
+    return price;
+}
+
 std::optional<double> AppFormatter::parseCurrency(std::string_view text) const {
     text = trimmed(text);
     constexpr std::string_view euro = "€";

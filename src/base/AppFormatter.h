@@ -2,6 +2,7 @@
 
 #include "base/LocalDateTime.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -34,6 +35,13 @@ public:
     [[nodiscard]] std::optional<double> parseNumber(std::string_view text) const;
     // The same for a text that may end in the currency sign.
     [[nodiscard]] std::optional<double> parseCurrency(std::string_view text) const;
+
+    // What a price field holds after a key or a paste: digits with one decimal comma at most and two decimals
+    // behind it. Comma and point both write the comma; of several in a pasted text the last is the decimal
+    // sign and the others group. A second decimal sign typed behind `at` bytes of a text that has one is
+    // refused, and `before` stays.
+    [[nodiscard]] std::string typedPrice(std::string_view before, std::string_view text,
+                                         std::size_t at) const;
 
 private:
     AppFormatter() = default;

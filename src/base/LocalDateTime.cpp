@@ -1,21 +1,9 @@
 #include "base/LocalDateTime.h"
 
+#include <chrono>
 #include <cstdio>
 
 namespace kavor {
-
-namespace {
-
-bool isLeapYear(int year) {
-    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-int daysOfMonth(int year, int month) {
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && isLeapYear(year) ? 29 : days[month - 1];
-}
-
-} // namespace
 
 std::optional<LocalDateTime> LocalDateTime::parse(std::string_view text) {
     constexpr std::string_view form = "00-00-0000 00:00:00";
@@ -34,9 +22,11 @@ std::optional<LocalDateTime> LocalDateTime::parse(std::string_view text) {
     };
     const LocalDateTime result{number(6, 4),  number(3, 2),  number(0, 2),
                                number(11, 2), number(14, 2), number(17, 2)};
-    const bool real = result.year >= 1 && result.month >= 1 && result.month <= 12 && result.day >= 1 &&
-                      result.day <= daysOfMonth(result.year, result.month) && result.hour < 24 &&
-                      result.minute < 60 && result.second < 60;
+    const std::chrono::year_month_day date(std::chrono::year(result.year),
+                                           std::chrono::month(unsigned(result.month)),
+                                           std::chrono::day(unsigned(result.day)));
+    const bool real =
+        result.year >= 1 && date.ok() && result.hour < 24 && result.minute < 60 && result.second < 60;
     return real ? std::optional(result) : std::nullopt;
 }
 

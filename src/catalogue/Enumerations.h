@@ -1,97 +1,92 @@
 #pragma once
 
-#include "base/Int.h"
-
-#include <array>
-#include <optional>
-#include <string_view>
+#include "base/Enumeration.h"
 
 // The integer enumerations that documents share. The values are the numbers on the wire; a number outside a
 // table does not decode.
 namespace kavor {
 
 // The kind of an order in the order list and in order files ("application_type_id").
-enum class ApplicationType : Int {
-    orderBeer = 1,
-    orderDrink = 2,
-    orderFood = 3,
-    orderFlyer = 4,
-    orderChalkboard = 5,
-    orderVideo = 11,
-    orderMantel = 13,
-    encarte = 23,
-    orderWineA4 = 19,
-    orderWineOrder = 24,
-    carteleria = 6,
-    promotion = 12,
-    carteleriaVino = 20,
-    textil = 8,
-    textilWine = 21,
-    hojaVendedora = 7,
-    activaciones = 9,
-    rrss = 10,
-    mercado = 14,
-};
+#define KAVOR_APPLICATION_TYPES(CASE)                                                                        \
+    CASE(orderBeer, 1, "Carta de Cervezas")                                                                  \
+    CASE(orderDrink, 2, "Carta de Bebidas")                                                                  \
+    CASE(orderFood, 3, "Carta de Menú")                                                                      \
+    CASE(orderFlyer, 4, "Carta de Cervezas (hoja única)")                                                    \
+    CASE(orderChalkboard, 5, "Pizarra")                                                                      \
+    CASE(orderVideo, 11, "Video carta")                                                                      \
+    CASE(orderMantel, 13, "Mantelería")                                                                      \
+    CASE(encarte, 23, "Encarte de Cervezas")                                                                 \
+    CASE(orderWineA4, 19, "Carta de Vinos A4")                                                               \
+    CASE(orderWineOrder, 24, "Carta de Vinos")                                                               \
+    CASE(carteleria, 6, "Cartelería Promocional")                                                            \
+    CASE(promotion, 12, "Promociones")                                                                       \
+    CASE(carteleriaVino, 20)                                                                                 \
+    CASE(textil, 8, "Textil")                                                                                \
+    CASE(textilWine, 21, "Textil Vino")                                                                      \
+    CASE(hojaVendedora, 7, "Hoja vendedora")                                                                 \
+    CASE(activaciones, 9, "Activaciones")                                                                    \
+    CASE(rrss, 10)                                                                                           \
+    CASE(mercado, 14)
+KAVOR_ENUMERATION(ApplicationType, KAVOR_APPLICATION_TYPES)
 
 // The kind of a brochure ("tipoId"). It numbers the same things differently from ApplicationType.
-enum class BrochureType : Int {
-    beer = 1,
-    beverage = 2,
-    menu = 3,
-    flyer = 4,
-    chalkboard = 5,
-    video = 6,
-    mantel = 7,
-    encarte = 13,
-    wineA4 = 12,
-    wineOrder = 14,
-    digital = 100,
-    pennant = 101,
-};
+#define KAVOR_BROCHURE_TYPES(CASE)                                                                           \
+    CASE(beer, 1, "Carta de Cervezas")                                                                       \
+    CASE(beverage, 2, "Carta de Bebidas")                                                                    \
+    CASE(menu, 3, "Carta de Menú")                                                                           \
+    CASE(flyer, 4, "Hoja única")                                                                             \
+    CASE(chalkboard, 5, "Pizarra")                                                                           \
+    CASE(video, 6, "Video Carta")                                                                            \
+    CASE(mantel, 7, "Mantelería")                                                                            \
+    CASE(encarte, 13, "Encarte de Cervezas")                                                                 \
+    CASE(wineA4, 12, "Carta de vinos")                                                                       \
+    CASE(wineOrder, 14, "Carta de vinos")                                                                    \
+    CASE(digital, 100, "Digital")                                                                            \
+    CASE(pennant, 101, "Banderines")
+KAVOR_ENUMERATION(BrochureType, KAVOR_BROCHURE_TYPES)
 
 // The product family ("application_father_id").
-enum class ApplicationFather : Int {
-    orderBeer = 1,
-    carteleria = 2,
-    hojaVendedora = 3,
-    textil = 4,
-    activaciones = 5,
-    rrss = 6,
-    mercado = 7,
-    orderWine = 8,
-    carteleriaVine = 9,
-    textilWine = 10,
-};
+#define KAVOR_APPLICATION_FATHERS(CASE)                                                                      \
+    CASE(orderBeer, 1)                                                                                       \
+    CASE(carteleria, 2)                                                                                      \
+    CASE(hojaVendedora, 3)                                                                                   \
+    CASE(textil, 4)                                                                                          \
+    CASE(activaciones, 5)                                                                                    \
+    CASE(rrss, 6)                                                                                            \
+    CASE(mercado, 7)                                                                                         \
+    CASE(orderWine, 8)                                                                                       \
+    CASE(carteleriaVine, 9)                                                                                  \
+    CASE(textilWine, 10)
+KAVOR_ENUMERATION(ApplicationFather, KAVOR_APPLICATION_FATHERS)
 
-enum class PromotionType : Int { carteleria = 1, promotion = 2, carteleriaVino = 3 };
+// The kind of a promotion, as the section entered names it.
+#define KAVOR_PROMOTION_TYPES(CASE)                                                                          \
+    CASE(carteleria, 1)                                                                                      \
+    CASE(promotion, 2)                                                                                       \
+    CASE(carteleriaVino, 3)
+KAVOR_ENUMERATION(PromotionType, KAVOR_PROMOTION_TYPES)
 
 // The price column of a brochure. The value 4 is unassigned.
-enum class PriceType : Int { main = 1, terrace = 2, table = 3, night = 5 };
+#define KAVOR_PRICE_TYPES(CASE)                                                                              \
+    CASE(main, 1)                                                                                            \
+    CASE(terrace, 2)                                                                                         \
+    CASE(table, 3)                                                                                           \
+    CASE(night, 5)
+KAVOR_ENUMERATION(PriceType, KAVOR_PRICE_TYPES)
 
 // The state of an order at the server. The values begin at 2.
-enum class OrderState : Int {
-    withoutConfirm = 2,
-    confirmed = 3,
-    inProcess = 4,
-    sent = 5,
-    incidence = 6,
-    deleted = 7,
-    canceled = 8,
-    delivered = 9,
-    confirmSupport = 10,
-    tradeAuthorization = 11,
-    cloud = 12,
-};
-
-// What the server is to do with a saved order: the key "save" of order documents.
-enum class OrderRequestType : Int { sendToPrint = 1, sendPreview = 2, saveCloud = 3 };
-
-// The Spanish titles of the kinds; some kinds have none and answer the empty text.
-std::string_view label(ApplicationType type);
-std::string_view label(BrochureType type);
-
-// The names of the kinds as the model has them: "beer", "wineA4", "textil" ...
-std::string_view caseName(ApplicationType type);
-std::string_view caseName(BrochureType type);
+#define KAVOR_ORDER_STATES(CASE)                                                                             \
+    CASE(withoutConfirm, 2)                                                                                  \
+    CASE(confirmed, 3)                                                                                       \
+    CASE(inProcess, 4)                                                                                       \
+    CASE(sent, 5)                                                                                            \
+    CASE(incidence, 6)                                                                                       \
+    CASE(deleted, 7)                                                                                         \
+    CASE(canceled, 8)                                                                                        \
+    CASE(delivered, 9)                                                                                       \
+    CASE(confirmSupport, 10)                                                                                 \
+    CASE(tradeAuthorization, 11)                                                                             \
+    CASE(cloud, 12)
+KAVOR_ENUMERATION(OrderState, KAVOR_ORDER_STATES)
 
 } // namespace kavor

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/EnumerationTables.h"
+#include "base/json/Table.h"
 #include "catalogue/Shared.h"
 
 namespace kavor::json {

@@ -1,6 +1,7 @@
 #include "network/FailureMapping.h"
 
 #include "base/json/Json.h"
+#include "documents/Answers.h"
 #include "network/HttpSession.h"
 #include "network/records/ErrorRecords.h"
 

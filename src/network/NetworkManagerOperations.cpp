@@ -5,6 +5,7 @@
 #include "brochures/engine/RetrieveBrochureOrderListResponse.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/Catalogue.h"
+#include "documents/Answers.h"
 #include "network/NetworkManager.h"
 #include "network/Pipeline.h"
 #include "network/records/ErrorRecords.h"
@@ -75,7 +76,6 @@ json::Decoded<std::shared_ptr<const Catalogue>> readCatalogue(const json::Source
 } // namespace
 
 // ---- Session and catalogue
-// ------------------------------------------------------------------------------------
 
 Operation NetworkManager::loginOperation(const LoginParameters& parameters) {
     for (const auto& secret : {parameters.password, parameters.token})
@@ -116,7 +116,6 @@ void NetworkManager::suggestionMailboxAdd(Int categoryId, const QString& body,
 }
 
 // ---- Customers and places
-// ---------------------------------------------------------------------------------------
 
 void NetworkManager::getCustomerDataFromTevoCode(const QString& tevo,
                                                  Completion<std::vector<Customer>> done) {
@@ -145,7 +144,6 @@ void NetworkManager::priceRecommendation(Int productId, const QString& postalCod
 }
 
 // ---- Brochure orders
-// --------------------------------------------------------------------------------------------
 
 void NetworkManager::saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
                                const QByteArray& idempotencyKey) {
@@ -206,7 +204,6 @@ void NetworkManager::sendRawOrder(const SaveBrochuresOrder& order, const QString
 }
 
 // ---- The other orders
-// -------------------------------------------------------------------------------------------
 
 void NetworkManager::createTextileOrder(const SaveTextileOrder& order,
                                         Completion<SaveTextileOrderResponse> done) {

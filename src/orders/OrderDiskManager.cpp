@@ -3,8 +3,6 @@
 #include "base/AtomicFile.h"
 #include "base/Log.h"
 #include "base/StopProcess.h"
-#include "base/json/Json.h"
-#include "session/AppSingleton.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,7 +10,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <type_traits>
 
 namespace kavor {
 
@@ -56,11 +53,6 @@ OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder, Openin
     atomic_file::sweepTemporaries(documents_);
 }
 
-OrderDiskManager& OrderDiskManager::shared() {
-    static OrderDiskManager instance(AppSingleton::shared().documentsFolder());
-    return instance;
-}
-
 std::filesystem::path OrderDiskManager::folder(std::string_view recordName, DirectoryName directory) const {
     return documents_ / "orders" / directoryText(directory) / recordName;
 }
@@ -90,79 +82,65 @@ std::optional<std::string> OrderDiskManager::refusalOf(std::string_view name) {
     return std::nullopt;
 }
 
-template <class Order>
-bool OrderDiskManager::exists(std::string_view name, DirectoryName directory) const {
-    const auto path = atomic_file::child(folder(Order::folderName, directory), fileName(name));
+bool OrderDiskManager::isReadable(const Path& folder, std::string_view fileName) {
+    const auto path = atomic_file::child(folder, fileName);
     return path && ::access(path->c_str(), R_OK) == 0;
 }
 
-template <class Order>
-bool OrderDiskManager::create(const Order& order, DirectoryName directory, std::string_view name) const {
-    const auto path = orderPath(folder(Order::folderName, directory), fileName(name));
+std::optional<std::filesystem::path> OrderDiskManager::pathToCreate(const Path& folder,
+                                                                    std::string_view fileName) {
+    auto path = orderPath(folder, fileName);
     std::error_code error;
-    if (!path || std::filesystem::exists(*path, error))
-        return false;
-    const auto text = json::encodePretty(order);
+    return path && !std::filesystem::exists(*path, error) ? path : std::nullopt;
+}
+
+std::optional<std::filesystem::path> OrderDiskManager::pathToUpdate(const Path& folder,
+                                                                    std::string_view fileName) {
+    auto path = orderPath(folder, fileName);
+    std::error_code error;
+    return path && std::filesystem::exists(*path, error) ? path : std::nullopt;
+}
+
+bool OrderDiskManager::store(const Path& path, const tl::expected<std::string, json::Error>& text,
+                             Storing storing) {
     if (!text) {
-        logWriteFailure(*path, text.error().text());
+        logWriteFailure(path, text.error().text());
         return false;
     }
-    const auto written = atomic_file::create(*path, *text);
+    const auto written =
+        storing == Storing::Create ? atomic_file::create(path, *text) : atomic_file::write(path, *text);
     if (!written)
-        logWriteFailure(*path, written.error().reason);
+        logWriteFailure(path, written.error().reason);
     return written.has_value();
 }
 
-template <class Order>
-bool OrderDiskManager::update(const Order& order, std::string_view name, DirectoryName directory) const {
-    const auto path = orderPath(folder(Order::folderName, directory), name);
-    std::error_code error;
-    if (!path || !std::filesystem::exists(*path, error))
-        return false;
-    const auto text = json::encodePretty(order);
-    if (!text) {
-        logWriteFailure(*path, text.error().text());
-        return false;
-    }
-    const auto written = atomic_file::write(*path, *text);
-    if (!written)
-        logWriteFailure(*path, written.error().reason);
-    return written.has_value();
-}
-
-template <class Order>
-std::optional<Order> OrderDiskManager::retrieve(std::string_view name, DirectoryName directory) const {
-    const auto path = atomic_file::child(folder(Order::folderName, directory), name);
+std::optional<std::string> OrderDiskManager::textOf(const Path& folder, std::string_view fileName) {
+    const auto path = atomic_file::child(folder, fileName);
     if (!path)
         return std::nullopt;
-    const auto text = atomic_file::read(*path);
-    if (!text)
-        return std::nullopt;
-    auto order = json::decode<Order>(*text);
-    if (order)
-        return std::move(*order);
-    const std::string fault = path->string() + ": " + order.error().text();
-    if constexpr (!std::is_base_of_v<SaveBrochuresOrder, Order>) {
-        if (json::isWellFormed(*text))
-            stopProcess(fault);
-    }
-    logLine(fault);
-    return std::nullopt;
+    auto text = atomic_file::read(*path);
+    return text ? std::optional(std::move(*text)) : std::nullopt;
 }
 
-template <class Order>
-std::optional<OrderDiskManager::Moment> OrderDiskManager::moment(std::string_view name,
-                                                                 DirectoryName directory) const {
-    const auto path = atomic_file::child(folder(Order::folderName, directory), name);
+void OrderDiskManager::refuse(const Path& path, const std::string& text, const json::Error& fault,
+                              bool stops) {
+    const std::string sentence = path.string() + ": " + fault.text();
+    if (stops && json::isWellFormed(text))
+        stopProcess(sentence);
+    logLine(sentence);
+}
+
+std::optional<OrderDiskManager::Moment> OrderDiskManager::momentOf(const Path& folder,
+                                                                   std::string_view fileName) {
+    const auto path = atomic_file::child(folder, fileName);
     struct statx status {};
     if (!path || ::statx(AT_FDCWD, path->c_str(), AT_SYMLINK_NOFOLLOW, STATX_MTIME, &status) != 0)
         return std::nullopt;
     return Moment{status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec};
 }
 
-template <class Order>
-std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName directory) const {
-    const auto path = folder(Order::folderName, directory);
+std::vector<OrderDiskManager::Listing> OrderDiskManager::listOf(const Path& path,
+                                                                DirectoryName directory) const {
     std::error_code error;
     std::filesystem::directory_iterator entries(path, error);
     if (opening_ == Opening::AsItStands && error == std::errc::no_such_file_or_directory)
@@ -176,7 +154,7 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName dire
             continue;
         struct statx status {};
         if (::statx(AT_FDCWD, entry.path().c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0) {
-            if (errno == ENOENT && !moment<Order>(name, directory)) // it vanished since it was listed
+            if (errno == ENOENT && !momentOf(path, name)) // it vanished since it was listed
                 continue;
             stopProcess("attributes of " + entry.path().string());
         }
@@ -191,9 +169,8 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::list(DirectoryName dire
     return result;
 }
 
-template <class Order>
-bool OrderDiskManager::remove(std::string_view name, DirectoryName directory) const {
-    const auto path = orderPath(folder(Order::folderName, directory), name);
+bool OrderDiskManager::removeFrom(const Path& folder, std::string_view fileName) {
+    const auto path = orderPath(folder, fileName);
     if (!path)
         return false;
     const auto removed = atomic_file::remove(*path);
@@ -201,20 +178,5 @@ bool OrderDiskManager::remove(std::string_view name, DirectoryName directory) co
         logLine("Error occurred when deleting file \"" + path->string() + "\" " + removed.error().reason);
     return removed.has_value();
 }
-
-#define KAVOR_ORDER_FILES(Order)                                                                             \
-    template bool OrderDiskManager::exists<Order>(std::string_view, DirectoryName) const;                    \
-    template bool OrderDiskManager::create(const Order&, DirectoryName, std::string_view) const;             \
-    template bool OrderDiskManager::update(const Order&, std::string_view, DirectoryName) const;             \
-    template std::optional<Order> OrderDiskManager::retrieve(std::string_view, DirectoryName) const;         \
-    template std::optional<OrderDiskManager::Moment> OrderDiskManager::moment<Order>(std::string_view,       \
-                                                                                     DirectoryName) const;   \
-    template std::vector<OrderDiskManager::Listing> OrderDiskManager::list<Order>(DirectoryName) const;      \
-    template bool OrderDiskManager::remove<Order>(std::string_view, DirectoryName) const;
-
-KAVOR_ORDER_FILES(SaveBrochuresOrder)
-KAVOR_ORDER_FILES(KeptOrder)
-KAVOR_ORDER_FILES(SaveTextileOrder)
-KAVOR_ORDER_FILES(SellingSheetOrder)
 
 } // namespace kavor

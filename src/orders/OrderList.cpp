@@ -1,6 +1,6 @@
 #include "orders/OrderList.h"
 
-#include "catalogue/EnumerationTables.h"
+#include "base/json/Table.h"
 
 namespace kavor::json {
 

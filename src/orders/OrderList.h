@@ -3,7 +3,7 @@
 #include "base/LocalDateTime.h"
 #include "base/Url.h"
 #include "catalogue/Enumerations.h"
-#include "orders/OrderSyncState.h"
+#include "documents/OrderSyncState.h"
 
 #include <optional>
 #include <string>

@@ -49,15 +49,7 @@ struct Table<SellingSheetOrderListResponse> {
     static constexpr auto fields = std::tuple{required("orders", &R::orders)};
 };
 
-template <>
-struct Table<GenericOrderResponse> {
-    using R = GenericOrderResponse;
-    static constexpr auto fields = std::tuple{optional("errors", &R::errors), optional("url", &R::PDFURL),
-                                              optional("order_id", &R::orderIdentifier)};
-};
-
 } // namespace kavor::json
 
 KAVOR_JSON_DOCUMENT(kavor::SellingSheetOrder)
 KAVOR_JSON_DOCUMENT(kavor::SellingSheetOrderListResponse)
-KAVOR_JSON_DOCUMENT(kavor::GenericOrderResponse)

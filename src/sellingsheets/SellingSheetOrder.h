@@ -3,7 +3,6 @@
 #include "base/Int.h"
 #include "base/Url.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +26,7 @@ struct SellingSheetOrder {
     };
 
     static constexpr std::string_view folderName = "SellingSheetOrder";
+    static constexpr bool onlyWrittenHere = true;
 
     Int identifier = 0;
     std::optional<bool> save; // written when set, never read back
@@ -54,13 +54,6 @@ struct SellingSheetOrder {
 // The answer of "sellingSheetOrderListURL".
 struct SellingSheetOrderListResponse {
     std::vector<SellingSheetOrder> orders;
-};
-
-// The answer to a promotion or a selling sheet.
-struct GenericOrderResponse {
-    std::optional<std::map<std::string, std::vector<std::string>>> errors;
-    std::optional<Url> PDFURL;
-    std::optional<Int> orderIdentifier;
 };
 
 } // namespace kavor

@@ -11,15 +11,7 @@ std::string text(ApplicationType type) {
     return "Textile(" + std::string(caseName(type)) + ")";
 }
 std::string text(PromotionType type) {
-    switch (type) {
-    case PromotionType::carteleria:
-        return "Promotion(carteleria)";
-    case PromotionType::promotion:
-        return "Promotion(promotion)";
-    case PromotionType::carteleriaVino:
-        return "Promotion(carteleriaVino)";
-    }
-    return "Promotion";
+    return "Promotion(" + std::string(caseName(type)) + ")";
 }
 std::string text(SectionIdentifier::SellingSheet) {
     return "SellingSheet";

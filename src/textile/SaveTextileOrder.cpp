@@ -1,6 +1,6 @@
 #include "textile/SaveTextileOrder.h"
 
-#include "brochures/engine/SaveBrochuresOrderTables.h"
+#include "documents/DocumentTables.h"
 
 namespace kavor::json {
 

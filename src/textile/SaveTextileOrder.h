@@ -3,7 +3,8 @@
 #include "base/LocalDateTime.h"
 #include "base/Url.h"
 #include "catalogue/Enumerations.h"
-#include "orders/OrderSyncState.h"
+#include "documents/OrderRequestType.h"
+#include "documents/OrderSyncState.h"
 
 #include <optional>
 #include <string>
@@ -41,6 +42,7 @@ struct SaveTextileOrder {
     };
 
     static constexpr std::string_view folderName = "SaveTextileOrder";
+    static constexpr bool onlyWrittenHere = true;
 
     OrderRequestType save = OrderRequestType::saveCloud;
     Order orderInformation;

@@ -8,7 +8,8 @@
 
 namespace kavor {
 
-enum class Flavour : std::int64_t { sweet = 1, bitter = 3 };
+#define KAVOR_FLAVOURS(CASE) CASE(sweet, 1) CASE(bitter, 3)
+KAVOR_ENUMERATION(Flavour, KAVOR_FLAVOURS)
 
 struct Tap {
     std::int64_t number = 0;
@@ -27,11 +28,6 @@ struct Bar {
 };
 
 namespace json {
-
-template <>
-struct Cases<Flavour> {
-    static constexpr std::array values{Flavour::sweet, Flavour::bitter};
-};
 
 template <>
 struct Table<Tap> {

@@ -86,6 +86,28 @@ TEST(AppFormatter, ReadsWhatUsersTypeWithCommaAndPoint) {
     EXPECT_EQ(formatter().parseCurrency("€"), std::nullopt);
 }
 
+TEST(AppFormatter, KeepsWhatIsTypedIntoAPriceAPrice) {
+    struct Case {
+        const char* before;
+        const char* text;
+        std::size_t at; // where the cursor stands
+        const char* price;
+    };
+    for (const auto& [before, text, at, price] : std::initializer_list<Case>{
+             {"", "3", 1, "3"},
+             {"3", "3.", 2, "3,"},
+             {"3,", "3,,", 3, "3,"},    // a second sign is refused,
+             {"3,5", ".3,5", 1, "3,5"}, // wherever it is typed
+             {"12", "1.2", 2, "1,2"},   // a first one may come between
+             {"3,45", "3,456", 5, "3,45"},
+             {"3,45", "3,4x5", 4, "3,45"},
+             {"", "1.234,567 €", 12, "1234,56"}, // pasted
+             {"2,5", "1,234.5", 7, "1234,5"},
+             {"2,5", "", 0, ""},
+         })
+        EXPECT_EQ(formatter().typedPrice(before, text, at), price) << before << " > " << text;
+}
+
 TEST(LocalDateTime, TakesRealMomentsInTheOneForm) {
     for (const auto* good :
          {"01-02-2024 03:04:05", "29-02-2024 00:00:00", "29-02-2000 23:59:59", "31-12-9999 12:00:00"}) {

@@ -1,6 +1,7 @@
 #include "RunCommand.h"
 #include "base/BundleVersion.h"
 #include "base/json/Json.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/ApplicationInformation.h"
 #include "orders/OrderDiskManager.h"
 #include "support/LogCapture.h"

@@ -7,12 +7,16 @@
 #include "brochures/engine/RetrieveBrochureOrderListResponse.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/Catalogue.h"
+#include "documents/Answers.h"
 #include "network/records/ErrorRecords.h"
 #include "orders/OrderList.h"
 #include "promotions/PromotionOrder.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace kavor {
 
@@ -29,10 +33,12 @@ SaveBrochuresOrder brochure() {
     return order;
 }
 
-std::vector<OperationCase> makeTable() {
-    using NM = NetworkManager;
-    const QByteArray generic = encoded<GenericOrderResponse>();
-    const QByteArray message = R"({"msg": "hecho"})";
+using NM = NetworkManager;
+using Cases = std::vector<OperationCase>;
+
+const QByteArray message = R"({"msg": "hecho"})";
+
+Cases sessionCases() {
     return {
         {"loginURL", "POST", "/loginURL", "login=ana%2B1%40bar.es&password=a%26b%20%C3%B1%3D%25", goodLogin,
          [](NM& m, Outcome& o) {
@@ -68,6 +74,11 @@ std::vector<OperationCase> makeTable() {
              m.priceRecommendation(12, QStringLiteral("28801"), QStringLiteral("Alcalá"),
                                    o.completion<PriceRecommendationResponse>());
          }},
+    };
+}
+
+Cases brochureCases() {
+    return {
         {"saveOrderURL",
          "POST",
          "/saveOrderURL",
@@ -130,6 +141,12 @@ std::vector<OperationCase> makeTable() {
          true,
          true,
          {"\"fileName\": \"2024.zvo\"", "\"name_archive_tablet\""}},
+    };
+}
+
+Cases otherCases() {
+    const QByteArray generic = encoded<GenericOrderResponse>();
+    return {
         {"createTextileOrder",
          "POST",
          "/createTextileOrder",
@@ -188,7 +205,12 @@ std::vector<OperationCase> makeTable() {
 } // namespace
 
 const std::vector<OperationCase>& everyOperation() {
-    static const std::vector<OperationCase> table = makeTable();
+    static const Cases table = [] {
+        Cases all = sessionCases();
+        for (Cases more : {brochureCases(), otherCases()})
+            std::ranges::move(more, std::back_inserter(all));
+        return all;
+    }();
     return table;
 }
 

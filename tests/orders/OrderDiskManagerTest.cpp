@@ -2,8 +2,10 @@
 
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -3,6 +3,7 @@
 #include "catalogue/Catalogue.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <string>
 #include <utility>
@@ -69,10 +70,11 @@ struct CatalogueBuilder {
     }
     Brochures::Type::Parameters& parameters(BrochureType kind) { return *type(kind).parameters; }
 
-    static constexpr BrochureType kinds[] = {
-        BrochureType::beer,       BrochureType::beverage,  BrochureType::menu,    BrochureType::flyer,
-        BrochureType::chalkboard, BrochureType::video,     BrochureType::mantel,  BrochureType::encarte,
-        BrochureType::wineA4,     BrochureType::wineOrder, BrochureType::digital, BrochureType::pennant};
+    static constexpr auto kinds = [] {
+        std::array<BrochureType, casesOf<BrochureType>().size()> all{};
+        std::ranges::transform(casesOf<BrochureType>(), all.begin(), &EnumerationCase<BrochureType>::value);
+        return all;
+    }();
     static bool isWine(BrochureType kind) {
         return kind == BrochureType::wineA4 || kind == BrochureType::wineOrder;
     }

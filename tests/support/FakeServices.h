@@ -6,6 +6,7 @@
 #include "brochures/engine/RetrieveBrochureOrderListResponse.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "catalogue/Catalogue.h"
+#include "documents/Answers.h"
 #include "network/ServiceOperations.h"
 #include "network/records/ErrorRecords.h"
 #include "orders/OrderList.h"

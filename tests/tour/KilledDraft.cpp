@@ -29,7 +29,7 @@ int checkKilledDraft(const QString& folder, const QString& documents) {
         return 1;
     }
     session.actualSection = SectionIdentifier::brochure(BrochureType::beer);
-    OrderDiskManager::shared(); // sweeps, as every start does
+    const OrderDiskManager orders(documents.toStdString()); // sweeps, as every start does
     for (const auto& entry : std::filesystem::recursive_directory_iterator(documents.toStdString())) {
         if (entry.path().filename().string().starts_with(".tmp-")) {
             std::fprintf(stderr, "a temporary stayed: %s\n", entry.path().c_str());

@@ -492,8 +492,10 @@ void Tour::orderOffline() {
     touch_->waitUntil(QStringLiteral("the number of unsent orders"),
                       [&] { return touch_->isShown(QStringLiteral("unsentOrders")); });
     shot(QStringLiteral("panel-sin-conexion"));
-    const auto waiting = OrderDiskManager::shared().retrieve<SaveBrochuresOrder>(
-        "Sin enviar.zvo", OrderDiskManager::DirectoryName::outbox);
+    const OrderDiskManager orders(AppSingleton::shared().documentsFolder(),
+                                  OrderDiskManager::Opening::AsItStands);
+    const auto waiting =
+        orders.retrieve<SaveBrochuresOrder>("Sin enviar.zvo", OrderDiskManager::DirectoryName::outbox);
     must(waiting && waiting->menu.customer.name == "Bar La Cantera Nueva",
          QStringLiteral("the order in the outbox"));
     must(QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array().size() == 1,

@@ -53,6 +53,50 @@ QSizeF fittedTo(const QSizeF& size, double longest) {
     return size.scaled(longest, longest, Qt::KeepAspectRatio);
 }
 
+const Format& formatOf(const Brand& brand, int place) {
+    return brand.formats[size_t(place) % brand.formats.size()];
+}
+
+void drawCover(QPainter& painter, const QRectF& area, const Picture& picture, const Catalogue& catalogue) {
+    const Style* style = catalogue.style(picture.a);
+    const CoverText words = sampleText(catalogue, *style);
+    const QSizeF size = sheetSize(style->kind, isLandscape(*style));
+    painter.scale(area.width() / size.width(), area.height() / size.height());
+    const auto side = picture.kind == PictureKind::coverBack ? drawCoverBack : drawCoverFront;
+    side(painter, QRectF(QPointF(0, 0), size), style->kind, themes()[size_t(style->theme)], words);
+}
+
+// A record that names brands by their places, with their looks.
+template <typename Draw, typename Record>
+void drawSample(Draw draw, QPainter& painter, const QRectF& area, const Record& record,
+                const Catalogue& catalogue) {
+    draw(painter, area, record, looksAt(catalogue, record.brandPlaces));
+}
+
+void drawPosterOf(QPainter& painter, const QRectF& area, const Picture& picture, const Catalogue& catalogue) {
+    const Poster& poster = recordOf(posters(), picture.a);
+    const Look& look = brandAt(catalogue.brands(), poster.family, poster.brandPlace).look;
+    drawPoster(painter, area, poster, look, picture.b);
+}
+
+void drawActivation(QPainter& painter, const QRectF& area, const Picture& picture,
+                    const Catalogue& catalogue) {
+    if (picture.kind == PictureKind::activationBackground) {
+        return drawActivationBackground(painter, area, recordOf(activationGroups(), picture.a).colour);
+    }
+    if (picture.kind == PictureKind::activationSign) {
+        return drawActivationSign(painter, area, recordOf(activations(), picture.a), picture.b == 1);
+    }
+    const bool isLogo = picture.kind == PictureKind::activationLogo;
+    const int groupId = isLogo ? picture.a : recordOf(activations(), picture.a).groupId;
+    const ActivationGroup& group = recordOf(activationGroups(), groupId);
+    const Look& look = brandAt(catalogue.brands(), Family::beer, group.brandPlace).look;
+    if (isLogo) {
+        return drawActivationLogo(painter, area, group, look);
+    }
+    drawActivationScene(painter, area, recordOf(activations(), picture.a), picture.b, look);
+}
+
 } // namespace
 
 std::optional<QByteArray> Studio::png(const std::string& hash) {
@@ -159,26 +203,16 @@ void Studio::draw(QPainter& painter, const Picture& picture) const {
     case PictureKind::wordmark:
         return drawWordmark(painter, area, brandOf(picture.a).look);
     case PictureKind::vessel:
-    case PictureKind::vesselThumb: {
-        const Brand& brand = brandOf(picture.a);
-        return drawVessel(painter, area, brand.look,
-                          brand.formats[size_t(picture.b) % brand.formats.size()].vessel);
-    }
-    case PictureKind::box: {
-        const Brand& brand = brandOf(picture.a);
-        return drawBox(painter, area, brand.look,
-                       brand.formats[size_t(picture.b) % brand.formats.size()].bottlesPerBox.value_or(24));
-    }
+    case PictureKind::vesselThumb:
+        return drawVessel(painter, area, brandOf(picture.a).look,
+                          formatOf(brandOf(picture.a), picture.b).vessel);
+    case PictureKind::box:
+        return drawBox(painter, area, brandOf(picture.a).look,
+                       formatOf(brandOf(picture.a), picture.b).bottlesPerBox.value_or(24));
     case PictureKind::coverFront:
     case PictureKind::coverThumb:
-    case PictureKind::coverBack: {
-        const Style* style = catalogue_.style(picture.a);
-        const CoverText words = sampleText(catalogue_, *style);
-        const QSizeF size = sheetSize(style->kind, isLandscape(*style));
-        painter.scale(area.width() / size.width(), area.height() / size.height());
-        const auto side = picture.kind == PictureKind::coverBack ? drawCoverBack : drawCoverFront;
-        return side(painter, QRectF(QPointF(0, 0), size), style->kind, themes()[size_t(style->theme)], words);
-    }
+    case PictureKind::coverBack:
+        return drawCover(painter, area, picture, catalogue_);
     case PictureKind::servingType:
         return drawServingSign(painter, area, picture.a);
     case PictureKind::taste:
@@ -187,44 +221,27 @@ void Studio::draw(QPainter& painter, const Picture& picture) const {
         return drawTasteSign(painter, area, 0, picture.a);
     case PictureKind::chalkboardFormat:
         return drawChalkboardSign(painter, area, recordOf(chalkboardFormats(), picture.a), picture.b == 1);
-    case PictureKind::orderSheet: {
-        const OrderSheet& sheet = recordOf(orderSheets(), picture.a);
-        return drawOrderSheet(painter, area, sheet, looksAt(catalogue_, sheet.brandPlaces));
-    }
+    case PictureKind::orderSheet:
+        return drawSample(drawOrderSheet, painter, area, recordOf(orderSheets(), picture.a), catalogue_);
     case PictureKind::pennantThumb:
-    case PictureKind::pennantSample: {
-        const PennantBrand& pennant = recordOf(pennantBrands(), picture.a);
-        return drawPennantBrand(painter, area, pennant, looksAt(catalogue_, pennant.brandPlaces));
-    }
+    case PictureKind::pennantSample:
+        return drawSample(drawPennantBrand, painter, area, recordOf(pennantBrands(), picture.a), catalogue_);
     case PictureKind::qrSticker:
         return drawQrSticker(painter, area, brandOf(picture.a).look, address);
     case PictureKind::qrBlock:
         return drawQrBlock(painter, area, brandOf(picture.a).look, address);
-    case PictureKind::poster: {
-        const Poster& poster = recordOf(posters(), picture.a);
-        return drawPoster(painter, area, poster,
-                          brandAt(catalogue_.brands(), poster.family, poster.brandPlace).look, picture.b);
-    }
+    case PictureKind::poster:
+        return drawPosterOf(painter, area, picture, catalogue_);
     case PictureKind::support:
         return drawSupportSign(painter, area, recordOf(supports(), picture.a));
     case PictureKind::sheetStyle:
         return drawSheetStyle(painter, area, recordOf(sheetStyles(), picture.a),
                               looksAt(catalogue_, {0, 1, 2, 3}));
-    case PictureKind::activationLogo: {
-        const ActivationGroup& group = recordOf(activationGroups(), picture.a);
-        return drawActivationLogo(painter, area, group,
-                                  brandAt(catalogue_.brands(), Family::beer, group.brandPlace).look);
-    }
+    case PictureKind::activationLogo:
     case PictureKind::activationBackground:
-        return drawActivationBackground(painter, area, recordOf(activationGroups(), picture.a).colour);
     case PictureKind::activationSign:
-        return drawActivationSign(painter, area, recordOf(activations(), picture.a), picture.b == 1);
-    case PictureKind::activationScene: {
-        const Activation& activation = recordOf(activations(), picture.a);
-        const ActivationGroup& group = recordOf(activationGroups(), activation.groupId);
-        return drawActivationScene(painter, area, activation, picture.b,
-                                   brandAt(catalogue_.brands(), Family::beer, group.brandPlace).look);
-    }
+    case PictureKind::activationScene:
+        return drawActivation(painter, area, picture, catalogue_);
     case PictureKind::garment:
         return drawGarment(painter, area, picture.a, recordOf(garmentColours(), picture.b).colour,
                            brandOf(picture.c).look);

@@ -63,9 +63,6 @@ constexpr Field<Record, Member, Codec> requiredAs(std::string_view key, Member R
 template <class Record>
 struct Table;
 
-template <class Enumeration>
-struct Cases;
-
 // Compares keys without a call: they are short, and there are millions of them.
 [[gnu::always_inline]] inline bool sameKey(std::string_view a, std::string_view b) {
     if (a.size() != b.size())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Enumeration.h"
 #include "base/LocalDateTime.h"
 #include "base/Url.h"
 #include "base/json/Fields.h"
@@ -33,10 +34,7 @@
 //           &Pairing::note)};
 //   };
 //
-// and an enumeration's like this:
-//
-//   template <> struct Cases<PriceType> { static constexpr std::array values{PriceType::main,
-//   PriceType::table}; };
+// An enumeration's table is its declaration (base/Enumeration.h).
 namespace kavor::json {
 
 namespace ondemand = simdjson::ondemand;
@@ -46,7 +44,6 @@ namespace ondemand = simdjson::ondemand;
 using Element = ondemand::value&;
 
 // ---- Reading
-// ------------------------------------------------------------------------------------------------
 
 // Carries the error up from the place where it was met; every level puts its step in front of the path.
 struct Context {
@@ -182,15 +179,13 @@ bool readCase(Element element, Enumeration& out, Context& context) {
     std::int64_t raw = 0;
     if (!readValue(element, raw, context))
         return false;
-    for (const Enumeration value : Cases<Enumeration>::values) {
-        if (static_cast<std::int64_t>(value) == raw) {
-            out = value;
-            return true;
-        }
+    if (const auto found = caseOf<Enumeration>(raw)) {
+        out = *found;
+        return true;
     }
     std::string known;
-    for (const Enumeration value : Cases<Enumeration>::values)
-        known += (known.empty() ? "" : ", ") + std::to_string(static_cast<std::int64_t>(value));
+    for (const auto& each : casesOf<Enumeration>())
+        known += (known.empty() ? "" : ", ") + std::to_string(static_cast<std::int64_t>(each.value));
     return context.fail("expected one of " + known + ", found " + std::to_string(raw));
 }
 
@@ -392,7 +387,6 @@ bool readRecord(Element element, Record& out, Context& context) {
 }
 
 // ---- Writing
-// ------------------------------------------------------------------------------------------------
 
 // Appends a document to a text, plain or pretty.
 class Writer {
@@ -536,7 +530,6 @@ bool writeElement(Writer& writer, const T& value) {
 }
 
 // ---- The functions of Json.h
-// --------------------------------------------------------------------------------
 
 // Reads one document through a reader that sees its root value; answers the document's fault, if it has one.
 using RootReader = std::function<bool(Element, Context&)>;

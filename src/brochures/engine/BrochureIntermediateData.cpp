@@ -4,8 +4,7 @@
 #include "base/Log.h"
 #include "base/StopProcess.h"
 #include "base/json/Table.h"
-#include "session/AppSingleton.h"
-#include "session/StateFile.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 #include <array>
@@ -14,9 +13,7 @@ namespace kavor {
 
 namespace {
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 std::shared_ptr<BrochureIntermediateData>& sharedDraft() {
     static std::shared_ptr<BrochureIntermediateData> draft;
@@ -41,7 +38,7 @@ const Record* current(const std::optional<Int>& field, const Record* (Catalogue:
 } // namespace
 
 BrochureIntermediateData::BrochureIntermediateData() {
-    const auto& folder = AppSingleton::shared().documentsFolder();
+    const auto& folder = engine::documentsFolder();
     if (folder.empty())
         return;
     BackgroundFileWriter::shared().flush(folder / state_file::netPrices);
@@ -61,7 +58,7 @@ const std::shared_ptr<BrochureIntermediateData>& BrochureIntermediateData::repla
 }
 
 void BrochureIntermediateData::storeNetPrices() const {
-    const auto& folder = AppSingleton::shared().documentsFolder();
+    const auto& folder = engine::documentsFolder();
     if (folder.empty())
         return;
     const auto text = json::encode(netPrices);

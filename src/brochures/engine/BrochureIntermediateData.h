@@ -59,10 +59,6 @@ public:
         bool operator==(const BeverageIdentifier&) const = default;
     };
 
-    struct ProductFormatIdentifier {
-        std::string formatName;
-    };
-
     struct BrandSecondaryItemPrice {
         Int type = 0;
         std::optional<double> price;
@@ -112,7 +108,6 @@ public:
     static const std::shared_ptr<BrochureIntermediateData>& replaceTemporalBrochure();
 
     // ---- Fields
-    // ----------------------------------------------------------------------------------------------
 
     std::optional<Int> sourceIdentifier; // the order that this one was copied from
     std::optional<Customer> customerInformation;
@@ -178,10 +173,9 @@ public:
     std::optional<SentOrder> sent; // once the server has taken it to print
 
     // ---- References to the catalogue
-    // ------------------------------------------------------------------------- Setters answer false, and
-    // change nothing, for an id that the catalogue doesn't have; with none they clear the field. Getters
-    // answer none (null) when nothing is chosen or the id has left the catalogue. Their pointers live as long
-    // as the session's catalogue.
+    // Setters answer false, and change nothing, for an id that the catalogue doesn't have; with none they
+    // clear the field. Getters answer none (null) when nothing is chosen or the id has left the catalogue.
+    // Their pointers live as long as the session's catalogue.
 
     bool setLanguages(Int main, std::optional<Int> secondary);
     [[nodiscard]] std::optional<MainAndSecondary> currentLanguages() const;
@@ -211,8 +205,7 @@ public:
     [[nodiscard]] std::optional<LogoIdentifiers> currentLogos() const;
 
     // ---- Formats and their values
-    // ---------------------------------------------------------------------------- All fail for a brand or
-    // format that the catalogue doesn't have.
+    // All fail for a brand or format that the catalogue doesn't have.
 
     // Refuses a format that is already (or is not) selected. A new one gets the catalogue's price in each
     // column that the shared draft uses.
@@ -241,7 +234,6 @@ public:
     [[nodiscard]] Int maximumBrands(Int defaultValue) const;
 
     // ---- Drinks
-    // ----------------------------------------------------------------------------------------------
 
     // The catalogue's record of a category (isCategory, then the product is not looked at) or of a product of
     // a category, under what the user changed. None when it isn't selected, or is known to neither.
@@ -267,7 +259,6 @@ public:
                           Int product, Int category);
 
     // ---- Checking, sending, keeping
-    // --------------------------------------------------------------------------
 
     // Every rule that fails, as sentences for the user in their fixed order; empty when the draft may be
     // sent.

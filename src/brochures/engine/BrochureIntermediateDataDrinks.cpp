@@ -1,5 +1,5 @@
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 
@@ -9,9 +9,7 @@ namespace {
 
 using Beverage = BrochureIntermediateData::BeverageIdentifier;
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 std::optional<Beverage> catalogueCategory(Int category) {
     const auto* drink = catalogue().drink(category);

@@ -1,8 +1,8 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/EngineSession.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "catalogue/OwnBrand.h"
-#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <iterator>
@@ -12,17 +12,11 @@ namespace kavor {
 
 namespace {
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 // The price column of a number in an order document; every other number is the main one.
 PriceType priceTypeOf(Int raw) {
-    for (const auto type : {PriceType::terrace, PriceType::table, PriceType::night}) {
-        if (static_cast<Int>(type) == raw)
-            return type;
-    }
-    return PriceType::main;
+    return caseOf<PriceType>(raw).value_or(PriceType::main);
 }
 
 std::optional<Int> knownStyle(std::optional<Int> id) {
@@ -146,10 +140,8 @@ std::vector<std::optional<Int>> bringBackOwnBrands(const Menu& menu) {
     OwnBrandFinder finder(menu);
     for (const auto& brand : menu.beerBrands)
         numbers.push_back(*brand.brand < 0 ? finder.find(brand) : brand.brand);
-    if (auto made = finder.takeMade(); !made.empty()) {
-        AppSingleton::shared().changeCatalogue(
-            [&](Catalogue& catalogue) { catalogue.addProducts(std::move(made)); });
-    }
+    if (auto made = finder.takeMade(); !made.empty())
+        engine::addProducts(std::move(made));
     return numbers;
 }
 

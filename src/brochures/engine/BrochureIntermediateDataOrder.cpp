@@ -1,6 +1,6 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
+#include "brochures/engine/EngineSession.h"
 
 namespace kavor {
 
@@ -12,12 +12,10 @@ using BeerBrand = Menu::BeerBrand;
 using DrinkCategory = Menu::OtherDrinkCategory;
 using DrinkPrice = DrinkCategory::OtherDrink::SubItemPrice;
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 BrochureType sectionKind() {
-    const auto kind = AppSingleton::shared().brochureType();
+    const auto kind = engine::sectionKind();
     if (!kind)
         stopProcess("a brochure section");
     return *kind;

@@ -1,6 +1,6 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 
@@ -8,9 +8,7 @@ namespace kavor {
 
 namespace {
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 bool isKnown(Int brand, Int format) {
     return catalogue().format(brand, format) != nullptr;
@@ -58,7 +56,7 @@ SelectionState stateIn(const BrochureIntermediateData::FormatsOfBrands& map, Int
 }
 
 const Brochures::Type& sectionType() {
-    const auto kind = AppSingleton::shared().brochureType();
+    const auto kind = engine::sectionKind();
     if (!kind)
         stopProcess("a brochure section");
     const auto* type = catalogue().brochureType(*kind);

@@ -2,7 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/Text.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 
@@ -14,9 +14,7 @@ namespace {
 using Draft = BrochureIntermediateData;
 using Messages = std::vector<std::string>;
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 std::string number(Int value) {
     return std::to_string(value);
@@ -97,8 +95,7 @@ void checkLengths(const Customer& customer, Messages& messages) {
 }
 
 void checkCustomer(const std::optional<Customer>& customer, Messages& messages) {
-    const auto& login = AppSingleton::shared().loginResult;
-    if (login && login->customerCodeRequired == true && (!customer || isEmpty(customer->tevo)))
+    if (engine::isCustomerCodeRequired() && (!customer || isEmpty(customer->tevo)))
         messages.emplace_back("El código cliente debe informarse.");
     if (customer)
         checkLengths(*customer, messages);
@@ -293,7 +290,7 @@ void checkMinimalPrices(const Draft& draft, Messages& messages) {
 } // namespace
 
 std::vector<std::string> BrochureIntermediateData::validationErrors() const {
-    const auto kind = AppSingleton::shared().brochureType();
+    const auto kind = engine::sectionKind();
     Messages messages;
     if (!includePaperBrochure && !includeDigitalBrochure)
         messages.emplace_back(

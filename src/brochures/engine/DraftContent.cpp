@@ -1,7 +1,7 @@
 #include "brochures/engine/DraftContent.h"
 
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 #include <array>
@@ -12,12 +12,10 @@ namespace {
 
 using Draft = BrochureIntermediateData;
 
-const Catalogue& catalogue() {
-    return AppSingleton::shared().catalogue();
-}
+using engine::catalogue;
 
 const Brochures::Type* sectionType() {
-    const auto kind = AppSingleton::shared().brochureType();
+    const auto kind = engine::sectionKind();
     return kind ? catalogue().brochureType(*kind) : nullptr;
 }
 

@@ -14,13 +14,6 @@ struct Table<SaveBrochuresOrderResponse> {
 };
 
 template <>
-struct Table<UnansweredSend> {
-    using R = UnansweredSend;
-    static constexpr auto fields = std::tuple{required("content", &R::content), required("key", &R::key),
-                                              required("only_queued", &R::onlyQueued)};
-};
-
-template <>
 struct Table<KeptOrder> {
     static constexpr auto fields =
         std::tuple_cat(Table<SaveBrochuresOrder>::fields,
@@ -39,4 +32,3 @@ KAVOR_JSON_DOCUMENT(kavor::SaveBrochuresOrder)
 KAVOR_JSON_DOCUMENT(kavor::SaveBrochuresOrderResponse)
 KAVOR_JSON_DOCUMENT(kavor::KeptOrder)
 KAVOR_JSON_DOCUMENT(kavor::RawOrder)
-KAVOR_JSON_DOCUMENT(std::vector<kavor::Customer>)

@@ -2,60 +2,17 @@
 
 #include "base/Url.h"
 #include "catalogue/Enumerations.h"
-#include "orders/OrderSyncState.h"
-#include "orders/UnansweredSend.h"
+#include "documents/Customer.h"
+#include "documents/MenuPromotion.h"
+#include "documents/OrderRequestType.h"
+#include "documents/OrderSyncState.h"
+#include "documents/UnansweredSend.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace kavor {
-
-// The point of sale of a brochure order.
-struct Customer {
-    std::optional<Int> id;
-    std::string name;
-    std::optional<std::string> email;
-    std::optional<std::string> telephone;
-    std::optional<std::string> contact;
-    std::optional<std::string> localPhone;
-    std::optional<std::string> url;
-    std::optional<std::string> facebook;
-    std::optional<std::string> twitter;
-    std::optional<std::string> instagram;
-    std::optional<std::string> freeText1;
-    std::optional<std::string> freeText2;
-    std::optional<std::string> freeText3;
-    std::optional<std::string> tevo; // the customer code
-    std::optional<std::string> placePostalCode;
-    std::optional<std::string> placeLocality;
-    std::optional<Int> placeLocalityId;
-    std::optional<Int> placeProvinceId;
-    std::optional<std::string> placeProvinceName;
-    std::optional<std::string> imageLogo; // "data:image/png;base64," and the picture
-    std::optional<std::string> commentImageLogo;
-    std::optional<std::vector<Int>> priorityBrandIdentifiers;
-
-    bool operator==(const Customer&) const = default;
-};
-
-// A poster promotion printed inside the menu.
-struct MenuPromotion {
-    struct PromotionAttribute {
-        Int id = 0;
-        std::string value;
-        std::optional<Int> valueListId;
-        bool operator==(const PromotionAttribute&) const = default;
-    };
-
-    std::optional<Int> id;
-    Int promotionId = 0;
-    std::optional<std::string> promotionName;
-    std::optional<std::string> brandName;
-    std::vector<PromotionAttribute> attributes;
-
-    bool operator==(const MenuPromotion&) const = default;
-};
 
 // The document that carries a brochure order: the body of "saveOrderURL" in all its modes and the content of
 // draft and outbox files. The reader takes older files: "save" as a boolean, missing flags as true,
@@ -174,8 +131,9 @@ struct SaveBrochuresOrder {
         bool operator==(const Menu&) const = default;
     };
 
-    // The name of the record's folder on the device.
+    // The name of the record's folder on the device, and whether what lies there is this version's own.
     static constexpr std::string_view folderName = "SaveBrochuresOrder";
+    static constexpr bool onlyWrittenHere = false;
 
     std::optional<Int> sourceIdentifier; // the order that this one was copied from
     OrderRequestType save = OrderRequestType::saveCloud;

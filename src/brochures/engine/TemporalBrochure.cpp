@@ -4,8 +4,7 @@
 #include "base/BackgroundFileWriter.h"
 #include "base/Log.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "session/AppSingleton.h"
-#include "session/StateFile.h"
+#include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,7 +18,7 @@ const std::string recoveryName = copyName + ".recovery";
 const std::string unreadableName = copyName + ".unreadable";
 
 const std::filesystem::path& folder() {
-    return AppSingleton::shared().documentsFolder();
+    return engine::documentsFolder();
 }
 
 bool exists(const std::string& name) {
@@ -128,7 +127,7 @@ std::optional<KeptOrder> TemporalBrochure::takeForOpening(BrochureType kind, boo
 }
 
 bool TemporalBrochure::restoreDraft() {
-    const auto kind = AppSingleton::shared().brochureType();
+    const auto kind = engine::sectionKind();
     if (!kind)
         return false;
     // A draft of this kind that came into memory without a copy is newer than what was set aside.

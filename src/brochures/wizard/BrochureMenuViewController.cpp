@@ -79,9 +79,17 @@ QString styleCaption(BrochureType type) {
         return QStringLiteral("Mantel");
     case BrochureType::digital:
         return QStringLiteral("Online");
-    default:
-        return QStringLiteral("Papel");
+    case BrochureType::beer:
+    case BrochureType::beverage:
+    case BrochureType::menu:
+    case BrochureType::flyer:
+    case BrochureType::encarte:
+    case BrochureType::wineA4:
+    case BrochureType::wineOrder:
+    case BrochureType::pennant:
+        break;
     }
+    return QStringLiteral("Papel");
 }
 
 } // namespace

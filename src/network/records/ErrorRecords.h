@@ -8,12 +8,8 @@
 #include <string>
 #include <vector>
 
-// What the body of a failed answer holds, and the plain answers that several operations share.
+// What the body of a failed answer holds.
 namespace kavor {
-
-struct MessageResponse {
-    std::string msg;
-};
 
 // Status 422 and 429.
 struct ValidationErrorsResponse {
@@ -34,8 +30,5 @@ struct DemandBrandQrErrorResponse {
     std::optional<Int> orderStateId;
     std::optional<std::string> orderStateName;
 };
-
-// A body whose content doesn't matter.
-struct SimpleResponse {};
 
 } // namespace kavor

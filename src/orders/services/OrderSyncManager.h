@@ -57,9 +57,6 @@ public:
     void scheduleBrochureSync() override;
     void handleBrochureSync(const std::shared_ptr<BackgroundTask>& task) override;
 
-    // Whether uploads of a background run still wait for their answers.
-    [[nodiscard]] int answersAwaited() const { return answersAwaited_; }
-
 signals:
     // Every upload of a background run has been answered; its task may still wait for its expiry.
     void runAnswered();
@@ -105,7 +102,7 @@ private:
 
     Collaborators services_;
     quint64 backgroundTaskID_ = 0; // 0: invalid
-    int answersAwaited_ = 0;
+    int answersAwaited_ = 0; // by the uploads of a background run
 
     // Orders that reached the server while the disk took no more, by their file names: as they were sent.
     struct Unstored {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "documents/UnansweredSend.h"
 #include "orders/OrderDiskManager.h"
-#include "orders/UnansweredSend.h"
 
 #include <QByteArray>
 #include <QString>

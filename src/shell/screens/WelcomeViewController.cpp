@@ -12,6 +12,7 @@
 #include "network/ServiceOperations.h"
 #include "orders/OrderDiskManager.h"
 #include "screens/ResourceImages.h"
+#include "sellingsheets/SellingSheetOrder.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"
 #include "shell/WelcomeOptions.h"
@@ -19,6 +20,7 @@
 #include "shell/services/AppDelegate.h"
 #include "shell/services/CatalogueUpdate.h"
 #include "shell/services/DispatchGroup.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <chrono>
 #include <utility>
@@ -230,8 +232,9 @@ void WelcomeViewController::cancelUpdateAction() {
         services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation);
 }
 
-void WelcomeViewController::catalogueFetchFailed(const QStringList& messages) {
-    ask(services_.alerts, this, serverTrouble, messages.join(QLatin1Char('\n')),
+void WelcomeViewController::catalogueFetchFailed(const RequestFailure& failure) {
+    const QString text = failure.messages.value_or(QStringList()).join(QLatin1Char('\n'));
+    ask(services_.alerts, this, serverTrouble, text,
         {{QStringLiteral("Volver"), AlertButton::Role::Cancel,
           [this] { services_.application.resetRoot(AppDelegate::RootKind::LoginNavigation); }}});
 }

@@ -118,7 +118,7 @@ private:
     // What hears only as long as the refresh is waited for.
     [[nodiscard]] QObject* waiting() { return run_.isUnderWay() ? run_.context() : this; }
     void fetchCatalogue();
-    void catalogueFetchFailed(const QStringList& messages);
+    void catalogueFetchFailed(const RequestFailure& failure);
     void refreshNotifications();
     void rebuildButtons();
     void tryToUploadOrders();

@@ -54,16 +54,11 @@ public:
 
     static constexpr char gcmMessageIDKey[] = "gcm.message_id";
     static constexpr char gcmPayload[] = "aps";
-    static constexpr int allOrientations = 30; // portrait, both landscapes, upside down
     static constexpr int badgeSoundAndAlert = 7;
 
     explicit AppDelegate(const Services& services, QObject* parent = nullptr);
     // Reacts to these moments from now on.
     void follow(AppLifecycle& lifecycle);
-
-    // What the platform asks for; a screen with a fixed orientation writes it and writes allOrientations
-    // back.
-    int orientationLock = allOrientations;
 
     void didFinishLaunching();
     // Decides the first screen.

@@ -24,7 +24,7 @@ CatalogueUpdate::CatalogueUpdate(const Services& services, QObject* parent)
 void CatalogueUpdate::start() {
     services_.network.appInformation(
         {run_.begin(), [this](const std::shared_ptr<const Catalogue>& fetched) { arrived(fetched); },
-         [this](const RequestFailure& failure) { emit failed(failure.messages.value_or(QStringList())); }});
+         [this](const RequestFailure& failure) { emit failed(failure); }});
 }
 
 void CatalogueUpdate::arrived(const std::shared_ptr<const Catalogue>& fetched) {

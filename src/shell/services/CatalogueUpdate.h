@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -18,6 +17,7 @@ class ResourceUpdateRun;
 class ServiceOperations;
 class SessionStore;
 class UserDefaults;
+struct RequestFailure;
 
 // The dashboard's run: fetches the catalogue, puts it with the user's own brands into the session and on the
 // disk, then updates pictures and fonts. "UpdatingResourcesDidEnd" is posted at the end of a run that got its
@@ -52,7 +52,7 @@ signals:
     void progressChanged(double progress, const QString& message);
     // The answer has come and decoded; it takes the place of the earlier catalogue after this signal.
     void catalogueArrived();
-    void failed(const QStringList& messages);
+    void failed(const kavor::RequestFailure& failure);
 
 private:
     void arrived(const std::shared_ptr<const Catalogue>& fetched);

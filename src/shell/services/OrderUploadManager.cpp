@@ -1,7 +1,7 @@
 #include "shell/services/OrderUploadManager.h"
 
+#include "documents/Answers.h"
 #include "network/ServiceOperations.h"
-#include "network/records/ErrorRecords.h"
 #include "shell/services/DispatchGroup.h"
 
 #include <utility>

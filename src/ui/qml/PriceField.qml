@@ -13,8 +13,6 @@ FocusScope {
     property string editText: ""
     property string placeholder: "0,00 €"
     property string error: ""
-    property string decimalSign: ","
-    property int maximumDecimals: 2
     property bool readOnly: false
     property bool emphasised: false
     property bool inColumn: false // Enter is the owner's
@@ -32,16 +30,6 @@ FocusScope {
         if (field.activeFocus)
             field.begin();
         field.handedOver = true;
-    }
-    // What was typed or pasted, with one decimal sign at most.
-    function normalised(text: string): string {
-        let digits = text.replace(/[^0-9.,]/g, "");
-        const lastPoint = digits.lastIndexOf("."), lastComma = digits.lastIndexOf(",");
-        const decimalAt = Math.max(lastPoint, lastComma);
-        if (decimalAt < 0)
-            return digits;
-        const whole = digits.slice(0, decimalAt).replace(/[.,]/g, "");
-        return whole + decimalSign + digits.slice(decimalAt + 1, decimalAt + 1 + maximumDecimals);
     }
 
     implicitWidth: 120
@@ -126,11 +114,7 @@ FocusScope {
                 end();
         }
         onTextEdited: {
-            const key = text.charAt(cursorPosition - 1);
-            // A second decimal sign is refused; pasted texts may bring points of thousands.
-            const second = text.length === before.length + 1 && (key === "," || key === ".")
-                && before.indexOf(price.decimalSign) >= 0;
-            const wanted = second ? before : price.normalised(text);
+            const wanted = PriceInput.typed(before, text, cursorPosition);
             if (wanted !== text) {
                 const fromEnd = text.length - cursorPosition;
                 text = wanted;

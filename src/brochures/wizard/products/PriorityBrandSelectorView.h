@@ -34,7 +34,6 @@ public:
     PriorityBrandSelectorView(const std::vector<Brochures::BrandProperty>& properties,
                               ApplicationFather family, PriorityFilterDelegate& delegate, QObject* parent);
 
-    [[nodiscard]] Filter appliedFilter() const { return appliedFilter_; }
     [[nodiscard]] bool isPriorityApplied() const { return appliedFilter_ == Filter::priority; }
     [[nodiscard]] const QStringList& propertyPicker() const { return propertyPicker_; }
     [[nodiscard]] int propertyIndex() const { return propertyIndex_; }

@@ -108,9 +108,19 @@ QString BrochureQuantityForm::kindWord() const {
         return QStringLiteral("Nº de pizarras");
     case BrochureType::mantel:
         return QStringLiteral("Nº de manteles");
-    default:
-        return QStringLiteral("Nº de cartas");
+    case BrochureType::beer:
+    case BrochureType::beverage:
+    case BrochureType::menu:
+    case BrochureType::flyer:
+    case BrochureType::video:
+    case BrochureType::encarte:
+    case BrochureType::wineA4:
+    case BrochureType::wineOrder:
+    case BrochureType::digital:
+    case BrochureType::pennant:
+        break;
     }
+    return QStringLiteral("Nº de cartas");
 }
 
 QString BrochureQuantityForm::numberOfBrochuresLabel() const {

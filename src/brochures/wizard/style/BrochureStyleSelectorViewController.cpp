@@ -104,7 +104,6 @@ void BrochureStyleSelectorViewController::flipStyleButtonAction() {
 
 void BrochureStyleSelectorViewController::showZoom(TypeZooms zoom) {
     closeZoom();
-    zoomSelected_ = zoom;
     if (zoom == TypeZooms::zoomStyleQr) {
         zoom_ = new StyleSelectorOrderSheet(brandQr_.brandQrTypes().value(brandQr_.brandQrTypePicker()),
                                             brandQr_.images(), brandQr_.currentBrand(), this);

@@ -58,7 +58,6 @@ public:
     [[nodiscard]] BrandQrForm* brandQr() { return &brandQr_; }
     [[nodiscard]] StyleAttributesModel* attributeTable() { return &attributeTable_; }
     [[nodiscard]] StyleSelectorOrderSheet* zoom() const { return zoom_; }
-    [[nodiscard]] TypeZooms zoomSelected() const { return zoomSelected_; }
     [[nodiscard]] bool isSectionStyleDigital() const { return context_.isSectionStyleDigital; }
     [[nodiscard]] int currentStyle() const { return currentStyle_; }
     [[nodiscard]] QString currentStyleName() const;
@@ -85,7 +84,6 @@ private:
     BrandQrForm brandQr_;
     StyleAttributesModel attributeTable_;
     StyleSelectorOrderSheet* zoom_ = nullptr;
-    TypeZooms zoomSelected_ = TypeZooms::zoomStyle;
     int currentStyle_ = 0;
     bool bannerVisible_ = false;
     NotificationCenter::Subscription bannerObserver_;

@@ -1,4 +1,4 @@
-#include "orders/DraftOrderRows.h"
+#include "orders/list/DraftOrderRows.h"
 
 #include "base/StopProcess.h"
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "brochures/engine/SaveBrochuresOrder.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/OrderList.h"
 #include "session/SectionIdentifier.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <optional>
 #include <string>

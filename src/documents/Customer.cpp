@@ -1,0 +1,5 @@
+#include "documents/Customer.h"
+
+#include "documents/DocumentTables.h"
+
+KAVOR_JSON_DOCUMENT(std::vector<kavor::Customer>)
