@@ -3,9 +3,9 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "device/PhotoPicker.h"
+#include "resources/PictureText.h"
 #include "screens/ResourceImages.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QRegularExpression>
 
@@ -21,17 +21,6 @@ constexpr int longestImageSide = 800; // pixels
 const QString attributeCell = QStringLiteral("attributeCell");
 const QString imageAttributeCell = QStringLiteral("imageAttributeCell");
 const QString pickerAttributeCell = QStringLiteral("pickerAttributeCell");
-
-std::string pngDataText(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    const bool large = std::max(image.width(), image.height()) > longestImageSide;
-    (large ? image.scaled(longestImageSide, longestImageSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-           : image)
-        .save(&buffer, "PNG");
-    return "data:image/png;base64," + bytes.toBase64().toStdString();
-}
 
 } // namespace
 
@@ -111,7 +100,7 @@ void StyleAttributesModel::switchImage(int row, bool on) {
         return setImage(row, *customer->imageLogo);
     photos_.pick(this, [this, style = styleId_, row](const std::optional<QImage>& image) {
         if (image && style == styleId_)
-            setImage(row, pngDataText(*image));
+            setImage(row, pngDataText(*image, longestImageSide));
     });
 }
 
