@@ -26,7 +26,9 @@ protected:
         picture.save(&buffer, "PNG");
         return "data:image/png;base64," + bytes.toBase64().toStdString();
     }
-    [[nodiscard]] std::string field(const char* name) const { return step->fieldText(name).toStdString(); }
+    [[nodiscard]] std::string field(const char* name) const {
+        return step->pointOfSale()->fieldText(name).toStdString();
+    }
 };
 
 TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
@@ -46,32 +48,33 @@ TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
         EXPECT_EQ(step->freeTextLabel().toStdString(), each.freeText);
         EXPECT_EQ(step->papeBrochureLabel().toStdString(), each.paper);
     }
-    EXPECT_EQ(step->tevoLabel(), "Código cliente");
-    EXPECT_EQ(step->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
+    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente");
+    EXPECT_EQ(step->pointOfSale()->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
     session.loginResult->customerCodeRequired = true;
-    EXPECT_EQ(step->tevoLabel(), "Código cliente*");
-    EXPECT_TRUE(step->tevoAviseLabel().startsWith("Si no introduces el código cliente REAL del PdV, "));
+    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente*");
+    EXPECT_TRUE(step->pointOfSale()->tevoAviseLabel().startsWith(
+        "Si no introduces el código cliente REAL del PdV, "));
 }
 
 TEST_F(ConfigurationTest, FieldsShowAsTheKindAllows) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 2; });
     open();
-    EXPECT_EQ(step->freeTextFields()->rowCount(), 2);
-    EXPECT_EQ(step->onlineFields()->rowCount(), 2);
+    EXPECT_EQ(step->pointOfSale()->freeTextFields()->rowCount(), 2);
+    EXPECT_EQ(step->pointOfSale()->onlineFields()->rowCount(), 2);
     enter(BrochureType::beer, [](Brochures::Type& type) {
         type.parameters->isRRSSAvailable = true;
         type.parameters->freeTextNumberOfFields = 7; // there are three
     });
     open();
-    EXPECT_EQ(step->freeTextFields()->rowCount(), 3);
-    EXPECT_EQ(step->onlineFields()->rowCount(), 5);
+    EXPECT_EQ(step->pointOfSale()->freeTextFields()->rowCount(), 3);
+    EXPECT_EQ(step->pointOfSale()->onlineFields()->rowCount(), 5);
 }
 
 TEST_F(ConfigurationTest, ALeftFieldIsInTheDraftAndTheCopyAndAnEmptyOneIsUnset) {
     open();
-    step->finishText("contactEmailTextField", "olmo@bar.example");
+    step->pointOfSale()->finishText("contactEmailTextField", "olmo@bar.example");
     EXPECT_EQ(temporaryCopy()->menu.customer.email, "olmo@bar.example");
-    step->finishText("contactEmailTextField", "");
+    step->pointOfSale()->finishText("contactEmailTextField", "");
     EXPECT_FALSE(draft().customerInformation->email);
     EXPECT_FALSE(temporaryCopy()->menu.customer.email);
 }
@@ -79,13 +82,13 @@ TEST_F(ConfigurationTest, ALeftFieldIsInTheDraftAndTheCopyAndAnEmptyOneIsUnset) 
 TEST_F(ConfigurationTest, ATextBeyondItsLimitIsMarkedInUserPerceivedCharacters) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 1; });
     open();
-    auto* fields = step->freeTextFields();
+    auto* fields = step->pointOfSale()->freeTextFields();
     const auto error = [&] {
         return fields->data(fields->index(0, 0), fields->roleNames().key("error")).toString();
     };
-    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(10));
+    step->pointOfSale()->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(10));
     EXPECT_EQ(error(), QString());
-    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(11));
+    step->pointOfSale()->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(11));
     EXPECT_EQ(error(), "11 de 10 caracteres");
 }
 
@@ -222,15 +225,15 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     found.imageLogo = png();
     found.priorityBrandIdentifiers = {11};
     open();
-    step->editText("tevoTextField", "B0001");
-    step->editText("contactTelephoneTextField", "600");
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->editText("tevoTextField", "B0001");
+    step->pointOfSale()->editText("contactTelephoneTextField", "600");
+    step->pointOfSale()->searchTEVOCodeAction();
     EXPECT_EQ(std::get<0>(network.requests.getCustomerDataFromTevoCode.calls.at(0)), "B0001");
     network.requests.getCustomerDataFromTevoCode.succeed({found});
     EXPECT_EQ(field("establishmentNameTextField"), "Bar Pino");
     EXPECT_EQ(field("tevoTextField"), "B0001");
     EXPECT_EQ(field("contactTelephoneTextField"), "");
-    EXPECT_EQ(step->attachLogoLabel(), "Logotipo");
+    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Logotipo");
     const Customer& kept = *draft().customerInformation;
     EXPECT_EQ(kept.id, 70);
     EXPECT_EQ(kept.priorityBrandIdentifiers, (std::vector<Int>{11}));
@@ -238,9 +241,9 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     EXPECT_EQ(kept.imageLogo, png());
 
     found.imageLogo.reset();
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->searchTEVOCodeAction();
     network.requests.getCustomerDataFromTevoCode.succeed({found});
-    EXPECT_EQ(step->attachLogoLabel(), "Añadir logotipo");
+    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Añadir logotipo");
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
@@ -251,22 +254,23 @@ TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhen
         bool stays;
     };
     const Case cases[] = {
-        {[&] { step->finishText("contactTelephoneTextField", "600"); }, true},
-        {[&] { step->finishText("tevoTextField", "B0001"); }, true}, // the field is left as it was
-        {[&] { step->finishText("tevoTextField", "B0002"); }, false},
-        {[&] { step->finishText("establishmentNameTextField", "Bar Roble"); }, false},
+        {[&] { step->pointOfSale()->finishText("contactTelephoneTextField", "600"); }, true},
+        {[&] { step->pointOfSale()->finishText("tevoTextField", "B0001"); },
+         true}, // the field is left as it was
+        {[&] { step->pointOfSale()->finishText("tevoTextField", "B0002"); }, false},
+        {[&] { step->pointOfSale()->finishText("establishmentNameTextField", "Bar Roble"); }, false},
         {[&] {
              open(); // the draft fills the form anew
-             step->finishText("establishmentNameTextField", "Bar Roble");
+             step->pointOfSale()->finishText("establishmentNameTextField", "Bar Roble");
          },
          false},
         {[&] {
-             step->searchTEVOCodeAction();
+             step->pointOfSale()->searchTEVOCodeAction();
              request.succeed({});
          },
          false},
         {[&] {
-             step->searchTEVOCodeAction();
+             step->pointOfSale()->searchTEVOCodeAction();
              request.fail(failureWith({"motivo"}));
          },
          true},
@@ -278,8 +282,8 @@ TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhen
     found.placeProvinceId = 72;
     found.priorityBrandIdentifiers = {11};
     for (const Case& each : cases) {
-        open().editText("tevoTextField", "B0001");
-        step->searchTEVOCodeAction();
+        open().pointOfSale()->editText("tevoTextField", "B0001");
+        step->pointOfSale()->searchTEVOCodeAction();
         request.succeed({found});
         each.action();
         const Customer& kept = *draft().customerInformation;
@@ -298,7 +302,7 @@ TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumber
         bool provinceStays;
     };
     const auto type = [this](const char* name, const char* text) {
-        return [this, name, text] { step->finishText(name, text); };
+        return [this, name, text] { step->pointOfSale()->finishText(name, text); };
     };
     const Case cases[] = {
         {type("municipalityTextField", "Getafe"), false, true},
@@ -307,13 +311,13 @@ TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumber
         {type("postalCodeTextField", "28002"), true, true},
         {[this] {
              geocoder.placemark = Placemark{"45001", "Toledo", "Toledo", std::nullopt};
-             step->locateDeviceAndFillFields();
+             step->pointOfSale()->locateDeviceAndFillFields();
              press("Sí");
          },
          false, false},
         {[this] {
              geocoder.placemark = Placemark{"28003", "Madrid", "Madrid", std::nullopt};
-             step->locateDeviceAndFillFields();
+             step->pointOfSale()->locateDeviceAndFillFields();
              press("Sí");
          },
          true, true},
@@ -355,9 +359,9 @@ TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVei
          }},
     };
     open();
-    step->editText("establishmentNameTextField", "Bar Olmo");
+    step->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
     for (const Case& each : cases) {
-        step->searchTEVOCodeAction();
+        step->pointOfSale()->searchTEVOCodeAction();
         EXPECT_TRUE(veil);
         each.answer();
         EXPECT_FALSE(veil);
@@ -366,7 +370,7 @@ TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVei
         EXPECT_EQ(field("establishmentNameTextField"), "Bar Olmo");
     }
     network.reachable = false;
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->searchTEVOCodeAction();
     EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
     EXPECT_EQ(request.calls.size(), 2U);
 }
@@ -380,7 +384,7 @@ TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
     step->previewAction();
     EXPECT_EQ(alert(), "Atencion | Has de informar de un código cliente.");
     EXPECT_EQ(previews, 0);
-    step->editText("tevoTextField", "B0001");
+    step->pointOfSale()->editText("tevoTextField", "B0001");
     step->previewAction();
     EXPECT_EQ(previews, 1);
 }
@@ -388,24 +392,24 @@ TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
 TEST_F(ConfigurationTest, TheLocationFillsTheAddressOnlyWhenTheUserAgrees) {
     open();
     geocoder.placemark = Placemark{"28001", "Madrid", "Comunidad de Madrid", std::nullopt};
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_EQ(alert(), "¿Desea utilizar la siguiente ubicación? | 28001, Madrid, Comunidad de Madrid");
     press("No");
     EXPECT_EQ(field("municipalityTextField"), "");
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     press("Sí");
     EXPECT_EQ(field("postalCodeTextField"), "28001");
     EXPECT_EQ(draft().customerInformation->placeProvinceName, "Comunidad de Madrid");
 
     geocoder.placemark.reset();
     geocoder.error = "no signal";
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_TRUE(alert().starts_with("Error | No se ha podido obtener la localización."));
     press("Reintentar");
     EXPECT_EQ(geocoder.asked.size(), 4U);
     press("Cancelar");
     locationService.available = false;
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_EQ(alert(), " | No se puede utilizar la ubicación, está deshabilitada.");
 }
 
@@ -413,13 +417,13 @@ TEST_F(ConfigurationTest, APhotoBecomesTheLogoNoLargerThanNeeded) {
     open();
     photos.photo = QImage(3000, 1500, QImage::Format_RGB32);
     photos.photo->fill(Qt::red);
-    step->searchLogoInGallery();
+    step->pointOfSale()->logo()->searchLogoInGallery();
     ASSERT_TRUE(
         waitFor([] { return draft().customerInformation && draft().customerInformation->imageLogo; }));
     const auto text = QByteArray::fromStdString(*draft().customerInformation->imageLogo);
     const auto logo = QImage::fromData(QByteArray::fromBase64(text.mid(text.indexOf(',') + 1)));
     EXPECT_EQ(logo.size(), QSize(1024, 512));
-    step->removeImageButonAction();
+    step->pointOfSale()->logo()->removeImageButonAction();
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 

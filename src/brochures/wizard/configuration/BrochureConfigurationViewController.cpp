@@ -1,47 +1,18 @@
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 
-#include "base/Log.h"
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/configuration/BlackboardFormatModel.h"
-#include "brochures/wizard/configuration/CustomerFieldModel.h"
 #include "catalogue/Catalogue.h"
-#include "device/Background.h"
-#include "device/PhotoPicker.h"
-#include "device/ReverseLocationManager.h"
-#include "interaction/Questions.h"
-#include "network/ServiceOperations.h"
-#include "network/ShowRequestFailure.h"
+#include "interaction/AlertPresenter.h"
 #include "session/AppSingleton.h"
 
-#include <QBuffer>
-#include <QImage>
-#include <QPointer>
 #include <QStringList>
 
 #include <algorithm>
 
 namespace kavor {
-
-namespace {
-
-constexpr int largestLogoSide = 1024; // pixels; the logo travels inside the order
-constexpr std::size_t everyField = 100;
-
-std::string logoOf(const QImage& photo) {
-    const QImage small =
-        std::max(photo.width(), photo.height()) > largestLogoSide
-            ? photo.scaled(largestLogoSide, largestLogoSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-            : photo;
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    small.save(&buffer, "PNG");
-    return CustomerForm::dataText(png);
-}
-
-} // namespace
 
 int BrochureConfigurationViewController::Options::indexOf(std::optional<Int> id) const {
     const auto found = id ? std::ranges::find(ids, *id) : ids.end();
@@ -58,9 +29,11 @@ BrochureConfigurationViewController::BrochureConfigurationViewController(const W
     , services_(services)
     , catalogue_(AppSingleton::shared().applicationInformation)
     , draft_(BrochureIntermediateData::temporalBrochure())
+    , pointOfSale_({services.network, services.alerts, services.urls, services.photos, services.location})
     , orientationElements_(new BlackboardFormatModel(this)) {
     if (!catalogue_)
         stopProcess("the catalogue of the configuration step");
+    connect(&pointOfSale_, &PointOfSaleForm::edited, this, &BrochureConfigurationViewController::commit);
 }
 
 BrochureConfigurationViewController::~BrochureConfigurationViewController() = default;
@@ -79,15 +52,14 @@ void BrochureConfigurationViewController::viewDidLoad() {
         isSecondPriceTypeInputAllowed_ = sectionBrochureType(*catalogue_)->isSecondBrochuresPriceAllowed;
     }
     fillOptions();
-    buildFieldModels();
+    pointOfSale_.show(pointOfSaleFields(), catalogue_->information().validations);
     if (isOrientationPaneVisible())
         orientationElements_->show(catalogue_, draft_);
 }
 
 void BrochureConfigurationViewController::viewWillAppear() {
     applyFixedSwitches();
-    form_.fill(draft_->customerInformation.value_or(Customer{}));
-    allTextsChanged();
+    pointOfSale_.fill(draft_->customerInformation.value_or(Customer{}));
     emit languagesChanged();
     emit secondPriceChanged();
     emit switchesChanged();
@@ -130,20 +102,16 @@ void BrochureConfigurationViewController::fillOptions() {
     }
 }
 
-void BrochureConfigurationViewController::buildFieldModels() {
-    const Validations& validations = catalogue_->information().validations;
-    const auto model = [&] { return new CustomerFieldModel(form_, validations, this); };
-    contactFields_ = model();
-    contactFields_->append(CustomerFieldGroup::contact, everyField);
-    placeFields_ = model();
-    placeFields_->append(CustomerFieldGroup::place, everyField);
-    onlineFields_ = model();
-    onlineFields_->append(CustomerFieldGroup::online, everyField);
+PointOfSaleFields BrochureConfigurationViewController::pointOfSaleFields() const {
+    using Group = CustomerFieldGroup;
+    PointOfSaleFields fields{
+        CustomerForm::fieldsOf(Group::contact), CustomerForm::fieldsOf(Group::place),
+        CustomerForm::fieldsOf(Group::online),
+        CustomerForm::fieldsOf(Group::freeText,
+                               std::size_t(std::max<Int>(0, parameters_.freeTextNumberOfFields)))};
     if (parameters_.isRRSSAvailable)
-        onlineFields_->append(CustomerFieldGroup::social, everyField);
-    freeTextFields_ = model();
-    freeTextFields_->append(CustomerFieldGroup::freeText,
-                            std::size_t(std::max<Int>(0, parameters_.freeTextNumberOfFields)));
+        std::ranges::copy(CustomerForm::fieldsOf(Group::social), std::back_inserter(fields.online));
+    return fields;
 }
 
 // What can't be seen has a fixed state: the paper brochure is on, a digital one that isn't on offer is off.
@@ -168,7 +136,7 @@ void BrochureConfigurationViewController::applyFixedSwitches() {
 
 void BrochureConfigurationViewController::serializeAutoSave() {
     Customer customer = draft_->customerInformation.value_or(Customer{});
-    form_.apply(customer);
+    pointOfSale_.apply(customer);
     draft_->customerInformation = std::move(customer);
     applyFixedSwitches();
     const auto chosen = draft_->currentLanguages();
@@ -182,133 +150,8 @@ void BrochureConfigurationViewController::commit() {
     emit committed();
 }
 
-// ---- Point of sale
-// ---------------------------------------------------------------------------------------------
-
-void BrochureConfigurationViewController::editText(const QString& field, const QString& value) {
-    const std::string name = field.toStdString();
-    if (!form_.editText(name, value))
-        return;
-    for (auto* model : {contactFields_, placeFields_, onlineFields_, freeTextFields_})
-        model->textChanged(name);
-    if (name == "tevoTextField")
-        emit tevoChanged();
-}
-
-void BrochureConfigurationViewController::finishText(const QString& field, const QString& value) {
-    editText(field, value);
-    commit();
-}
-
-void BrochureConfigurationViewController::allTextsChanged() {
-    for (auto* model : {contactFields_, placeFields_, onlineFields_, freeTextFields_})
-        model->allTextsChanged();
-    emit tevoChanged();
-    emit logoChanged();
-}
-
-void BrochureConfigurationViewController::searchTEVOCodeAction() {
-    if (!services_.network.isReachable()) {
-        informOffline(services_.alerts);
-        return;
-    }
-    services_.network.getCustomerDataFromTevoCode(
-        tevo(), {wait_.begin("Buscando el cliente…"),
-                 [this](const std::vector<Customer>& customers) {
-                     wait_.end();
-                     fillFrom(customers);
-                 },
-                 [this](const RequestFailure& failure) {
-                     wait_.end();
-                     showRequestFailure({services_.alerts, services_.urls}, {}, failure, true,
-                                        QStringLiteral("Incidencia"));
-                 }});
-}
-
-void BrochureConfigurationViewController::fillFrom(const std::vector<Customer>& customers) {
-    if (customers.empty()) {
-        form_.forgetLookup();
-        commit();
-        ask(services_.alerts, this, QStringLiteral("Información"),
-            QStringLiteral("No se ha encontrado ningún cliente asociado al código TEVO introducido.\n"
-                           "Deberás completar la información para este Punto de Venta en esta pantalla."),
-            {{QStringLiteral("Ok"), AlertButton::Role::Cancel, {}}});
-        return;
-    }
-    form_.fillFromLookup(customers.front());
-    allTextsChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::locateDeviceAndFillFields() {
-    startLocation(wait_.begin("Buscando la ubicación…"));
-}
-
-void BrochureConfigurationViewController::startLocation(QObject* run) {
-    if (services_.location) {
-        services_.location->onReverseHandler = [this,
-                                                guard = QPointer(run)](const std::optional<Placemark>& place,
-                                                                       const std::optional<QString>& error) {
-            if (!guard || (!place && !error))
-                return;
-            wait_.end();
-            if (place)
-                return confirmPlace(*place);
-            ask(services_.alerts, this, QStringLiteral("Error"),
-                QStringLiteral("No se ha podido obtener la localización. Habilite los permisos de "
-                               "ubicación para la app."),
-                {{QStringLiteral("Reintentar"), AlertButton::Role::Cancel,
-                  [this] { locateDeviceAndFillFields(); }},
-                 {QStringLiteral("Cancelar"), AlertButton::Role::Normal, {}}});
-        };
-        if (services_.location->start())
-            return;
-    }
-    wait_.end();
-    services_.alerts.inform({}, QStringLiteral("No se puede utilizar la ubicación, está deshabilitada."));
-}
-
-void BrochureConfigurationViewController::confirmPlace(const Placemark& place) {
-    QStringList parts;
-    for (const auto& part : {place.postalCode, place.locality, place.state}) {
-        if (part && !part->isEmpty())
-            parts.append(*part);
-    }
-    const auto taken = [this, place] {
-        form_.editText("postalCodeTextField", place.postalCode.value_or(QString()));
-        form_.editText("municipalityTextField", place.locality.value_or(QString()));
-        form_.editText("provinceTextField", place.state.value_or(QString()));
-        allTextsChanged();
-        commit();
-    };
-    ask(services_.alerts, this, QStringLiteral("¿Desea utilizar la siguiente ubicación?"),
-        parts.join(QStringLiteral(", ")), {yes(taken), no()});
-}
-
-void BrochureConfigurationViewController::searchLogoInGallery() {
-    const bool opened = services_.photos.pick(this, [this](const std::optional<QImage>& photo) {
-        if (!photo)
-            return;
-        runInBackground(
-            this, [image = *photo] { return logoOf(image); },
-            [this](std::string logo) { setLogo(std::move(logo)); });
-    });
-    if (!opened)
-        logLine("Can't open the gallery");
-}
-
-void BrochureConfigurationViewController::removeImageButonAction() {
-    setLogo({});
-}
-
-void BrochureConfigurationViewController::setLogo(std::string dataText) {
-    form_.setImageLogo(std::move(dataText));
-    emit logoChanged();
-    commit();
-}
-
 void BrochureConfigurationViewController::previewAction() {
-    if (isCustomerCodeRequired() && tevo().isEmpty()) {
+    if (pointOfSale_.isCustomerCodeRequired() && pointOfSale_.tevo().isEmpty()) {
         // The title has no accent on purpose.
         services_.alerts.inform(QStringLiteral("Atencion"),
                                 QStringLiteral("Has de informar de un código cliente."));
@@ -469,24 +312,6 @@ void BrochureConfigurationViewController::formatSelected(qint64 identifier) {
 // ---- What the view shows
 // ---------------------------------------------------------------------------------------
 
-QString BrochureConfigurationViewController::tevoLabel() const {
-    return isCustomerCodeRequired() ? QStringLiteral("Código cliente*") : QStringLiteral("Código cliente");
-}
-
-QString BrochureConfigurationViewController::tevoAviseLabel() const {
-    return isCustomerCodeRequired()
-               ? QStringLiteral(
-                     "Si no introduces el código cliente REAL del PdV, los datos del cliente y de sus cartas "
-                     "no se volcarán correctamente provocando errores. Por favor, asegúrate antes de cursar "
-                     "el pedido.")
-               : QStringLiteral("Si no conoces el código cliente, no lo informes.");
-}
-
-bool BrochureConfigurationViewController::isCustomerCodeRequired() const {
-    const auto& login = AppSingleton::shared().loginResult;
-    return login && login->customerCodeRequired.value_or(false);
-}
-
 QString BrochureConfigurationViewController::freeTextLabel() const {
     return type_ == BrochureType::chalkboard || type_ == BrochureType::mantel
                ? QStringLiteral("Texto libre (se mostrará debajo del título)")
@@ -499,33 +324,10 @@ QString BrochureConfigurationViewController::papeBrochureLabel() const {
                                                : QStringLiteral("Carta Impresa en papel"));
 }
 
-QString BrochureConfigurationViewController::attachLogoLabel() const {
-    return form_.imageLogo().empty() ? QStringLiteral("Añadir logotipo") : QStringLiteral("Logotipo");
-}
-
-QString BrochureConfigurationViewController::imageLogo() const {
-    return fromUtf8(form_.imageLogo());
-}
-
-QAbstractItemModel* BrochureConfigurationViewController::contactFields() const {
-    return contactFields_;
-}
-QAbstractItemModel* BrochureConfigurationViewController::placeFields() const {
-    return placeFields_;
-}
-QAbstractItemModel* BrochureConfigurationViewController::onlineFields() const {
-    return onlineFields_;
-}
-QAbstractItemModel* BrochureConfigurationViewController::freeTextFields() const {
-    return freeTextFields_;
-}
 QAbstractItemModel* BrochureConfigurationViewController::orientationElements() const {
     return orientationElements_;
 }
 
-bool BrochureConfigurationViewController::isFreeTextVisible() const {
-    return freeTextFields_->rowCount() > 0;
-}
 bool BrochureConfigurationViewController::isPaperOn() const {
     return draft_->includePaperBrochure;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "brochures/wizard/WizardStep.h"
-#include "brochures/wizard/configuration/CustomerForm.h"
 #include "catalogue/Brochures.h"
-#include "interaction/VeiledRun.h"
+#include "screens/pointofsale/PointOfSaleForm.h"
 
 #include <QAbstractItemModel>
 #include <QQmlEngine>
@@ -18,8 +17,6 @@ namespace kavor {
 class BlackboardFormatModel;
 class BrochureIntermediateData;
 class Catalogue;
-class CustomerFieldModel;
-struct Placemark;
 
 // What the format elements of a chalkboard tell.
 class SelectFormatDelegate {
@@ -38,18 +35,9 @@ class BrochureConfigurationViewController : public kavor::WizardStepViewControll
     QML_UNCREATABLE("made by the wizard")
 
     // The point of sale
-    Q_PROPERTY(QString tevoLabel READ tevoLabel CONSTANT)
-    Q_PROPERTY(QString tevoAviseLabel READ tevoAviseLabel CONSTANT)
-    Q_PROPERTY(bool customerCodeRequired READ isCustomerCodeRequired CONSTANT)
-    Q_PROPERTY(QString tevo READ tevo NOTIFY tevoChanged)
-    Q_PROPERTY(QAbstractItemModel* contactFields READ contactFields CONSTANT)
-    Q_PROPERTY(QAbstractItemModel* placeFields READ placeFields CONSTANT)
-    Q_PROPERTY(QAbstractItemModel* onlineFields READ onlineFields CONSTANT)
-    Q_PROPERTY(QAbstractItemModel* freeTextFields READ freeTextFields CONSTANT)
+    Q_PROPERTY(kavor::PointOfSaleForm* pointOfSale READ pointOfSale CONSTANT)
     Q_PROPERTY(QString freeTextLabel READ freeTextLabel CONSTANT)
     Q_PROPERTY(bool freeTextVisible READ isFreeTextVisible CONSTANT)
-    Q_PROPERTY(QString imageLogo READ imageLogo NOTIFY logoChanged)
-    Q_PROPERTY(QString attachLogoLabel READ attachLogoLabel NOTIFY logoChanged)
 
     // Languages and second price
     Q_PROPERTY(QStringList languages READ languages CONSTANT)
@@ -95,13 +83,6 @@ public:
     void viewWillAppear() override;
     void serializeAutoSave() override;
 
-    // The text of a field, by the outlet's name, while it is typed and when the field is left.
-    Q_INVOKABLE void editText(const QString& field, const QString& text);
-    Q_INVOKABLE void finishText(const QString& field, const QString& text);
-    Q_INVOKABLE void searchTEVOCodeAction();
-    Q_INVOKABLE void locateDeviceAndFillFields();
-    Q_INVOKABLE void searchLogoInGallery();
-    Q_INVOKABLE void removeImageButonAction(); // spelt so in the screen's design
     Q_INVOKABLE void previewAction();
 
     // Pickers answer by their index.
@@ -118,19 +99,9 @@ public:
     Q_INVOKABLE void switchDigitalBrochureDemand(bool on);
     Q_INVOKABLE void switchIncludeQr(bool on);
 
-    [[nodiscard]] QString tevoLabel() const;
-    [[nodiscard]] QString tevoAviseLabel() const;
-    [[nodiscard]] bool isCustomerCodeRequired() const;
-    [[nodiscard]] QString tevo() const { return form_.text("tevoTextField"); }
-    [[nodiscard]] QString fieldText(const QString& field) const { return form_.text(field.toStdString()); }
-    [[nodiscard]] QAbstractItemModel* contactFields() const;
-    [[nodiscard]] QAbstractItemModel* placeFields() const;
-    [[nodiscard]] QAbstractItemModel* onlineFields() const;
-    [[nodiscard]] QAbstractItemModel* freeTextFields() const;
+    [[nodiscard]] PointOfSaleForm* pointOfSale() { return &pointOfSale_; }
     [[nodiscard]] QString freeTextLabel() const;
-    [[nodiscard]] bool isFreeTextVisible() const;
-    [[nodiscard]] QString imageLogo() const;
-    [[nodiscard]] QString attachLogoLabel() const;
+    [[nodiscard]] bool isFreeTextVisible() const { return !pointOfSaleFields().freeText.empty(); }
 
     [[nodiscard]] const QStringList& languages() const { return languages_.names; }
     [[nodiscard]] int mainLanguage() const;
@@ -163,8 +134,6 @@ public:
     [[nodiscard]] int blackboardType() const;
 
 signals:
-    void tevoChanged();
-    void logoChanged();
     void languagesChanged();
     void secondPriceChanged();
     void switchesChanged();
@@ -188,28 +157,18 @@ private:
     static Options sortedOptions(const std::vector<Record>& records);
     [[nodiscard]] Options otherLanguages() const; // without the main one
     void fillOptions();
-    void buildFieldModels();
+    [[nodiscard]] PointOfSaleFields pointOfSaleFields() const;
     void applyFixedSwitches();
     void commit();
-    void allTextsChanged();
-    void fillFrom(const std::vector<Customer>& customers);
-    void startLocation(QObject* run);
-    void confirmPlace(const Placemark& place);
-    void setLogo(std::string dataText);
     void tellAboutDemand();
 
     WizardServices services_;
-    VeiledRun wait_;
     std::shared_ptr<const Catalogue> catalogue_;
     std::shared_ptr<BrochureIntermediateData> draft_;
     std::optional<BrochureType> type_;
     Brochures::Type::Parameters parameters_;
     bool isSecondPriceTypeInputAllowed_ = false;
-    CustomerForm form_;
-    CustomerFieldModel* contactFields_ = nullptr;
-    CustomerFieldModel* placeFields_ = nullptr;
-    CustomerFieldModel* onlineFields_ = nullptr;
-    CustomerFieldModel* freeTextFields_ = nullptr;
+    PointOfSaleForm pointOfSale_;
     BlackboardFormatModel* orientationElements_ = nullptr;
     Options languages_;
     Options prices_;
