@@ -46,7 +46,7 @@ TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
         enter(each.type);
         open();
         EXPECT_EQ(step->freeTextLabel().toStdString(), each.freeText);
-        EXPECT_EQ(step->papeBrochureLabel().toStdString(), each.paper);
+        EXPECT_EQ(step->formats()->papeBrochureLabel().toStdString(), each.paper);
     }
     EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente");
     EXPECT_EQ(step->pointOfSale()->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
@@ -98,17 +98,17 @@ TEST_F(ConfigurationTest, SwitchesDecideTheDraftAndKeepTheirWorkingValues) {
         type.parameters->allowNotSelectPaperBrouchure = true;
     });
     open();
-    step->switchPaperBrochure(false);
+    step->formats()->switchPaperBrochure(false);
     EXPECT_FALSE(draft().includePaperBrochure);
     EXPECT_FALSE(draft().includePaperBrochureTmp);
-    step->switchDigitalBrochure(false); // takes the QR material with it
+    step->formats()->switchDigitalBrochure(false); // takes the QR material with it
     EXPECT_FALSE(draft().includeDigitalBrochure);
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_TRUE(draft().printDigitalBrochureTmp);
-    EXPECT_TRUE(step->isDemandOn());
-    step->switchDigitalBrochure(true);
+    EXPECT_TRUE(step->formats()->isDemandOn());
+    step->formats()->switchDigitalBrochure(true);
     EXPECT_TRUE(draft().printDigitalBrochure);
-    step->switchDigitalBrochureDemand(false);
+    step->formats()->switchDigitalBrochureDemand(false);
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_FALSE(temporaryCopy()->printDigitalBrochure);
     EXPECT_FALSE(alerts.isVisible());
@@ -121,22 +121,22 @@ TEST_F(ConfigurationTest, PaperTogetherWithPrintedQrIsConfirmedOncePerChange) {
     });
     open();
     EXPECT_FALSE(alerts.isVisible());
-    step->switchPaperBrochure(true);
+    step->formats()->switchPaperBrochure(true);
     EXPECT_TRUE(alert().starts_with(
         "Información | Has solicitado carta impresa en papel y carta digital con impresión "
         "de QRs.\nAl pulsar 'Aceptar' confirmas"));
     EXPECT_TRUE(press("Aceptar"));
     EXPECT_FALSE(alerts.isVisible());
-    step->switchDigitalBrochureDemand(true);
+    step->formats()->switchDigitalBrochureDemand(true);
     EXPECT_TRUE(press("Aceptar"));
 }
 
 TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
     draft().includePaperBrochure = false;
     open();
-    EXPECT_FALSE(step->isPaperVisible());
+    EXPECT_FALSE(step->formats()->isPaperVisible());
     EXPECT_TRUE(draft().includePaperBrochure);
-    EXPECT_FALSE(step->isDigitalVisible());
+    EXPECT_FALSE(step->formats()->isDigitalVisible());
     EXPECT_FALSE(draft().includeDigitalBrochure); // or no such kind could ever be sent
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_TRUE(draft().includeDigitalBrochureTmp);
@@ -145,14 +145,14 @@ TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
 TEST_F(ConfigurationTest, LanguagesAreThoseOfTheKindByPosition) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
     open();
-    EXPECT_EQ(step->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
-    step->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
+    EXPECT_EQ(step->languages()->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
+    step->languages()->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
     EXPECT_FALSE(draft().selectedLanguageIdentifiers);
-    step->chooseMainLanguage(2);
-    step->chooseSecondaryLanguage(1);
+    step->languages()->chooseMainLanguage(2);
+    step->languages()->chooseSecondaryLanguage(1);
     EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, 1}));
-    EXPECT_EQ(step->secondaryLanguage(), 1);
-    step->chooseSecondaryLanguage(0);
+    EXPECT_EQ(step->languages()->secondaryLanguage(), 1);
+    step->languages()->chooseSecondaryLanguage(0);
     EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, std::nullopt}));
 }
 
@@ -160,17 +160,18 @@ TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
     using Languages = BrochureIntermediateData::MainAndSecondary;
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
     open();
-    step->chooseMainLanguage(1);
-    EXPECT_EQ(step->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
-    step->chooseSecondaryLanguage(2);
+    step->languages()->chooseMainLanguage(1);
+    EXPECT_EQ(step->languages()->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
+    step->languages()->chooseSecondaryLanguage(2);
     EXPECT_EQ(draft().currentLanguages(), (Languages{2, 3}));
-    step->chooseMainLanguage(2); // the two change places
+    step->languages()->chooseMainLanguage(2); // the two change places
     EXPECT_EQ(draft().currentLanguages(), (Languages{3, 2}));
-    EXPECT_EQ(step->secondaryLanguages().value(step->secondaryLanguage()), "Catalán");
-    step->chooseMainLanguage(0);
+    EXPECT_EQ(step->languages()->secondaryLanguages().value(step->languages()->secondaryLanguage()),
+              "Catalán");
+    step->languages()->chooseMainLanguage(0);
     EXPECT_EQ(draft().currentLanguages(), (Languages{1, 2}));
     draft().setLanguages(1, 1); // an order from elsewhere
-    EXPECT_EQ(step->secondaryLanguage(), 0);
+    EXPECT_EQ(step->languages()->secondaryLanguage(), 0);
     step->serializeAutoSave();
     EXPECT_EQ(draft().currentLanguages(), (Languages{1, std::nullopt}));
 }
@@ -178,42 +179,42 @@ TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
 TEST_F(ConfigurationTest, ASecondPriceStartsWithTheFirstListAndChoosingItAgainKeepsWhatWasTyped) {
     open();
     draft().setFormatSelected(true, knownFormat, knownBrand);
-    EXPECT_EQ(step->priceTypes(), (QStringList{"Terraza", "Noche"}));
-    step->chooseSecondPrice(true);
+    EXPECT_EQ(step->secondPrice()->priceTypes(), (QStringList{"Terraza", "Noche"}));
+    step->secondPrice()->chooseSecondPrice(true);
     EXPECT_EQ(draft().currentSecondPrice(), PriceType::terrace);
     draft().setPrice(PriceType::terrace, knownFormat, knownBrand, 3.5);
-    step->choosePriceType(0);
+    step->secondPrice()->choosePriceType(0);
     EXPECT_EQ(draft().priceOf(PriceType::terrace, knownFormat, knownBrand), 3.5);
-    step->choosePriceType(1);
+    step->secondPrice()->choosePriceType(1);
     EXPECT_EQ(draft().priceOf(PriceType::night, knownFormat, knownBrand), 2.0);
-    step->chooseSecondPrice(false);
+    step->secondPrice()->chooseSecondPrice(false);
     EXPECT_FALSE(draft().currentSecondPrice());
 }
 
 TEST_F(ConfigurationTest, AChalkboardStartsOnTheDefaultTypeAndItsElementsChooseTheFormat) {
     enter(BrochureType::chalkboard);
     open();
-    EXPECT_TRUE(step->isOrientationPaneVisible());
+    EXPECT_TRUE(step->chalkboard()->isOrientationPaneVisible());
     EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 31);
-    step->chooseBlackboardType(0);
+    step->chalkboard()->chooseBlackboardType(0);
     EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 30);
-    step->formatSelected(21);
+    step->chalkboard()->formatSelected(21);
     EXPECT_EQ(draft().selectedFormatIdentifier, 21);
     EXPECT_EQ(temporaryCopy()->menu.orientation, 21);
 
     enter(BrochureType::beer);
     BrochureIntermediateData::replaceTemporalBrochure();
     open();
-    EXPECT_FALSE(step->isOrientationPaneVisible());
+    EXPECT_FALSE(step->chalkboard()->isOrientationPaneVisible());
     EXPECT_FALSE(draft().selectedBlackboardTypeIdentifier);
 }
 
 TEST_F(ConfigurationTest, VisualFormatsAreSortedAndGoToTheDraft) {
     open();
-    EXPECT_EQ(step->menuFormats(), (QStringList{"Lista", "Completa"}));
-    step->chooseMenuFormat(1);
+    EXPECT_EQ(step->formats()->menuFormats(), (QStringList{"Lista", "Completa"}));
+    step->formats()->chooseMenuFormat(1);
     EXPECT_EQ(draft().selectedFormatVisualizeId, 1);
-    EXPECT_EQ(step->menuFormat(), 1);
+    EXPECT_EQ(step->formats()->menuFormat(), 1);
 }
 
 TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {

@@ -196,7 +196,7 @@ TEST_F(MenuTest, ALookIntoAnotherTileLeavesTheDigitalMenuAsItWasChosen) {
     enter(BrochureType::beer, digital);
     const Menu menu(services);
     EXPECT_EQ(configuration(menu)->pointOfSale()->fieldText("establishmentNameTextField"), "Bar Olmo");
-    EXPECT_TRUE(configuration(menu)->isDigitalOn());
+    EXPECT_TRUE(configuration(menu)->formats()->isDigitalOn());
     EXPECT_EQ(draft().selectedStyleDigitalIdentifier, 5);
 }
 

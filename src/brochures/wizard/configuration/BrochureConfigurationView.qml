@@ -34,17 +34,18 @@ FormPage {
 
         LanguagesCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.controller.languages
+            secondPrice: page.controller.secondPrice
         }
         Loader {
             Layout.fillWidth: true
-            active: page.controller.orientationPaneVisible
+            active: page.controller.chalkboard.orientationPaneVisible
             visible: active
-            sourceComponent: ChalkboardCard { controller: page.controller }
+            sourceComponent: ChalkboardCard { form: page.controller.chalkboard }
         }
         BrochureFormCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.controller.formats
         }
     }
 

@@ -3,37 +3,33 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-#include "brochures/wizard/configuration/BlackboardFormatModel.h"
-#include "catalogue/Catalogue.h"
 #include "interaction/AlertPresenter.h"
 #include "session/AppSingleton.h"
 
-#include <QStringList>
-
 #include <algorithm>
+#include <iterator>
 
 namespace kavor {
-
-int BrochureConfigurationViewController::Options::indexOf(std::optional<Int> id) const {
-    const auto found = id ? std::ranges::find(ids, *id) : ids.end();
-    return found == ids.end() ? -1 : int(found - ids.begin());
-}
-
-std::optional<Int> BrochureConfigurationViewController::Options::idAt(int index) const {
-    return index >= 0 && index < int(ids.size()) ? std::optional(ids[std::size_t(index)]) : std::nullopt;
-}
 
 BrochureConfigurationViewController::BrochureConfigurationViewController(const WizardServices& services,
                                                                          QObject* parent)
     : WizardStepViewController(parent)
-    , services_(services)
-    , catalogue_(AppSingleton::shared().applicationInformation)
-    , draft_(BrochureIntermediateData::temporalBrochure())
+    , alerts_(services.alerts)
     , pointOfSale_({services.network, services.alerts, services.urls, services.photos, services.location})
-    , orientationElements_(new BlackboardFormatModel(this)) {
-    if (!catalogue_)
+    , formats_(services.alerts) {
+    context_.catalogue = AppSingleton::shared().applicationInformation;
+    context_.draft = BrochureIntermediateData::temporalBrochure();
+    if (!context_.catalogue)
         stopProcess("the catalogue of the configuration step");
-    connect(&pointOfSale_, &PointOfSaleForm::edited, this, &BrochureConfigurationViewController::commit);
+    const auto commits = [this](auto* form) {
+        using Form = std::remove_pointer_t<decltype(form)>;
+        connect(form, &Form::edited, this, &BrochureConfigurationViewController::commit);
+    };
+    commits(&pointOfSale_);
+    commits(&languages_);
+    commits(&secondPrice_);
+    commits(&formats_);
+    commits(&chalkboard_);
 }
 
 BrochureConfigurationViewController::~BrochureConfigurationViewController() = default;
@@ -42,329 +38,71 @@ QUrl BrochureConfigurationViewController::view() const {
     return stepView(QStringLiteral("BrochureConfigurationView.qml"));
 }
 
-// ---- Loading
-// ---------------------------------------------------------------------------------------------------
-
 void BrochureConfigurationViewController::viewDidLoad() {
-    type_ = AppSingleton::shared().brochureType();
-    if (const auto* parameters = sectionParameters(*catalogue_)) {
-        parameters_ = *parameters;
-        isSecondPriceTypeInputAllowed_ = sectionBrochureType(*catalogue_)->isSecondBrochuresPriceAllowed;
+    context_.type = AppSingleton::shared().brochureType();
+    if (const auto* parameters = sectionParameters(*context_.catalogue)) {
+        context_.parameters = *parameters;
+        context_.isSecondBrochuresPriceAllowed =
+            sectionBrochureType(*context_.catalogue)->isSecondBrochuresPriceAllowed;
     }
-    fillOptions();
-    pointOfSale_.show(pointOfSaleFields(), catalogue_->information().validations);
-    if (isOrientationPaneVisible())
-        orientationElements_->show(catalogue_, draft_);
+    pointOfSale_.show(pointOfSaleFields(), context_.catalogue->information().validations);
+    languages_.load(context_);
+    secondPrice_.load(context_);
+    formats_.load(context_);
+    chalkboard_.load(context_);
 }
 
 void BrochureConfigurationViewController::viewWillAppear() {
-    applyFixedSwitches();
-    pointOfSale_.fill(draft_->customerInformation.value_or(Customer{}));
-    emit languagesChanged();
-    emit secondPriceChanged();
-    emit switchesChanged();
-    emit formatsChanged();
-}
-
-template <class Record>
-BrochureConfigurationViewController::Options
-BrochureConfigurationViewController::sortedOptions(const std::vector<Record>& records) {
-    std::vector<const Record*> sorted;
-    sorted.reserve(records.size());
-    for (const Record& record : records)
-        sorted.push_back(&record);
-    std::ranges::stable_sort(sorted, {}, &Record::position);
-    Options options;
-    for (const Record* record : sorted) {
-        options.ids.push_back(record->id);
-        options.names.append(fromUtf8(record->name));
-    }
-    return options;
-}
-
-void BrochureConfigurationViewController::fillOptions() {
-    const Brochures& brochures = catalogue_->brochures();
-    auto languages = brochures.languages;
-    std::erase_if(languages, [this](const Brochures::Language& language) {
-        return type_ && std::ranges::none_of(language.orderTypes,
-                                             [this](const auto& kind) { return kind.id == Int(*type_); });
-    });
-    languages_ = sortedOptions(languages);
-    menuFormats_ = sortedOptions(brochures.menuFormatVisualize);
-    wineFormats_ = sortedOptions(brochures.menuWineFormatVisualize);
-    blackboardTypes_ = sortedOptions(brochures.blackboardTypes);
-    for (const Brochures::Price& price : brochures.prices) {
-        if (price.id ==
-            PriceType::main) // the first column is always there; it can't be the second one as well
-            continue;
-        prices_.ids.push_back(Int(price.id));
-        prices_.names.append(fromUtf8(price.name));
-    }
+    formats_.serialize();
+    chalkboard_.serialize();
+    pointOfSale_.fill(context_.draft->customerInformation.value_or(Customer{}));
+    emit languages_.changed();
+    emit secondPrice_.changed();
+    emit formats_.switchesChanged();
+    emit formats_.formatsChanged();
+    emit chalkboard_.changed();
 }
 
 PointOfSaleFields BrochureConfigurationViewController::pointOfSaleFields() const {
     using Group = CustomerFieldGroup;
-    PointOfSaleFields fields{
-        CustomerForm::fieldsOf(Group::contact), CustomerForm::fieldsOf(Group::place),
-        CustomerForm::fieldsOf(Group::online),
-        CustomerForm::fieldsOf(Group::freeText,
-                               std::size_t(std::max<Int>(0, parameters_.freeTextNumberOfFields)))};
-    if (parameters_.isRRSSAvailable)
+    const auto freeTexts = std::size_t(std::max<Int>(0, context_.parameters.freeTextNumberOfFields));
+    PointOfSaleFields fields{CustomerForm::fieldsOf(Group::contact), CustomerForm::fieldsOf(Group::place),
+                             CustomerForm::fieldsOf(Group::online),
+                             CustomerForm::fieldsOf(Group::freeText, freeTexts)};
+    if (context_.parameters.isRRSSAvailable)
         std::ranges::copy(CustomerForm::fieldsOf(Group::social), std::back_inserter(fields.online));
     return fields;
 }
 
-// What can't be seen has a fixed state: the paper brochure is on, a digital one that isn't on offer is off.
-// The working values keep what the user chose elsewhere. A chalkboard's picker starts on the default type.
-void BrochureConfigurationViewController::applyFixedSwitches() {
-    if (!type_)
-        return;
-    if (!isPaperVisible())
-        draft_->includePaperBrochure = true;
-    if (!isDigitalVisible())
-        draft_->includeDigitalBrochure = draft_->printDigitalBrochure = false;
-    if (!isOrientationPaneVisible() || draft_->currentBlackboardType())
-        return;
-    const auto& types = catalogue_->brochures().blackboardTypes;
-    if (const auto found = std::ranges::find(types, true, &Brochures::BlackBoardType::isDefault);
-        found != types.end())
-        draft_->setBlackboardType(found->id);
-}
-
-// ---- Into the draft
-// --------------------------------------------------------------------------------------------
-
 void BrochureConfigurationViewController::serializeAutoSave() {
-    Customer customer = draft_->customerInformation.value_or(Customer{});
+    Customer customer = context_.draft->customerInformation.value_or(Customer{});
     pointOfSale_.apply(customer);
-    draft_->customerInformation = std::move(customer);
-    applyFixedSwitches();
-    const auto chosen = draft_->currentLanguages();
-    if (chosen && chosen->secondary && (!isSecondLanguageVisible() || chosen->secondary == chosen->main))
-        draft_->setLanguages(chosen->main, std::nullopt);
+    context_.draft->customerInformation = std::move(customer);
+    formats_.serialize();
+    chalkboard_.serialize();
+    languages_.serialize();
 }
 
 void BrochureConfigurationViewController::commit() {
     serializeAutoSave();
-    autosave(draft_);
+    autosave(context_.draft);
     emit committed();
 }
 
 void BrochureConfigurationViewController::previewAction() {
     if (pointOfSale_.isCustomerCodeRequired() && pointOfSale_.tevo().isEmpty()) {
         // The title has no accent on purpose.
-        services_.alerts.inform(QStringLiteral("Atencion"),
-                                QStringLiteral("Has de informar de un código cliente."));
+        alerts_.inform(QStringLiteral("Atencion"), QStringLiteral("Has de informar de un código cliente."));
         return;
     }
     commit();
     emit previewSegueRequested();
 }
 
-// ---- Languages and second price
-// --------------------------------------------------------------------------------
-
-void BrochureConfigurationViewController::chooseMainLanguage(int index) {
-    const auto id = languages_.idAt(index);
-    if (!id)
-        return;
-    const auto current = draft_->currentLanguages();
-    // The second language as the first one changes places with it: none is chosen twice.
-    const bool swapped = current && current->secondary == *id && current->main != *id;
-    draft_->setLanguages(*id, swapped   ? std::optional(current->main)
-                              : current ? current->secondary
-                                        : std::nullopt);
-    emit languagesChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::chooseSecondaryLanguage(int index) {
-    const auto current = draft_->currentLanguages();
-    if (!current)
-        return;
-    draft_->setLanguages(current->main, otherLanguages().idAt(index - 1)); // the first entry is "Ninguno"
-    emit languagesChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::chooseSecondPrice(bool on) {
-    if (on == isSecondPriceAllowed())
-        return;
-    const auto first = prices_.idAt(0);
-    draft_->setSecondPrice(on && first ? std::optional(PriceType(*first)) : std::nullopt);
-    emit secondPriceChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::choosePriceType(int index) {
-    const auto id = prices_.idAt(index);
-    if (!id || index == priceType()) // choosing the same again would throw the typed prices away
-        return;
-    draft_->setSecondPrice(PriceType(*id));
-    emit secondPriceChanged();
-    commit();
-}
-
-int BrochureConfigurationViewController::mainLanguage() const {
-    const auto current = draft_->currentLanguages();
-    return current ? languages_.indexOf(current->main) : -1;
-}
-
-BrochureConfigurationViewController::Options BrochureConfigurationViewController::otherLanguages() const {
-    Options others = languages_;
-    if (const int main = mainLanguage(); main >= 0) {
-        others.ids.erase(others.ids.begin() + main);
-        others.names.removeAt(main);
-    }
-    return others;
-}
-
-QStringList BrochureConfigurationViewController::secondaryLanguages() const {
-    return QStringList{QStringLiteral("Ninguno")} + otherLanguages().names;
-}
-
-int BrochureConfigurationViewController::secondaryLanguage() const {
-    const auto current = draft_->currentLanguages();
-    return current ? otherLanguages().indexOf(current->secondary) + 1 : -1;
-}
-
-bool BrochureConfigurationViewController::isSecondPriceAllowed() const {
-    return draft_->currentSecondPrice().has_value();
-}
-
-int BrochureConfigurationViewController::priceType() const {
-    const auto type = draft_->currentSecondPrice();
-    return type ? prices_.indexOf(Int(*type)) : -1;
-}
-
-// ---- Form of the brochure
-// --------------------------------------------------------------------------------------
-
-void BrochureConfigurationViewController::switchPaperBrochure(bool on) {
-    draft_->includePaperBrochureTmp = on;
-    draft_->includePaperBrochure = on || !isPaperVisible();
-    emit switchesChanged();
-    commit();
-    tellAboutDemand();
-}
-
-void BrochureConfigurationViewController::switchDigitalBrochure(bool on) {
-    draft_->includeDigitalBrochureTmp = on;
-    draft_->includeDigitalBrochure = on;
-    draft_->printDigitalBrochure = on && draft_->printDigitalBrochureTmp;
-    emit switchesChanged();
-    commit();
-    tellAboutDemand();
-}
-
-void BrochureConfigurationViewController::switchDigitalBrochureDemand(bool on) {
-    draft_->printDigitalBrochureTmp = on;
-    draft_->printDigitalBrochure = on && draft_->includeDigitalBrochure;
-    emit switchesChanged();
-    commit();
-    tellAboutDemand();
-}
-
-void BrochureConfigurationViewController::tellAboutDemand() {
-    if (!draft_->includePaperBrochure || !draft_->includeDigitalBrochure || !draft_->printDigitalBrochure)
-        return;
-    services_.alerts.inform(
-        QStringLiteral("Información"),
-        QStringLiteral(
-            "Has solicitado carta impresa en papel y carta digital con impresión de QRs.\n"
-            "Al pulsar 'Aceptar' confirmas que quieres recibir los materiales imprimibles de ambos formatos "
-            "(carta en papel y Qrs impresos).\n"
-            "Si únicamente quieres la carta impresa, desmarca la opción 'Solicitar impresión de Carta y QRs' "
-            "(marcada por defecto)."));
-}
-
-void BrochureConfigurationViewController::switchIncludeQr(bool on) {
-    draft_->showQrOtherMenu = on;
-    emit switchesChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::chooseMenuFormat(int index) {
-    draft_->selectedFormatVisualizeId = menuFormats_.idAt(index);
-    emit formatsChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::chooseWineFormat(int index) {
-    draft_->selectedWineFormatVisualizeId = wineFormats_.idAt(index);
-    emit formatsChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::chooseBlackboardType(int index) {
-    draft_->setBlackboardType(blackboardTypes_.idAt(index));
-    emit formatsChanged();
-    commit();
-}
-
-void BrochureConfigurationViewController::formatSelected(qint64 identifier) {
-    if (!draft_->setBlackboardFormat(identifier))
-        stopProcess("chalkboard format " + std::to_string(identifier));
-    orientationElements_->selectionChanged();
-    commit();
-}
-
-// ---- What the view shows
-// ---------------------------------------------------------------------------------------
-
 QString BrochureConfigurationViewController::freeTextLabel() const {
-    return type_ == BrochureType::chalkboard || type_ == BrochureType::mantel
+    return context_.type == BrochureType::chalkboard || context_.type == BrochureType::mantel
                ? QStringLiteral("Texto libre (se mostrará debajo del título)")
                : QStringLiteral("Texto Libre (esta información se mostrará en la contraportada)");
-}
-
-QString BrochureConfigurationViewController::papeBrochureLabel() const {
-    return QStringLiteral("Solicitar ") + (type_ == BrochureType::video
-                                               ? QStringLiteral("Carta en formato Vídeo")
-                                               : QStringLiteral("Carta Impresa en papel"));
-}
-
-QAbstractItemModel* BrochureConfigurationViewController::orientationElements() const {
-    return orientationElements_;
-}
-
-bool BrochureConfigurationViewController::isPaperOn() const {
-    return draft_->includePaperBrochure;
-}
-bool BrochureConfigurationViewController::isDigitalOn() const {
-    return draft_->includeDigitalBrochure;
-}
-
-bool BrochureConfigurationViewController::isDemandOn() const {
-    return draft_->includeDigitalBrochure ? draft_->printDigitalBrochure : draft_->printDigitalBrochureTmp;
-}
-
-bool BrochureConfigurationViewController::isIncludeQrVisible() const {
-    return catalogue_->information().validations.withPrintQr;
-}
-
-bool BrochureConfigurationViewController::isIncludeQrOn() const {
-    return draft_->showQrOtherMenu;
-}
-
-QString BrochureConfigurationViewController::messageQrSupportLabel() const {
-    return fromUtf8(catalogue_->information().validations.manteleriaSupportText);
-}
-
-bool BrochureConfigurationViewController::isOrientationPaneVisible() const {
-    return type_ == BrochureType::chalkboard && !catalogue_->brochures().blackboardFormats.empty();
-}
-
-int BrochureConfigurationViewController::menuFormat() const {
-    return menuFormats_.indexOf(draft_->selectedFormatVisualizeId);
-}
-
-int BrochureConfigurationViewController::wineFormat() const {
-    return wineFormats_.indexOf(draft_->selectedWineFormatVisualizeId);
-}
-
-int BrochureConfigurationViewController::blackboardType() const {
-    return blackboardTypes_.indexOf(draft_->selectedBlackboardTypeIdentifier);
 }
 
 } // namespace kavor
