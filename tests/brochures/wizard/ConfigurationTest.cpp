@@ -26,7 +26,9 @@ protected:
         picture.save(&buffer, "PNG");
         return "data:image/png;base64," + bytes.toBase64().toStdString();
     }
-    [[nodiscard]] std::string field(const char* name) const { return step->fieldText(name).toStdString(); }
+    [[nodiscard]] std::string field(const char* name) const {
+        return step->pointOfSale()->fieldText(name).toStdString();
+    }
 };
 
 TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
@@ -44,34 +46,35 @@ TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
         enter(each.type);
         open();
         EXPECT_EQ(step->freeTextLabel().toStdString(), each.freeText);
-        EXPECT_EQ(step->papeBrochureLabel().toStdString(), each.paper);
+        EXPECT_EQ(step->formats()->papeBrochureLabel().toStdString(), each.paper);
     }
-    EXPECT_EQ(step->tevoLabel(), "Código cliente");
-    EXPECT_EQ(step->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
+    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente");
+    EXPECT_EQ(step->pointOfSale()->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
     session.loginResult->customerCodeRequired = true;
-    EXPECT_EQ(step->tevoLabel(), "Código cliente*");
-    EXPECT_TRUE(step->tevoAviseLabel().startsWith("Si no introduces el código cliente REAL del PdV, "));
+    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente*");
+    EXPECT_TRUE(step->pointOfSale()->tevoAviseLabel().startsWith(
+        "Si no introduces el código cliente REAL del PdV, "));
 }
 
 TEST_F(ConfigurationTest, FieldsShowAsTheKindAllows) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 2; });
     open();
-    EXPECT_EQ(step->freeTextFields()->rowCount(), 2);
-    EXPECT_EQ(step->onlineFields()->rowCount(), 2);
+    EXPECT_EQ(step->pointOfSale()->freeTextFields()->rowCount(), 2);
+    EXPECT_EQ(step->pointOfSale()->onlineFields()->rowCount(), 2);
     enter(BrochureType::beer, [](Brochures::Type& type) {
         type.parameters->isRRSSAvailable = true;
         type.parameters->freeTextNumberOfFields = 7; // there are three
     });
     open();
-    EXPECT_EQ(step->freeTextFields()->rowCount(), 3);
-    EXPECT_EQ(step->onlineFields()->rowCount(), 5);
+    EXPECT_EQ(step->pointOfSale()->freeTextFields()->rowCount(), 3);
+    EXPECT_EQ(step->pointOfSale()->onlineFields()->rowCount(), 5);
 }
 
 TEST_F(ConfigurationTest, ALeftFieldIsInTheDraftAndTheCopyAndAnEmptyOneIsUnset) {
     open();
-    step->finishText("contactEmailTextField", "olmo@bar.example");
+    step->pointOfSale()->finishText("contactEmailTextField", "olmo@bar.example");
     EXPECT_EQ(temporaryCopy()->menu.customer.email, "olmo@bar.example");
-    step->finishText("contactEmailTextField", "");
+    step->pointOfSale()->finishText("contactEmailTextField", "");
     EXPECT_FALSE(draft().customerInformation->email);
     EXPECT_FALSE(temporaryCopy()->menu.customer.email);
 }
@@ -79,13 +82,13 @@ TEST_F(ConfigurationTest, ALeftFieldIsInTheDraftAndTheCopyAndAnEmptyOneIsUnset) 
 TEST_F(ConfigurationTest, ATextBeyondItsLimitIsMarkedInUserPerceivedCharacters) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 1; });
     open();
-    auto* fields = step->freeTextFields();
+    auto* fields = step->pointOfSale()->freeTextFields();
     const auto error = [&] {
         return fields->data(fields->index(0, 0), fields->roleNames().key("error")).toString();
     };
-    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(10));
+    step->pointOfSale()->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(10));
     EXPECT_EQ(error(), QString());
-    step->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(11));
+    step->pointOfSale()->editText("firstFreeTextField", QStringLiteral("🇪🇸").repeated(11));
     EXPECT_EQ(error(), "11 de 10 caracteres");
 }
 
@@ -95,17 +98,17 @@ TEST_F(ConfigurationTest, SwitchesDecideTheDraftAndKeepTheirWorkingValues) {
         type.parameters->allowNotSelectPaperBrouchure = true;
     });
     open();
-    step->switchPaperBrochure(false);
+    step->formats()->switchPaperBrochure(false);
     EXPECT_FALSE(draft().includePaperBrochure);
     EXPECT_FALSE(draft().includePaperBrochureTmp);
-    step->switchDigitalBrochure(false); // takes the QR material with it
+    step->formats()->switchDigitalBrochure(false); // takes the QR material with it
     EXPECT_FALSE(draft().includeDigitalBrochure);
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_TRUE(draft().printDigitalBrochureTmp);
-    EXPECT_TRUE(step->isDemandOn());
-    step->switchDigitalBrochure(true);
+    EXPECT_TRUE(step->formats()->isDemandOn());
+    step->formats()->switchDigitalBrochure(true);
     EXPECT_TRUE(draft().printDigitalBrochure);
-    step->switchDigitalBrochureDemand(false);
+    step->formats()->switchDigitalBrochureDemand(false);
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_FALSE(temporaryCopy()->printDigitalBrochure);
     EXPECT_FALSE(alerts.isVisible());
@@ -118,22 +121,22 @@ TEST_F(ConfigurationTest, PaperTogetherWithPrintedQrIsConfirmedOncePerChange) {
     });
     open();
     EXPECT_FALSE(alerts.isVisible());
-    step->switchPaperBrochure(true);
+    step->formats()->switchPaperBrochure(true);
     EXPECT_TRUE(alert().starts_with(
         "Información | Has solicitado carta impresa en papel y carta digital con impresión "
         "de QRs.\nAl pulsar 'Aceptar' confirmas"));
     EXPECT_TRUE(press("Aceptar"));
     EXPECT_FALSE(alerts.isVisible());
-    step->switchDigitalBrochureDemand(true);
+    step->formats()->switchDigitalBrochureDemand(true);
     EXPECT_TRUE(press("Aceptar"));
 }
 
 TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
     draft().includePaperBrochure = false;
     open();
-    EXPECT_FALSE(step->isPaperVisible());
+    EXPECT_FALSE(step->formats()->isPaperVisible());
     EXPECT_TRUE(draft().includePaperBrochure);
-    EXPECT_FALSE(step->isDigitalVisible());
+    EXPECT_FALSE(step->formats()->isDigitalVisible());
     EXPECT_FALSE(draft().includeDigitalBrochure); // or no such kind could ever be sent
     EXPECT_FALSE(draft().printDigitalBrochure);
     EXPECT_TRUE(draft().includeDigitalBrochureTmp);
@@ -142,14 +145,14 @@ TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
 TEST_F(ConfigurationTest, LanguagesAreThoseOfTheKindByPosition) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
     open();
-    EXPECT_EQ(step->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
-    step->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
+    EXPECT_EQ(step->languages()->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
+    step->languages()->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
     EXPECT_FALSE(draft().selectedLanguageIdentifiers);
-    step->chooseMainLanguage(2);
-    step->chooseSecondaryLanguage(1);
+    step->languages()->chooseMainLanguage(2);
+    step->languages()->chooseSecondaryLanguage(1);
     EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, 1}));
-    EXPECT_EQ(step->secondaryLanguage(), 1);
-    step->chooseSecondaryLanguage(0);
+    EXPECT_EQ(step->languages()->secondaryLanguage(), 1);
+    step->languages()->chooseSecondaryLanguage(0);
     EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, std::nullopt}));
 }
 
@@ -157,17 +160,18 @@ TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
     using Languages = BrochureIntermediateData::MainAndSecondary;
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
     open();
-    step->chooseMainLanguage(1);
-    EXPECT_EQ(step->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
-    step->chooseSecondaryLanguage(2);
+    step->languages()->chooseMainLanguage(1);
+    EXPECT_EQ(step->languages()->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
+    step->languages()->chooseSecondaryLanguage(2);
     EXPECT_EQ(draft().currentLanguages(), (Languages{2, 3}));
-    step->chooseMainLanguage(2); // the two change places
+    step->languages()->chooseMainLanguage(2); // the two change places
     EXPECT_EQ(draft().currentLanguages(), (Languages{3, 2}));
-    EXPECT_EQ(step->secondaryLanguages().value(step->secondaryLanguage()), "Catalán");
-    step->chooseMainLanguage(0);
+    EXPECT_EQ(step->languages()->secondaryLanguages().value(step->languages()->secondaryLanguage()),
+              "Catalán");
+    step->languages()->chooseMainLanguage(0);
     EXPECT_EQ(draft().currentLanguages(), (Languages{1, 2}));
     draft().setLanguages(1, 1); // an order from elsewhere
-    EXPECT_EQ(step->secondaryLanguage(), 0);
+    EXPECT_EQ(step->languages()->secondaryLanguage(), 0);
     step->serializeAutoSave();
     EXPECT_EQ(draft().currentLanguages(), (Languages{1, std::nullopt}));
 }
@@ -175,42 +179,42 @@ TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
 TEST_F(ConfigurationTest, ASecondPriceStartsWithTheFirstListAndChoosingItAgainKeepsWhatWasTyped) {
     open();
     draft().setFormatSelected(true, knownFormat, knownBrand);
-    EXPECT_EQ(step->priceTypes(), (QStringList{"Terraza", "Noche"}));
-    step->chooseSecondPrice(true);
+    EXPECT_EQ(step->secondPrice()->priceTypes(), (QStringList{"Terraza", "Noche"}));
+    step->secondPrice()->chooseSecondPrice(true);
     EXPECT_EQ(draft().currentSecondPrice(), PriceType::terrace);
     draft().setPrice(PriceType::terrace, knownFormat, knownBrand, 3.5);
-    step->choosePriceType(0);
+    step->secondPrice()->choosePriceType(0);
     EXPECT_EQ(draft().priceOf(PriceType::terrace, knownFormat, knownBrand), 3.5);
-    step->choosePriceType(1);
+    step->secondPrice()->choosePriceType(1);
     EXPECT_EQ(draft().priceOf(PriceType::night, knownFormat, knownBrand), 2.0);
-    step->chooseSecondPrice(false);
+    step->secondPrice()->chooseSecondPrice(false);
     EXPECT_FALSE(draft().currentSecondPrice());
 }
 
 TEST_F(ConfigurationTest, AChalkboardStartsOnTheDefaultTypeAndItsElementsChooseTheFormat) {
     enter(BrochureType::chalkboard);
     open();
-    EXPECT_TRUE(step->isOrientationPaneVisible());
+    EXPECT_TRUE(step->chalkboard()->isOrientationPaneVisible());
     EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 31);
-    step->chooseBlackboardType(0);
+    step->chalkboard()->chooseBlackboardType(0);
     EXPECT_EQ(draft().selectedBlackboardTypeIdentifier, 30);
-    step->formatSelected(21);
+    step->chalkboard()->formatSelected(21);
     EXPECT_EQ(draft().selectedFormatIdentifier, 21);
     EXPECT_EQ(temporaryCopy()->menu.orientation, 21);
 
     enter(BrochureType::beer);
     BrochureIntermediateData::replaceTemporalBrochure();
     open();
-    EXPECT_FALSE(step->isOrientationPaneVisible());
+    EXPECT_FALSE(step->chalkboard()->isOrientationPaneVisible());
     EXPECT_FALSE(draft().selectedBlackboardTypeIdentifier);
 }
 
 TEST_F(ConfigurationTest, VisualFormatsAreSortedAndGoToTheDraft) {
     open();
-    EXPECT_EQ(step->menuFormats(), (QStringList{"Lista", "Completa"}));
-    step->chooseMenuFormat(1);
+    EXPECT_EQ(step->formats()->menuFormats(), (QStringList{"Lista", "Completa"}));
+    step->formats()->chooseMenuFormat(1);
     EXPECT_EQ(draft().selectedFormatVisualizeId, 1);
-    EXPECT_EQ(step->menuFormat(), 1);
+    EXPECT_EQ(step->formats()->menuFormat(), 1);
 }
 
 TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
@@ -222,15 +226,15 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     found.imageLogo = png();
     found.priorityBrandIdentifiers = {11};
     open();
-    step->editText("tevoTextField", "B0001");
-    step->editText("contactTelephoneTextField", "600");
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->editText("tevoTextField", "B0001");
+    step->pointOfSale()->editText("contactTelephoneTextField", "600");
+    step->pointOfSale()->searchTEVOCodeAction();
     EXPECT_EQ(std::get<0>(network.requests.getCustomerDataFromTevoCode.calls.at(0)), "B0001");
     network.requests.getCustomerDataFromTevoCode.succeed({found});
     EXPECT_EQ(field("establishmentNameTextField"), "Bar Pino");
     EXPECT_EQ(field("tevoTextField"), "B0001");
     EXPECT_EQ(field("contactTelephoneTextField"), "");
-    EXPECT_EQ(step->attachLogoLabel(), "Logotipo");
+    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Logotipo");
     const Customer& kept = *draft().customerInformation;
     EXPECT_EQ(kept.id, 70);
     EXPECT_EQ(kept.priorityBrandIdentifiers, (std::vector<Int>{11}));
@@ -238,9 +242,9 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     EXPECT_EQ(kept.imageLogo, png());
 
     found.imageLogo.reset();
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->searchTEVOCodeAction();
     network.requests.getCustomerDataFromTevoCode.succeed({found});
-    EXPECT_EQ(step->attachLogoLabel(), "Añadir logotipo");
+    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Añadir logotipo");
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
@@ -251,22 +255,23 @@ TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhen
         bool stays;
     };
     const Case cases[] = {
-        {[&] { step->finishText("contactTelephoneTextField", "600"); }, true},
-        {[&] { step->finishText("tevoTextField", "B0001"); }, true}, // the field is left as it was
-        {[&] { step->finishText("tevoTextField", "B0002"); }, false},
-        {[&] { step->finishText("establishmentNameTextField", "Bar Roble"); }, false},
+        {[&] { step->pointOfSale()->finishText("contactTelephoneTextField", "600"); }, true},
+        {[&] { step->pointOfSale()->finishText("tevoTextField", "B0001"); },
+         true}, // the field is left as it was
+        {[&] { step->pointOfSale()->finishText("tevoTextField", "B0002"); }, false},
+        {[&] { step->pointOfSale()->finishText("establishmentNameTextField", "Bar Roble"); }, false},
         {[&] {
              open(); // the draft fills the form anew
-             step->finishText("establishmentNameTextField", "Bar Roble");
+             step->pointOfSale()->finishText("establishmentNameTextField", "Bar Roble");
          },
          false},
         {[&] {
-             step->searchTEVOCodeAction();
+             step->pointOfSale()->searchTEVOCodeAction();
              request.succeed({});
          },
          false},
         {[&] {
-             step->searchTEVOCodeAction();
+             step->pointOfSale()->searchTEVOCodeAction();
              request.fail(failureWith({"motivo"}));
          },
          true},
@@ -278,8 +283,8 @@ TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhen
     found.placeProvinceId = 72;
     found.priorityBrandIdentifiers = {11};
     for (const Case& each : cases) {
-        open().editText("tevoTextField", "B0001");
-        step->searchTEVOCodeAction();
+        open().pointOfSale()->editText("tevoTextField", "B0001");
+        step->pointOfSale()->searchTEVOCodeAction();
         request.succeed({found});
         each.action();
         const Customer& kept = *draft().customerInformation;
@@ -298,7 +303,7 @@ TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumber
         bool provinceStays;
     };
     const auto type = [this](const char* name, const char* text) {
-        return [this, name, text] { step->finishText(name, text); };
+        return [this, name, text] { step->pointOfSale()->finishText(name, text); };
     };
     const Case cases[] = {
         {type("municipalityTextField", "Getafe"), false, true},
@@ -307,13 +312,13 @@ TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumber
         {type("postalCodeTextField", "28002"), true, true},
         {[this] {
              geocoder.placemark = Placemark{"45001", "Toledo", "Toledo", std::nullopt};
-             step->locateDeviceAndFillFields();
+             step->pointOfSale()->locateDeviceAndFillFields();
              press("Sí");
          },
          false, false},
         {[this] {
              geocoder.placemark = Placemark{"28003", "Madrid", "Madrid", std::nullopt};
-             step->locateDeviceAndFillFields();
+             step->pointOfSale()->locateDeviceAndFillFields();
              press("Sí");
          },
          true, true},
@@ -355,9 +360,9 @@ TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVei
          }},
     };
     open();
-    step->editText("establishmentNameTextField", "Bar Olmo");
+    step->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
     for (const Case& each : cases) {
-        step->searchTEVOCodeAction();
+        step->pointOfSale()->searchTEVOCodeAction();
         EXPECT_TRUE(veil);
         each.answer();
         EXPECT_FALSE(veil);
@@ -366,7 +371,7 @@ TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVei
         EXPECT_EQ(field("establishmentNameTextField"), "Bar Olmo");
     }
     network.reachable = false;
-    step->searchTEVOCodeAction();
+    step->pointOfSale()->searchTEVOCodeAction();
     EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
     EXPECT_EQ(request.calls.size(), 2U);
 }
@@ -380,7 +385,7 @@ TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
     step->previewAction();
     EXPECT_EQ(alert(), "Atencion | Has de informar de un código cliente.");
     EXPECT_EQ(previews, 0);
-    step->editText("tevoTextField", "B0001");
+    step->pointOfSale()->editText("tevoTextField", "B0001");
     step->previewAction();
     EXPECT_EQ(previews, 1);
 }
@@ -388,24 +393,24 @@ TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
 TEST_F(ConfigurationTest, TheLocationFillsTheAddressOnlyWhenTheUserAgrees) {
     open();
     geocoder.placemark = Placemark{"28001", "Madrid", "Comunidad de Madrid", std::nullopt};
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_EQ(alert(), "¿Desea utilizar la siguiente ubicación? | 28001, Madrid, Comunidad de Madrid");
     press("No");
     EXPECT_EQ(field("municipalityTextField"), "");
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     press("Sí");
     EXPECT_EQ(field("postalCodeTextField"), "28001");
     EXPECT_EQ(draft().customerInformation->placeProvinceName, "Comunidad de Madrid");
 
     geocoder.placemark.reset();
     geocoder.error = "no signal";
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_TRUE(alert().starts_with("Error | No se ha podido obtener la localización."));
     press("Reintentar");
     EXPECT_EQ(geocoder.asked.size(), 4U);
     press("Cancelar");
     locationService.available = false;
-    step->locateDeviceAndFillFields();
+    step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_EQ(alert(), " | No se puede utilizar la ubicación, está deshabilitada.");
 }
 
@@ -413,13 +418,13 @@ TEST_F(ConfigurationTest, APhotoBecomesTheLogoNoLargerThanNeeded) {
     open();
     photos.photo = QImage(3000, 1500, QImage::Format_RGB32);
     photos.photo->fill(Qt::red);
-    step->searchLogoInGallery();
+    step->pointOfSale()->logo()->searchLogoInGallery();
     ASSERT_TRUE(
         waitFor([] { return draft().customerInformation && draft().customerInformation->imageLogo; }));
     const auto text = QByteArray::fromStdString(*draft().customerInformation->imageLogo);
     const auto logo = QImage::fromData(QByteArray::fromBase64(text.mid(text.indexOf(',') + 1)));
     EXPECT_EQ(logo.size(), QSize(1024, 512));
-    step->removeImageButonAction();
+    step->pointOfSale()->logo()->removeImageButonAction();
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 

@@ -83,7 +83,7 @@ TEST_F(MenuTest, StepsToComeSaySoAndPlacesPastTheLastDoNothing) {
 TEST_F(MenuTest, ATapOnTheEntryOnShowKeepsTheStepWithWhatWasTyped) {
     Menu menu(services);
     auto* step = configuration(menu);
-    step->editText("establishmentNameTextField", "Bar Ol");
+    step->pointOfSale()->editText("establishmentNameTextField", "Bar Ol");
     menu.buttonPushedAction(Menu::Configuration);
     EXPECT_EQ(menu.activeViewController(), step);
     EXPECT_FALSE(draft().customerInformation);
@@ -91,7 +91,7 @@ TEST_F(MenuTest, ATapOnTheEntryOnShowKeepsTheStepWithWhatWasTyped) {
 
 TEST_F(MenuTest, LeavingAStepSavesItAndTheCopyExceptForTheSendStep) {
     Menu menu(services);
-    configuration(menu)->editText("establishmentNameTextField", "Bar Olmo");
+    configuration(menu)->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
     menu.buttonPushedAction(Menu::Send);
     EXPECT_EQ(draft().customerInformation->name, "Bar Olmo");
     EXPECT_EQ(temporaryCopy()->menu.customer.name, "Bar Olmo");
@@ -116,7 +116,7 @@ TEST_F(MenuTest, ClosingSavesTheStepOnShowAlsoWhileAResetIsUnderWay) {
     Menu menu(services);
     bool closed = false;
     QObject::connect(&menu, &Menu::closed, [&] { closed = true; });
-    configuration(menu)->editText("establishmentNameTextField", "Bar Olmo");
+    configuration(menu)->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
     session.resettingBrochure = true;
     menu.closeSceneAction();
     EXPECT_TRUE(closed);
@@ -129,7 +129,7 @@ TEST_F(MenuTest, ACopyOnDiskIsTakenUpAndGoneUntilTheNextStep) {
     BrochureIntermediateData::replaceTemporalBrochure();
     Menu menu(services);
     EXPECT_EQ(menu.recoveredMessage(), "Se ha recuperado la carta en curso");
-    EXPECT_EQ(configuration(menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_EQ(configuration(menu)->pointOfSale()->fieldText("establishmentNameTextField"), "Bar Olmo");
     EXPECT_TRUE(draft().brochureTypeParameters);
     EXPECT_FALSE(temporaryCopy());
     menu.buttonPushedAction(Menu::Products);
@@ -190,13 +190,13 @@ TEST_F(MenuTest, ALookIntoAnotherTileLeavesTheDigitalMenuAsItWasChosen) {
     enter(BrochureType::wineA4); // on offer on paper alone
     {
         Menu look(services);
-        EXPECT_EQ(configuration(look)->fieldText("establishmentNameTextField"), "");
+        EXPECT_EQ(configuration(look)->pointOfSale()->fieldText("establishmentNameTextField"), "");
         look.closeSceneAction();
     }
     enter(BrochureType::beer, digital);
     const Menu menu(services);
-    EXPECT_EQ(configuration(menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
-    EXPECT_TRUE(configuration(menu)->isDigitalOn());
+    EXPECT_EQ(configuration(menu)->pointOfSale()->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_TRUE(configuration(menu)->formats()->isDigitalOn());
     EXPECT_EQ(draft().selectedStyleDigitalIdentifier, 5);
 }
 
@@ -248,7 +248,7 @@ TEST_F(MenuTest, WithoutACopyTheDraftInMemoryGoesOn) {
     completeDraft();
     Menu menu(services);
     EXPECT_EQ(menu.recoveredMessage(), QString());
-    EXPECT_EQ(configuration(menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_EQ(configuration(menu)->pointOfSale()->fieldText("establishmentNameTextField"), "Bar Olmo");
 }
 
 TEST_F(MenuTest, AResetAnsweredWithNoChangesNothing) {
@@ -269,10 +269,11 @@ TEST_F(MenuTest, AResetStartsANewDraftAndTheOldStepWritesNothingIntoIt) {
     completeDraft();
     Menu menu(services);
     auto* old = configuration(menu);
-    old->finishText("establishmentNameTextField", "Bar Pino");
+    old->pointOfSale()->finishText("establishmentNameTextField", "Bar Pino");
     menu.buttonPushedAction(Menu::Reset);
     EXPECT_TRUE(press("Sí"));
-    old->finishText("establishmentNameTextField", "Bar Pino"); // the field loses the focus as it goes
+    old->pointOfSale()->finishText("establishmentNameTextField",
+                                   "Bar Pino"); // the field loses the focus as it goes
     EXPECT_FALSE(draft().customerInformation);
     EXPECT_TRUE(draft().brochureTypeParameters);
     EXPECT_FALSE(temporaryCopy());
@@ -289,7 +290,7 @@ TEST_F(MenuTest, AResetFromTheSendStepDoesNotSwallowTheNextSave) {
     menu.buttonPushedAction(Menu::Send);
     menu.buttonPushedAction(Menu::Reset);
     EXPECT_TRUE(press("Sí"));
-    configuration(menu)->editText("establishmentNameTextField", "Bar Nuevo");
+    configuration(menu)->pointOfSale()->editText("establishmentNameTextField", "Bar Nuevo");
     menu.buttonPushedAction(Menu::Products);
     EXPECT_EQ(draft().customerInformation->name, "Bar Nuevo");
 }
@@ -348,7 +349,7 @@ protected:
         return qobject_cast<BrochureSendViewController*>(menu->activeViewController());
     }
     void rename(const QString& name) const {
-        configuration(*menu)->finishText("establishmentNameTextField", name);
+        configuration(*menu)->pointOfSale()->finishText("establishmentNameTextField", name);
     }
 
     std::unique_ptr<Menu> menu;
@@ -378,7 +379,7 @@ TEST_F(SentOrderTest, TheFirstChangeIsTakenBackOrMakesAnotherOrder) {
     EXPECT_EQ(alert(), question);
     press("No");
     EXPECT_FALSE(alerts.isVisible());
-    EXPECT_EQ(configuration(*menu)->fieldText("establishmentNameTextField"), "Bar Olmo");
+    EXPECT_EQ(configuration(*menu)->pointOfSale()->fieldText("establishmentNameTextField"), "Bar Olmo");
     EXPECT_EQ(draft().customerInformation->name, "Bar Olmo");
     EXPECT_EQ(draft().orderIdentifier, 7);
     EXPECT_EQ(draft().fileName, "mi carta");
@@ -402,7 +403,7 @@ TEST_F(SentOrderTest, TheFirstChangeIsTakenBackOrMakesAnotherOrder) {
 
 TEST_F(SentOrderTest, AChangeStillInItsFieldIsAskedAboutOnLeavingTheStep) {
     menu->buttonPushedAction(Menu::Configuration);
-    configuration(*menu)->editText("establishmentNameTextField", "Bar Pino");
+    configuration(*menu)->pointOfSale()->editText("establishmentNameTextField", "Bar Pino");
     menu->buttonPushedAction(Menu::Send);
     EXPECT_EQ(alert(), question);
     press("Sí");
@@ -426,8 +427,8 @@ TEST_F(MenuTest, TheVeilOfARequestCanBeLeftAndItsAnswerFillsNothing) {
     menu.leaveVeil();
     EXPECT_TRUE(menu.isVeilVisible());
 
-    configuration(menu)->editText("establishmentNameTextField", "Bar Olmo");
-    configuration(menu)->searchTEVOCodeAction();
+    configuration(menu)->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
+    configuration(menu)->pointOfSale()->searchTEVOCodeAction();
     EXPECT_TRUE(menu.isVeilVisible() && menu.isVeilLeavable());
     menu.leaveVeil();
     EXPECT_FALSE(menu.isVeilVisible() || menu.isVeilLeavable());
@@ -439,7 +440,7 @@ TEST_F(MenuTest, TheVeilOfARequestCanBeLeftAndItsAnswerFillsNothing) {
 
     // A place of which nothing is known is never answered.
     menu.buttonPushedAction(Menu::Configuration);
-    configuration(menu)->locateDeviceAndFillFields();
+    configuration(menu)->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_TRUE(menu.isVeilLeavable());
     menu.leaveVeil();
     location.onReverseHandler(Placemark{"28001", "Madrid", "Madrid", {}}, std::nullopt);

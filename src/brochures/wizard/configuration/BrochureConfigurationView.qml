@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Kavor.Ui
+import Kavor.Kit
 import Kavor.Screens
 
 // The point of sale, the languages and the form of the brochure.
@@ -8,6 +9,7 @@ FormPage {
     id: page
 
     required property BrochureConfigurationViewController controller
+    readonly property PointOfSaleForm pointOfSale: controller.pointOfSale
 
     objectName: "brochureConfiguration"
 
@@ -17,12 +19,12 @@ FormPage {
 
         CustomerCodeCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.pointOfSale
         }
         CustomerFields {
             Layout.fillWidth: true
-            controller: page.controller
-            fields: page.controller.contactFields
+            form: page.pointOfSale
+            fields: page.pointOfSale.contactFields
         }
     }
 
@@ -32,17 +34,18 @@ FormPage {
 
         LanguagesCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.controller.languages
+            secondPrice: page.controller.secondPrice
         }
         Loader {
             Layout.fillWidth: true
-            active: page.controller.orientationPaneVisible
+            active: page.controller.chalkboard.orientationPaneVisible
             visible: active
-            sourceComponent: ChalkboardCard { controller: page.controller }
+            sourceComponent: ChalkboardCard { form: page.controller.chalkboard }
         }
         BrochureFormCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.controller.formats
         }
     }
 
@@ -50,28 +53,16 @@ FormPage {
         Layout.fillWidth: true
         spacing: Theme.spaceL
 
-        CustomerFields {
+        PlaceCard {
             Layout.fillWidth: true
-            title: "Dirección"
-            icon: "location"
-            controller: page.controller
-            fields: page.controller.placeFields
-
-            AppButton {
-                objectName: "locateDevice"
-                width: parent.width
-                text: "Usar mi ubicación"
-                icon: "location"
-                kind: "secondary"
-                onClicked: page.controller.locateDeviceAndFillFields()
-            }
+            form: page.pointOfSale
         }
         CustomerFields {
             Layout.fillWidth: true
             title: "El local en la red"
             icon: "globe"
-            controller: page.controller
-            fields: page.controller.onlineFields
+            form: page.pointOfSale
+            fields: page.pointOfSale.onlineFields
         }
     }
 
@@ -85,12 +76,12 @@ FormPage {
             title: "Textos libres"
             icon: "edit"
             note: page.controller.freeTextLabel
-            controller: page.controller
-            fields: page.controller.freeTextFields
+            form: page.pointOfSale
+            fields: page.pointOfSale.freeTextFields
         }
         LogoCard {
             Layout.fillWidth: true
-            controller: page.controller
+            form: page.pointOfSale.logo
         }
         AppButton {
             objectName: "previewAction"

@@ -6,9 +6,9 @@ import Kavor.Screens
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
-    readonly property bool anything: controller.paperVisible || controller.digitalVisible || controller.includeQrVisible
-        || controller.menuFormatVisible || controller.wineFormatVisible
+    required property BrochureFormatsForm form
+    readonly property bool anything: form.paperVisible || form.digitalVisible || form.includeQrVisible
+        || form.menuFormatVisible || form.wineFormatVisible
 
     visible: anything
     spacing: Theme.spaceS
@@ -18,62 +18,62 @@ Card {
     SwitchRow {
         objectName: "paperBrochureSwitch"
         width: parent.width
-        visible: card.controller.paperVisible
-        label: card.controller.papeBrochureLabel
-        checked: card.controller.paperOn
-        onToggled: (on) => card.controller.switchPaperBrochure(on)
+        visible: card.form.paperVisible
+        label: card.form.papeBrochureLabel
+        checked: card.form.paperOn
+        onToggled: (on) => card.form.switchPaperBrochure(on)
     }
     Column {
         width: parent.width
         spacing: Theme.spaceM
         bottomPadding: visible ? Theme.spaceS : 0
-        visible: card.controller.menuFormatVisible || card.controller.wineFormatVisible
-        enabled: card.controller.formatRowsEnabled
+        visible: card.form.menuFormatVisible || card.form.wineFormatVisible
+        enabled: card.form.formatRowsEnabled
         opacity: enabled ? 1 : 0.7
 
         PickerRow {
             objectName: "menuFormatVisualizePicker"
             width: parent.width
-            visible: card.controller.menuFormatVisible
+            visible: card.form.menuFormatVisible
             label: "Formato de la carta"
-            model: card.controller.menuFormats
-            currentIndex: card.controller.menuFormat
-            onActivated: (index) => card.controller.chooseMenuFormat(index)
+            model: card.form.menuFormats
+            currentIndex: card.form.menuFormat
+            onActivated: (index) => card.form.chooseMenuFormat(index)
         }
         PickerRow {
             objectName: "menuWineFormatVisualizePicker"
             width: parent.width
-            visible: card.controller.wineFormatVisible
+            visible: card.form.wineFormatVisible
             label: "Formato de la carta de vinos"
-            model: card.controller.wineFormats
-            currentIndex: card.controller.wineFormat
-            onActivated: (index) => card.controller.chooseWineFormat(index)
+            model: card.form.wineFormats
+            currentIndex: card.form.wineFormat
+            onActivated: (index) => card.form.chooseWineFormat(index)
         }
     }
     SwitchRow {
         objectName: "digitalBrochureSwitch"
         width: parent.width
-        visible: card.controller.digitalVisible
+        visible: card.form.digitalVisible
         label: "Solicitar Carta Digital"
-        checked: card.controller.digitalOn
-        onToggled: (on) => card.controller.switchDigitalBrochure(on)
+        checked: card.form.digitalOn
+        onToggled: (on) => card.form.switchDigitalBrochure(on)
     }
     SwitchRow {
         objectName: "digitalBrochureDemandSwitch"
         width: parent.width
-        visible: card.controller.digitalVisible
-        enabled: card.controller.digitalOn
+        visible: card.form.digitalVisible
+        enabled: card.form.digitalOn
         label: "Solicitar impresión de Carta y QRs"
-        checked: card.controller.demandOn
-        onToggled: (on) => card.controller.switchDigitalBrochureDemand(on)
+        checked: card.form.demandOn
+        onToggled: (on) => card.form.switchDigitalBrochureDemand(on)
     }
     SwitchRow {
         objectName: "includeQrSwitch"
         width: parent.width
-        visible: card.controller.includeQrVisible
+        visible: card.form.includeQrVisible
         label: "Incluir el código QR en la carta"
-        help: card.controller.messageQrSupportLabel
-        checked: card.controller.includeQrOn
-        onToggled: (on) => card.controller.switchIncludeQr(on)
+        help: card.form.messageQrSupportLabel
+        checked: card.form.includeQrOn
+        onToggled: (on) => card.form.switchIncludeQr(on)
     }
 }

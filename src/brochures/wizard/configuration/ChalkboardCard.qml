@@ -6,7 +6,7 @@ import Kavor.Screens
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
+    required property ChalkboardForm form
 
     SectionTitle { width: parent.width; text: "Formato de la pizarra"; icon: "chalkboard" }
 
@@ -18,7 +18,7 @@ Card {
         spacing: Theme.spaceM
 
         Repeater {
-            model: card.controller.orientationElements
+            model: card.form.orientationElements
 
             Card {
                 id: element
@@ -33,7 +33,7 @@ Card {
                 spacing: Theme.spaceXS
                 accessibleName: model.name + ", " + model.description
                 Accessible.checked: selected
-                onClicked: card.controller.formatSelected(model.identifier)
+                onClicked: card.form.formatSelected(model.identifier)
 
                 ResourceImage {
                     width: parent.width
@@ -61,8 +61,8 @@ Card {
         objectName: "blackboardTypePicker"
         width: parent.width
         label: "Tipo de pizarra"
-        model: card.controller.blackboardTypes
-        currentIndex: card.controller.blackboardType
-        onActivated: (index) => card.controller.chooseBlackboardType(index)
+        model: card.form.blackboardTypes
+        currentIndex: card.form.blackboardType
+        onActivated: (index) => card.form.chooseBlackboardType(index)
     }
 }

@@ -6,7 +6,8 @@ import Kavor.Screens
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
+    required property LanguagesForm form
+    required property SecondPriceForm secondPrice
 
     SectionTitle { width: parent.width; text: "Idiomas"; icon: "language" }
 
@@ -14,37 +15,37 @@ Card {
         objectName: "firstLanguagePicker"
         width: parent.width
         label: "Idioma principal*"
-        model: card.controller.languages
-        currentIndex: card.controller.mainLanguage
-        onActivated: (index) => card.controller.chooseMainLanguage(index)
+        model: card.form.languages
+        currentIndex: card.form.mainLanguage
+        onActivated: (index) => card.form.chooseMainLanguage(index)
     }
     PickerRow {
         objectName: "secondLanguagePicker"
         width: parent.width
-        visible: card.controller.secondLanguageVisible
-        enabled: card.controller.mainLanguage >= 0
+        visible: card.form.secondLanguageVisible
+        enabled: card.form.mainLanguage >= 0
         label: "Segundo idioma"
-        model: card.controller.secondaryLanguages
-        currentIndex: card.controller.secondaryLanguage
-        onActivated: (index) => card.controller.chooseSecondaryLanguage(index)
+        model: card.form.secondaryLanguages
+        currentIndex: card.form.secondaryLanguage
+        onActivated: (index) => card.form.chooseSecondaryLanguage(index)
     }
     SwitchRow {
         objectName: "secondPriceTextIsSelectedSwitch"
         width: parent.width
-        visible: card.controller.secondPriceVisible
+        visible: card.secondPrice.secondPriceVisible
         label: "Segundo precio"
         help: "Añade otra columna de precios, por ejemplo para la terraza."
-        checked: card.controller.secondPriceAllowed
-        onToggled: (on) => card.controller.chooseSecondPrice(on)
+        checked: card.secondPrice.secondPriceAllowed
+        onToggled: (on) => card.secondPrice.chooseSecondPrice(on)
     }
     PickerRow {
         objectName: "priceTypePicker"
         width: parent.width
-        visible: card.controller.secondPriceVisible && card.controller.secondPriceAllowed
+        visible: card.secondPrice.secondPriceVisible && card.secondPrice.secondPriceAllowed
         label: "Tarifa del segundo precio"
         icon: "price"
-        model: card.controller.priceTypes
-        currentIndex: card.controller.priceType
-        onActivated: (index) => card.controller.choosePriceType(index)
+        model: card.secondPrice.priceTypes
+        currentIndex: card.secondPrice.priceType
+        onActivated: (index) => card.secondPrice.choosePriceType(index)
     }
 }

@@ -1,8 +1,6 @@
 #include "brochures/wizard/products/NewBrandForm.h"
 
-#include "brochures/wizard/StepSupport.h"
-
-#include <algorithm>
+#include <ranges>
 
 namespace kavor {
 
@@ -12,24 +10,13 @@ const QString unselectedString = QStringLiteral("Sin seleccionar");
 
 } // namespace
 
-std::optional<Int> NewBrandForm::Vocabulary::chosen(int row) const {
-    return row > 0 && row <= int(ids.size()) ? std::optional(ids[std::size_t(row) - 1]) : std::nullopt;
-}
-
 template <class Record>
-NewBrandForm::Vocabulary NewBrandForm::vocabularyOf(const std::vector<Record>& records) const {
-    std::vector<const Record*> offered;
-    for (const Record& record : records) {
-        if (record.applicationFather == family_)
-            offered.push_back(&record);
-    }
-    std::ranges::stable_sort(offered, {}, &Record::position);
-    Vocabulary result{{unselectedString}, {}};
-    for (const Record* record : offered) {
-        result.names << fromUtf8(record->name);
-        result.ids.push_back(record->id);
-    }
-    return result;
+PickerRows NewBrandForm::vocabularyOf(const std::vector<Record>& records) const {
+    PickerRows rows(unselectedString);
+    rows.appendByPosition(records | std::views::filter([this](const Record& record) {
+                              return record.applicationFather == family_;
+                          }));
+    return rows;
 }
 
 NewBrandForm::NewBrandForm(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family,
@@ -54,8 +41,7 @@ int NewBrandForm::maximumDescriptionLength() const {
 }
 
 bool NewBrandForm::isComplete() const {
-    return typologies_.chosen(typology_) && tastes_.chosen(taste_) && segments_.chosen(segment_) &&
-           !name().empty();
+    return typologies_.idAt(typology_) && tastes_.idAt(taste_) && segments_.idAt(segment_) && !name().empty();
 }
 
 OwnBrand NewBrandForm::ownBrand() const {
@@ -63,11 +49,11 @@ OwnBrand NewBrandForm::ownBrand() const {
     return {family_,
             name(),
             description.empty() ? std::nullopt : std::optional(description),
-            segments_.chosen(segment_),
-            typologies_.chosen(typology_),
-            tastes_.chosen(taste_),
-            subTypologies_.chosen(subTypology_),
-            ages_.chosen(age_)};
+            segments_.idAt(segment_),
+            typologies_.idAt(typology_),
+            tastes_.idAt(taste_),
+            subTypologies_.idAt(subTypology_),
+            ages_.idAt(age_)};
 }
 
 void NewBrandForm::clear() {

@@ -2,13 +2,13 @@
 
 #include "catalogue/Catalogue.h"
 #include "catalogue/OwnBrand.h"
+#include "screens/PickerRows.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace kavor {
@@ -38,11 +38,11 @@ public:
     // Offers the vocabulary of one family.
     NewBrandForm(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family, QObject* parent);
 
-    [[nodiscard]] const QStringList& brandTypologyList() const { return typologies_.names; }
-    [[nodiscard]] const QStringList& brandTasteList() const { return tastes_.names; }
-    [[nodiscard]] const QStringList& brandSubTypologyList() const { return subTypologies_.names; }
-    [[nodiscard]] const QStringList& brandAgeList() const { return ages_.names; }
-    [[nodiscard]] const QStringList& brandSegmentList() const { return segments_.names; }
+    [[nodiscard]] const QStringList& brandTypologyList() const { return typologies_.names(); }
+    [[nodiscard]] const QStringList& brandTasteList() const { return tastes_.names(); }
+    [[nodiscard]] const QStringList& brandSubTypologyList() const { return subTypologies_.names(); }
+    [[nodiscard]] const QStringList& brandAgeList() const { return ages_.names(); }
+    [[nodiscard]] const QStringList& brandSegmentList() const { return segments_.names(); }
     [[nodiscard]] int maximumNameLength() const;
     [[nodiscard]] int maximumDescriptionLength() const;
     [[nodiscard]] std::string name() const { return name_.trimmed().toStdString(); }
@@ -57,22 +57,16 @@ signals:
     void changed();
 
 private:
-    // The rows of a picker and the ids of those from the second on.
-    struct Vocabulary {
-        QStringList names;
-        std::vector<Int> ids;
-        [[nodiscard]] std::optional<Int> chosen(int row) const;
-    };
     template <class Record>
-    [[nodiscard]] Vocabulary vocabularyOf(const std::vector<Record>& records) const;
+    [[nodiscard]] PickerRows vocabularyOf(const std::vector<Record>& records) const;
 
     std::shared_ptr<const Catalogue> catalogue_;
     ApplicationFather family_;
-    Vocabulary typologies_;
-    Vocabulary tastes_;
-    Vocabulary subTypologies_;
-    Vocabulary ages_;
-    Vocabulary segments_;
+    PickerRows typologies_;
+    PickerRows tastes_;
+    PickerRows subTypologies_;
+    PickerRows ages_;
+    PickerRows segments_;
     int typology_ = 0;
     int taste_ = 0;
     int subTypology_ = 0;

@@ -66,7 +66,7 @@ void BrandQrForm::chooseType(int row) {
 }
 
 void BrandQrForm::chooseQuantity(int quantity, int row) {
-    if (quantity < Table || quantity > Taco || row < 0 || row >= int(list(Quantity(quantity)).size()))
+    if (quantity < Table || quantity > Taco || !offered(Quantity(quantity)).has(row))
         return;
     rows_[quantity] = row;
     serialize();
@@ -96,13 +96,8 @@ const std::vector<Int>& BrandQrForm::list(Quantity quantity) const {
     return validations.lstMenuQrTacoQuantity;
 }
 
-QStringList BrandQrForm::texts(Quantity quantity) const {
-    QStringList result;
-    if (context_.catalogue) {
-        for (const Int number : list(quantity))
-            result << QString::number(number);
-    }
-    return result;
+PickerRows BrandQrForm::offered(Quantity quantity) const {
+    return context_.catalogue ? PickerRows::ofNumbers(list(quantity)) : PickerRows();
 }
 
 std::optional<Int> BrandQrForm::stored(Quantity quantity) const {
@@ -120,12 +115,9 @@ std::optional<Int> BrandQrForm::stored(Quantity quantity) const {
 
 // Without a quantity the picker starts at the first one.
 int BrandQrForm::rowOf(Quantity quantity) const {
-    const auto& numbers = list(quantity);
     const auto value = stored(quantity);
-    const auto found = std::ranges::find_if(numbers, [&](Int number) { return number == value; });
-    if (found != numbers.end())
-        return int(found - numbers.begin());
-    return value.value_or(0) > 0 ? -1 : 0;
+    const int row = offered(quantity).rowOf(value);
+    return row >= 0 || value.value_or(0) > 0 ? row : 0;
 }
 
 QString BrandQrForm::errorOf(Quantity quantity) const {
@@ -136,10 +128,9 @@ QString BrandQrForm::errorOf(Quantity quantity) const {
 }
 
 std::optional<Int> BrandQrForm::chosen(Quantity quantity) const {
-    const auto& numbers = list(quantity);
     if (rows_[quantity] < 0) // what is no longer offered stays until another is chosen
         return stored(quantity);
-    return numbers.empty() ? std::nullopt : std::optional(numbers[std::size_t(rows_[quantity])]);
+    return offered(quantity).idAt(rows_[quantity]);
 }
 
 QStringList BrandQrForm::brandQrTypes() const {

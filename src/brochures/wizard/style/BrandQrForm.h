@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brochures/wizard/style/StyleContext.h"
+#include "screens/PickerRows.h"
 
 #include <QObject>
 #include <QStringList>
@@ -53,9 +54,9 @@ public:
     [[nodiscard]] QStringList brandQrTypes() const;
     [[nodiscard]] int brandQrTypePicker() const { return type_; }
     [[nodiscard]] bool isWooden() const { return type_ == 1; }
-    [[nodiscard]] QStringList tableQuantities() const { return texts(Table); }
-    [[nodiscard]] QStringList doorQuantities() const { return texts(Door); }
-    [[nodiscard]] QStringList tacoQuantities() const { return texts(Taco); }
+    [[nodiscard]] QStringList tableQuantities() const { return offered(Table).names(); }
+    [[nodiscard]] QStringList doorQuantities() const { return offered(Door).names(); }
+    [[nodiscard]] QStringList tacoQuantities() const { return offered(Taco).names(); }
     [[nodiscard]] QString tableError() const { return errorOf(Table); }
     [[nodiscard]] QString doorError() const { return errorOf(Door); }
     [[nodiscard]] QString tacoError() const { return errorOf(Taco); }
@@ -76,7 +77,7 @@ signals:
 
 private:
     [[nodiscard]] const std::vector<Int>& list(Quantity quantity) const;
-    [[nodiscard]] QStringList texts(Quantity quantity) const;
+    [[nodiscard]] PickerRows offered(Quantity quantity) const;
     [[nodiscard]] int rowOf(Quantity quantity) const;
     [[nodiscard]] std::optional<Int> stored(Quantity quantity) const;
     [[nodiscard]] std::optional<Int> chosen(Quantity quantity) const;

@@ -2,8 +2,7 @@
 
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-
-#include <algorithm>
+#include "screens/PickerRows.h"
 
 namespace kavor {
 
@@ -20,9 +19,9 @@ void BrochureQuantityForm::appear(const StyleContext& context) {
     numbers_ = {stored ? stored->main : 0, stored ? stored->secondary.value_or(0) : 0};
     typing_ = -1;
     for (std::size_t column = 0; column < 2; ++column) {
-        const auto found = std::ranges::find(range(), numbers_[column]);
-        const int otherwise = numbers_[column] > 0 ? -1 : 0; // without a choice it starts at the first one
-        rows_[column] = found == range().end() ? otherwise : int(found - range().begin());
+        const int row = PickerRows::ofNumbers(range()).rowOf(numbers_[column]);
+        rows_[column] =
+            row >= 0 || numbers_[column] > 0 ? row : 0; // without a choice it starts at the first one
         texts_[column] = numbers_[column] > 0 ? QString::number(numbers_[column]) : QString();
     }
     emit changed();
@@ -137,12 +136,7 @@ QString BrochureQuantityForm::numberOfBrochuresSecondLabel() const {
 }
 
 QStringList BrochureQuantityForm::quantities() const {
-    QStringList rows;
-    if (context_.type) {
-        for (const Int quantity : range())
-            rows << QString::number(quantity);
-    }
-    return rows;
+    return context_.type ? PickerRows::ofNumbers(range()).names() : QStringList();
 }
 
 } // namespace kavor

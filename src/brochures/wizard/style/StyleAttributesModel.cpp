@@ -3,9 +3,9 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "device/PhotoPicker.h"
+#include "resources/PictureText.h"
 #include "screens/ResourceImages.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QRegularExpression>
 
@@ -22,17 +22,6 @@ const QString attributeCell = QStringLiteral("attributeCell");
 const QString imageAttributeCell = QStringLiteral("imageAttributeCell");
 const QString pickerAttributeCell = QStringLiteral("pickerAttributeCell");
 
-std::string pngDataText(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    const bool large = std::max(image.width(), image.height()) > longestImageSide;
-    (large ? image.scaled(longestImageSide, longestImageSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-           : image)
-        .save(&buffer, "PNG");
-    return "data:image/png;base64," + bytes.toBase64().toStdString();
-}
-
 } // namespace
 
 StyleAttributesModel::StyleAttributesModel(PhotoPicker& photos, QObject* parent)
@@ -44,11 +33,13 @@ void StyleAttributesModel::setStyle(const StyleContext& context, const Brochures
     context_ = context;
     styleId_ = style ? style->id : 0;
     attributes_ = style ? style->attributesList : std::vector<Attribute>();
+    choices_.clear();
     values_.clear();
     switchValues_.clear();
     const auto stored = context.draft->valuesMenuStyleAttributes.value_or(std::vector<Value>());
-    for (Attribute& attribute : attributes_) {
-        std::ranges::stable_sort(attribute.values, {}, &Attribute::SortableElement::position);
+    for (const Attribute& attribute : attributes_) {
+        choices_.emplace_back().appendByPosition(attribute.values, &Attribute::SortableElement::identifier,
+                                                 &Attribute::SortableElement::value);
         const auto found = std::ranges::find_if(stored, [&](const Value& value) {
             return value.menuStyleId == styleId_ && value.attributeId == attribute.id;
         });
@@ -93,11 +84,11 @@ void StyleAttributesModel::type(int row, const QString& text) {
 void StyleAttributesModel::choose(int row, int choice) {
     if (row < 0 || row >= count())
         return;
-    const auto& choices = attributes_[std::size_t(row)].values;
-    if (choice < 0 || choice >= int(choices.size()))
+    const PickerRows& choices = choices_[std::size_t(row)];
+    if (!choices.has(choice))
         return;
-    values_[std::size_t(row)].value = choices[std::size_t(choice)].value;
-    values_[std::size_t(row)].valueListId = choices[std::size_t(choice)].identifier;
+    values_[std::size_t(row)].value = choices.names()[choice].toStdString();
+    values_[std::size_t(row)].valueListId = choices.idAt(choice);
     valueChanged(row);
 }
 
@@ -111,7 +102,7 @@ void StyleAttributesModel::switchImage(int row, bool on) {
         return setImage(row, *customer->imageLogo);
     photos_.pick(this, [this, style = styleId_, row](const std::optional<QImage>& image) {
         if (image && style == styleId_)
-            setImage(row, pngDataText(*image));
+            setImage(row, pngDataText(*image, longestImageSide));
     });
 }
 
@@ -146,13 +137,6 @@ QString StyleAttributesModel::errorOf(const Attribute& attribute, const Value& v
            fromUtf8(type->description.value_or(type->name));
 }
 
-int StyleAttributesModel::choiceOf(const Attribute& attribute, const Value& value) const {
-    const auto found = std::ranges::find_if(attribute.values, [&](const Attribute::SortableElement& element) {
-        return element.identifier == value.valueListId;
-    });
-    return found == attribute.values.end() ? -1 : int(found - attribute.values.begin());
-}
-
 int StyleAttributesModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : count();
 }
@@ -175,14 +159,10 @@ QVariant StyleAttributesModel::data(const QModelIndex& index, int role) const {
         return fromUtf8(value.value.value_or(std::string()));
     case ErrorRole:
         return errorOf(attribute, value);
-    case ChoicesRole: {
-        QStringList choices;
-        for (const Attribute::SortableElement& element : attribute.values)
-            choices << fromUtf8(element.value);
-        return choices;
-    }
+    case ChoicesRole:
+        return choices_[std::size_t(index.row())].names();
     case ChoiceRole:
-        return choiceOf(attribute, value);
+        return choices_[std::size_t(index.row())].rowOf(value.valueListId);
     case SwitchRole:
         return switchValues_.contains(attribute.id) && switchValues_.at(attribute.id);
     case ImageRole:

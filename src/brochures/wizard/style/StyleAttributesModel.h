@@ -2,6 +2,7 @@
 
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/wizard/style/StyleContext.h"
+#include "screens/PickerRows.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
@@ -64,16 +65,16 @@ private:
     [[nodiscard]] const ApplicationInformation::AttributeType* typeOf(const Attribute& attribute) const;
     [[nodiscard]] QString kindOf(const Attribute& attribute) const;
     [[nodiscard]] QString errorOf(const Attribute& attribute, const Value& value) const;
-    [[nodiscard]] int choiceOf(const Attribute& attribute, const Value& value) const;
     void setImage(int row, const std::string& dataText);
     void valueChanged(int row);
 
     PhotoPicker& photos_;
     StyleContext context_;
     Int styleId_ = 0;
-    std::vector<Attribute> attributes_; // picker choices by position
-    std::vector<Value> values_;         // one for each attribute
-    std::map<Int, bool> switchValues_;  // by attribute
+    std::vector<Attribute> attributes_;
+    std::vector<PickerRows> choices_;  // one for each attribute, as
+    std::vector<Value> values_;        // here
+    std::map<Int, bool> switchValues_; // by attribute
 };
 
 } // namespace kavor

@@ -11,11 +11,15 @@ namespace kavor {
 void StyleLogosForm::setStyle(const StyleContext& context, const Brochures::Style* style) {
     context_ = context;
     logos_.clear();
+    offered_ = PickerRows();
     // The logos belong to the printed cover; the online style neither shows nor clears them.
     if (!context.isSectionStyleDigital) {
         for (const Int id : style ? style->logotypeIdentifiers : std::vector<Int>()) {
-            if (const Brochures::Logo* logo = context.catalogue->logo(id))
-                logos_.push_back(*logo);
+            const Brochures::Logo* logo = context.catalogue->logo(id);
+            if (!logo)
+                continue;
+            logos_.push_back(*logo);
+            offered_.append(logo->id, fromUtf8(logo->brand));
         }
         if (logos_.empty())
             context.draft->selectedLogoIdentifiers.reset();
@@ -27,12 +31,12 @@ void StyleLogosForm::setStyle(const StyleContext& context, const Brochures::Styl
 }
 
 int StyleLogosForm::rowOf(Int logo, int otherwise) const {
-    const auto found = std::ranges::find(logos_, logo, &Brochures::Logo::id);
-    return found != logos_.end() ? int(found - logos_.begin()) : std::min(otherwise, int(logos_.size()) - 1);
+    const int row = offered_.rowOf(logo);
+    return row >= 0 ? row : std::min(otherwise, int(logos_.size()) - 1);
 }
 
 void StyleLogosForm::choose(int picker, int row) {
-    if (picker < 0 || picker > 2 || row < 0 || row >= int(logos_.size()))
+    if (picker < 0 || picker > 2 || !offered_.has(row))
         return;
     rows_[std::size_t(picker)] = row;
     serialize();
@@ -47,17 +51,10 @@ void StyleLogosForm::serialize() {
     context_.draft->setLogos(id(0), id(1), id(2), 1, 2, 3);
 }
 
-QStringList StyleLogosForm::logos() const {
-    QStringList names;
-    for (const Brochures::Logo& logo : logos_)
-        names << fromUtf8(logo.brand);
-    return names;
-}
-
 QStringList StyleLogosForm::chosenImages() const {
     QStringList images;
     for (const int row : rows_) {
-        if (row >= 0 && row < int(logos_.size()))
+        if (offered_.has(row))
             images << resourceImageUrl(logos_[std::size_t(row)].image);
     }
     return images;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brochures/wizard/style/StyleContext.h"
+#include "screens/PickerRows.h"
 
 #include <QObject>
 #include <QStringList>
@@ -38,7 +39,7 @@ public:
     Q_INVOKABLE void choose(int picker, int row);
 
     [[nodiscard]] bool isVisible() const { return !logos_.empty(); }
-    [[nodiscard]] QStringList logos() const;
+    [[nodiscard]] const QStringList& logos() const { return offered_.names(); }
     [[nodiscard]] int firstBrandPicker() const { return rows_[0]; }
     [[nodiscard]] int secondBrandPicker() const { return rows_[1]; }
     [[nodiscard]] int thirdBrandPicker() const { return rows_[2]; }
@@ -54,6 +55,7 @@ private:
 
     StyleContext context_;
     std::vector<Brochures::Logo> logos_;
+    PickerRows offered_; // of them
     std::array<int, 3> rows_{};
 };
 

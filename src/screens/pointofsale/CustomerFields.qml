@@ -1,12 +1,12 @@
 import QtQuick
 import Kavor.Ui
-import Kavor.Screens
+import Kavor.Kit
 
 // A card with the text fields of a block of the form.
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
+    required property PointOfSaleForm form
     required property var fields
     property string title: ""
     property string icon: ""
@@ -33,8 +33,8 @@ Card {
             error: model.error
             icon: model.icon
             inputMethodHints: model.hints
-            onEdited: (typed) => card.controller.editText(model.name, typed)
-            onFinished: (typed) => card.controller.finishText(model.name, typed)
+            onEdited: (typed) => card.form.editText(model.name, typed)
+            onFinished: (typed) => card.form.finishText(model.name, typed)
         }
     }
 }

@@ -1,16 +1,16 @@
 import QtQuick
 import QtQuick.Layouts
 import Kavor.Ui
-import Kavor.Screens
+import Kavor.Kit
 
 // The bar's own logo.
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
-    readonly property bool present: controller.imageLogo !== ""
+    required property LogoForm form
+    readonly property bool present: form.imageLogo !== ""
 
-    SectionTitle { width: parent.width; text: card.controller.attachLogoLabel; icon: "camera" }
+    SectionTitle { width: parent.width; text: card.form.attachLogoLabel; icon: "camera" }
 
     RowLayout {
         width: parent.width
@@ -27,7 +27,7 @@ Card {
                 objectName: "imageLogo"
                 anchors.fill: parent
                 anchors.margins: Theme.spaceS
-                source: card.controller.imageLogo
+                source: card.form.imageLogo
                 fillMode: Image.PreserveAspectFit
                 sourceSize.width: 192
                 sourceSize.height: 192
@@ -41,7 +41,7 @@ Card {
             text: card.present ? "Cambiar" : "Elegir imagen"
             icon: "camera"
             kind: "secondary"
-            onClicked: card.controller.searchLogoInGallery()
+            onClicked: card.form.searchLogoInGallery()
         }
         IconButton {
             objectName: "removeImageLogoButton"
@@ -49,7 +49,7 @@ Card {
             icon: "trash"
             text: "Quitar el logotipo"
             colour: Theme.danger
-            onClicked: card.controller.removeImageButonAction()
+            onClicked: card.form.removeImageButonAction()
         }
         Item { Layout.fillWidth: true }
     }

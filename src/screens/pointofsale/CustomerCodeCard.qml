@@ -1,13 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
 import Kavor.Ui
-import Kavor.Screens
+import Kavor.Kit
 
 // The customer code and its lookup.
 Card {
     id: card
 
-    required property BrochureConfigurationViewController controller
+    required property PointOfSaleForm form
 
     SectionTitle { width: parent.width; text: "Punto de venta"; icon: "store" }
 
@@ -18,15 +18,15 @@ Card {
         TextRow {
             objectName: "tevoTextField"
             Layout.fillWidth: true
-            label: card.controller.tevoLabel
-            text: card.controller.tevo
+            label: card.form.tevoLabel
+            text: card.form.tevo
             icon: "tag"
             inputMethodHints: Qt.ImhNoPredictiveText
-            onEdited: (typed) => card.controller.editText("tevoTextField", typed)
-            onFinished: (typed) => card.controller.finishText("tevoTextField", typed)
+            onEdited: (typed) => card.form.editText("tevoTextField", typed)
+            onFinished: (typed) => card.form.finishText("tevoTextField", typed)
             onAccepted: {
-                if (card.controller.tevo !== "")
-                    card.controller.searchTEVOCodeAction();
+                if (card.form.tevo !== "")
+                    card.form.searchTEVOCodeAction();
             }
         }
         AppButton {
@@ -35,14 +35,14 @@ Card {
             text: "Buscar"
             icon: "search"
             kind: "secondary"
-            enabled: card.controller.tevo !== ""
-            onClicked: card.controller.searchTEVOCodeAction()
+            enabled: card.form.tevo !== ""
+            onClicked: card.form.searchTEVOCodeAction()
         }
     }
     HelpText {
         objectName: "tevoAviseLabel"
         width: parent.width
-        text: card.controller.tevoAviseLabel
-        tone: card.controller.customerCodeRequired ? "danger" : "neutral"
+        text: card.form.tevoAviseLabel
+        tone: card.form.customerCodeRequired ? "danger" : "neutral"
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/configuration/CustomerForm.h"
+#include "pointofsale/CustomerForm.h"
 
 #include <QAbstractListModel>
 
@@ -8,19 +8,18 @@
 
 namespace kavor {
 
-// The text fields of one or more blocks of the form, for the view: a row each with the roles "name" (the
-// outlet's), "label", "text", "error" (empty while the text is not too long), "icon" and "hints" (input
-// method).
+// Text fields of the form of the point of sale, for a view: a row each with the roles "name" (the outlet's),
+// "label", "text", "error" (empty while the text is not too long), "icon" and "hints" (input method).
 class CustomerFieldModel : public QAbstractListModel {
     Q_OBJECT
 public:
     enum Role { NameRole = Qt::UserRole + 1, LabelRole, TextRole, ErrorRole, IconRole, HintsRole };
 
-    // Form and validations outlive the model.
-    CustomerFieldModel(const CustomerForm& form, const Validations& validations, QObject* parent);
+    // The form outlives the model.
+    explicit CustomerFieldModel(const CustomerForm& form, QObject* parent = nullptr);
 
-    // Shows the fields of a block, at most the given number of them.
-    void append(CustomerFieldGroup group, std::size_t atMost);
+    // The validations outlive the model.
+    void show(std::vector<CustomerField> fields, const Validations& validations);
     // A text of the form changed, or all of them.
     void textChanged(std::string_view name);
     void allTextsChanged();
@@ -33,8 +32,8 @@ private:
     [[nodiscard]] QString errorOf(const CustomerField& field) const;
 
     const CustomerForm& form_;
-    const Validations& validations_;
-    std::vector<const CustomerField*> rows_;
+    const Validations* validations_ = nullptr;
+    std::vector<CustomerField> rows_;
 };
 
 } // namespace kavor

@@ -1,0 +1,45 @@
+#include "pointofsale/services/CustomerLookup.h"
+
+#include "interaction/Questions.h"
+#include "interaction/VeiledRun.h"
+#include "network/ServiceOperations.h"
+#include "network/ShowRequestFailure.h"
+
+#include <utility>
+
+namespace kavor {
+
+CustomerLookup::CustomerLookup(ServiceOperations& network, AlertPresenter& alerts, UrlOpener& urls,
+                               VeiledRun& wait, CustomerLookupTexts texts, QObject* parent)
+    : QObject(parent)
+    , network_(network)
+    , alerts_(alerts)
+    , urls_(urls)
+    , wait_(wait)
+    , texts_(std::move(texts)) {}
+
+void CustomerLookup::search(const QString& code, Answered answered) {
+    if (!network_.isReachable()) {
+        informOffline(alerts_);
+        return;
+    }
+    network_.getCustomerDataFromTevoCode(
+        code, {wait_.begin("Buscando el cliente…"),
+               [this, answered = std::move(answered)](const std::vector<Customer>& customers) {
+                   wait_.end();
+                   finish(customers.empty() ? std::nullopt : std::optional(customers.front()), answered);
+               },
+               [this](const RequestFailure& failure) {
+                   wait_.end();
+                   showRequestFailure({alerts_, urls_}, {}, failure, true, texts_.failureTitle);
+               }});
+}
+
+void CustomerLookup::finish(const std::optional<Customer>& found, const Answered& answered) {
+    answered(found);
+    if (!found)
+        ask(alerts_, this, texts_.nobodyTitle, texts_.nobodyText,
+            {{texts_.nobodyButton, AlertButton::Role::Cancel, {}}});
+}
+
+} // namespace kavor

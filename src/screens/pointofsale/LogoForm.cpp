@@ -1,0 +1,62 @@
+#include "screens/pointofsale/LogoForm.h"
+
+#include "base/Log.h"
+#include "device/Background.h"
+#include "device/PhotoPicker.h"
+#include "interaction/QtText.h"
+#include "resources/PictureText.h"
+
+#include <utility>
+
+namespace kavor {
+
+namespace {
+
+constexpr int largestLogoSide = 1024; // pixels; the logo travels inside the order
+
+} // namespace
+
+LogoForm::LogoForm(PhotoPicker& photos, QObject* parent)
+    : QObject(parent)
+    , photos_(photos) {}
+
+void LogoForm::fill(const std::optional<std::string>& imageLogo) {
+    dataText_ = pngDataText(imageLogo);
+    emit changed();
+}
+
+std::optional<std::string> LogoForm::value() const {
+    return dataText_.empty() ? std::nullopt : std::optional(dataText_);
+}
+
+void LogoForm::searchLogoInGallery() {
+    const bool opened = photos_.pick(this, [this](const std::optional<QImage>& photo) {
+        if (!photo)
+            return;
+        runInBackground(
+            this, [image = *photo] { return pngDataText(image, largestLogoSide); },
+            [this](std::string logo) { take(std::move(logo)); });
+    });
+    if (!opened)
+        logLine("Can't open the gallery");
+}
+
+void LogoForm::removeImageButonAction() {
+    take({});
+}
+
+void LogoForm::take(std::string dataText) {
+    dataText_ = std::move(dataText);
+    emit changed();
+    emit edited();
+}
+
+QString LogoForm::imageLogo() const {
+    return fromUtf8(dataText_);
+}
+
+QString LogoForm::attachLogoLabel() const {
+    return dataText_.empty() ? QStringLiteral("Añadir logotipo") : QStringLiteral("Logotipo");
+}
+
+} // namespace kavor
