@@ -1,7 +1,7 @@
 #include "network/FailureMapping.h"
 
 #include "base/json/Json.h"
-#include "network/HttpSession.h"
+#include "http/HttpExchange.h"
 #include "network/records/ErrorRecords.h"
 
 #include <string_view>

@@ -91,14 +91,14 @@ void NetworkManager::run(const RequestPointer& request) {
     if (!request->isAwaited())
         return;
     request->startedAt = clock_.now().toMSecsSinceEpoch();
-    sessionManager_->send(adapted(*request),
-                          [this, request](const HttpAnswer& answer) { received(request, answer); });
+    sessionManager_->send(
+        adapted(*request), [this, request](const HttpAnswer& answer) { received(request, answer); },
+        request->isAwaited);
 }
 
 HttpRequest NetworkManager::adapted(const PipelineRequest& request) const {
     const Operation& operation = request.operation;
-    HttpRequest adapted{operation.method, operation.url,         {},
-                        operation.body,   operation.contentType, request.isAwaited};
+    HttpRequest adapted{operation.method, operation.url, {}, operation.body, operation.contentType};
     adapted.headers.append({"Authorization", "Bearer " + accessToken_.toUtf8()});
     if (!request.idempotencyKey.isEmpty())
         adapted.headers.append({"Idempotency-Key", request.idempotencyKey});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "network/HttpSession.h"
+#include "http/HttpExchange.h"
 #include "network/KnownSecrets.h"
 
 #include <QFile>
