@@ -1,16 +1,15 @@
 #include "network/NetworkManager.h"
 
 #include "base/Log.h"
+#include "device/Background.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "network/Pipeline.h"
 #include "session/AppSingleton.h"
 #include "session/LoginResult.h"
 
-#include <QFutureWatcher>
 #include <QJsonDocument>
 #include <QUuid>
-#include <QtConcurrentRun>
 
 #include <utility>
 
@@ -125,24 +124,18 @@ void NetworkManager::log(const PipelineRequest& request, const HttpAnswer& answe
                        clock_.now().toMSecsSinceEpoch() - request.startedAt});
 }
 
-// Large answers take a while, so all are read in a worker thread; a watcher brings the end back to this one.
+// Large answers take a while, so all are read off the main thread.
 void NetworkManager::decode(const RequestPointer& request, const HttpAnswer& answer) {
-    using Watcher = QFutureWatcher<std::optional<json::Error>>;
-    auto* watcher = new Watcher(this);
-    connect(watcher, &Watcher::finished, this, [this, watcher, request, answer] {
-        const std::optional<json::Error> error = watcher->result();
-        watcher->deleteLater();
-        if (!error) {
-            request->succeed();
-            return;
-        }
-        logLine(request->operation.name.toStdString() + ": " + error->text());
-        failed(request, answer);
-    });
-    watcher->setFuture(
-        QtConcurrent::run([decode = request->decode, body = answer.body]() -> std::optional<json::Error> {
-            return decode(body);
-        }));
+    runInBackground(
+        this, [decode = request->decode, body = answer.body] { return decode(body); },
+        [this, request, answer](const std::optional<json::Error>& error) {
+            if (!error) {
+                request->succeed();
+                return;
+            }
+            logLine(request->operation.name.toStdString() + ": " + error->text());
+            failed(request, answer);
+        });
 }
 
 void NetworkManager::failed(const RequestPointer& request, const HttpAnswer& answer) {
