@@ -12,6 +12,7 @@
 #include "device/Clock.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
+#include "device/LogFile.h"
 #include "device/PushRegistration.h"
 #include "device/Reachability.h"
 #include "device/ReverseLocationManager.h"
@@ -21,6 +22,7 @@
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
 #include "network/NetworkManager.h"
+#include "network/TrafficLog.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/services/OrderSyncManager.h"
 #include "resources/FontRegistry.h"
@@ -282,6 +284,12 @@ ServiceOperations& KavorApplication::network() {
 
 PhotoLibraryViewController& KavorApplication::photos() {
     return parts_->photos;
+}
+
+void KavorApplication::keepSecretsOutOf(LogFile& log) {
+    log.setBlanking([secrets = parts_->network.knownSecrets()](const QString& text) {
+        return QString::fromUtf8(redacted(secrets->blanked(text).toUtf8()));
+    });
 }
 
 void KavorApplication::setOffline(bool offline) {

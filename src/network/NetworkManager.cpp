@@ -32,10 +32,8 @@ NetworkManager::NetworkManager(NetworkConfiguration configuration, const Collabo
           },
           [this](const std::string& token) { setAccessToken(QString::fromStdString(token)); })
     , trafficLog_(qEnvironmentVariable("KAVOR_TRAFFIC_LOG")) {
-    if (trafficLog_.isOpen()) {
-        if (const auto stored = collaborators.auth.readCredentials())
-            keepOutOfLog(*stored);
-    }
+    if (const auto stored = collaborators.auth.readCredentials())
+        keepOutOfLog(*stored);
     configureSession(defaultConfiguration());
 }
 

@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <memory>
+
 namespace kavor {
 
 // Passwords and tokens taken out of a text: values of JSON members, of form fields and behind "Bearer".
@@ -31,8 +33,10 @@ public:
         qint64 milliseconds = 0;
     };
     [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
-    // A password or token that no line shows from now on. Does nothing while the log is not open.
-    void keepOut(const QString& secret);
+    // A password or token that no line shows from now on.
+    void keepOut(const QString& secret) { secrets_->add(secret); }
+    // For who writes another log.
+    [[nodiscard]] std::shared_ptr<const KnownSecrets> knownSecrets() const { return secrets_; }
     void write(const Entry& entry);
 
 private:
@@ -41,7 +45,7 @@ private:
     [[nodiscard]] QJsonObject headerObject(const HttpHeaders& headers) const;
 
     QFile file_;
-    KnownSecrets secrets_;
+    std::shared_ptr<KnownSecrets> secrets_ = std::make_shared<KnownSecrets>();
 };
 
 } // namespace kavor
