@@ -9,11 +9,13 @@
 #include "device/BackgroundTasks.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
+#include "device/LogFile.h"
 #include "device/PushRegistration.h"
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
+#include "network/TrafficLog.h"
 #include "orders/services/OrderSyncManager.h"
 #include "resources/PDFCacheManager.h"
 #include "screens/ResourceImages.h"
@@ -231,6 +233,12 @@ ServiceOperations& KavorApplication::network() {
 
 PhotoLibraryViewController& KavorApplication::photos() {
     return parts_->photos;
+}
+
+void KavorApplication::keepSecretsOutOf(LogFile& log) {
+    log.setBlanking([secrets = parts_->network.knownSecrets()](const QString& text) {
+        return QString::fromUtf8(redacted(secrets->blanked(text).toUtf8()));
+    });
 }
 
 void KavorApplication::setOffline(bool offline) {

@@ -13,6 +13,7 @@ namespace kavor {
 
 class AlertPresenter;
 class AppDelegate;
+class LogFile;
 class PhotoLibraryViewController;
 class RootController;
 class ServiceOperations;
@@ -47,6 +48,8 @@ public:
     [[nodiscard]] AlertPresenter& alerts();
     [[nodiscard]] ServiceOperations& network();
     [[nodiscard]] PhotoLibraryViewController& photos();
+    // No line of the log shows a password or token that the client knows from now on.
+    void keepSecretsOutOf(LogFile& log);
     // Makes the client believe that there is no network, or ends that.
     void setOffline(bool offline);
     // Brings the window to the front and opens the URLs.

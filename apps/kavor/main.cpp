@@ -1,4 +1,5 @@
 #include "base/AtomicFile.h"
+#include "device/LogFile.h"
 #include "kavor/KavorApplication.h"
 #include "kavor/SingleInstance.h"
 #include "session/services/SessionStore.h"
@@ -50,6 +51,7 @@ int main(int argc, char* argv[]) {
     const auto early = earlyOptions(argc, argv);
     if (early && answersInWords(*early))
         return 0;
+    kavor::LogFile log;
     // A large catalogue is read while the application object and the window are made.
     auto sessions = beginReadingEarly(early);
     QGuiApplication application(argc, argv);
@@ -75,9 +77,11 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "Kavor ya está abierto con la carpeta %s.\n", options->documents.c_str());
         return 0;
     }
+    log.open(options->caches / kavor::LogFile::folderName);
     if (!sessions)
         sessions = kavor::KavorApplication::beginReading(*options);
     kavor::KavorApplication kavor(*options, std::move(*configuration), std::move(sessions));
+    kavor.keepSecretsOutOf(log);
     QObject::connect(&instance, &kavor::SingleInstance::startedAgain, &kavor,
                      &kavor::KavorApplication::startedAgain);
     return kavor.start() ? QGuiApplication::exec() : 1;

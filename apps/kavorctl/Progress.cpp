@@ -20,7 +20,7 @@ Progress::Progress(std::ostream& err, const QString& text)
     , text_(text.toStdString()) {
     if (!terminal_)
         return;
-    setLogSink([this](std::string_view line) { around([&] { err_ << line << std::endl; }); });
+    setLogSink([this](const LogEntry& entry) { around([&] { err_ << entry.text << std::endl; }); });
     QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] {
         const std::lock_guard lock(mutex_);
         visible_ = true;

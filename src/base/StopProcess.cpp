@@ -1,5 +1,7 @@
 #include "base/StopProcess.h"
 
+#include "base/Log.h"
+
 #include <unistd.h>
 
 #include <string>
@@ -7,8 +9,11 @@
 namespace kavor {
 
 void stopProcess(std::string_view whatWasMissing) {
-    const std::string line = "kavor: stopped: " + std::string(whatWasMissing) + "\n";
-    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line.data(), line.size());
+    const std::string line = "kavor: stopped: " + std::string(whatWasMissing);
+    if (!logLastWords(line)) {
+        const std::string plain = line + "\n";
+        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, plain.data(), plain.size());
+    }
     ::_exit(stoppedExitStatus);
 }
 

@@ -11,21 +11,6 @@ constexpr std::size_t mostIdle = 4;
 
 } // namespace
 
-bool isWebAddress(const QUrl& url) {
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
-}
-
-bool isErrorOfStatus(QNetworkReply::NetworkError error, int status) {
-    // Qt takes 407 for a proxy that asks for a password, also when the server says it.
-    if (error == QNetworkReply::ProxyAuthenticationRequiredError)
-        return status == 407;
-    const bool hasStatus =
-        (error > QNetworkReply::UnknownProxyError && error <= QNetworkReply::UnknownContentError) ||
-        error == QNetworkReply::ProtocolInvalidOperationError || error >= QNetworkReply::InternalServerError;
-    return hasStatus && status >= 400;
-}
-
 QNetworkAccessManager* HttpConnections::take() {
     if (idle_.empty())
         return new QNetworkAccessManager(owner_);

@@ -1,23 +1,11 @@
 #pragma once
 
-#include <QNetworkReply>
-#include <QUrl>
-
 #include <vector>
 
 class QNetworkAccessManager;
 class QObject;
 
 namespace kavor {
-
-// What the server is asked to write in.
-inline constexpr char acceptLanguage[] = "es-ES,es;q=0.9";
-
-// Whether it is an http or https address of a host.
-bool isWebAddress(const QUrl& url);
-// Whether an error of a reply is an HTTP status of 400 and above whose answer is there. Qt has an error for
-// each of them, and the other errors are faults of the transport.
-bool isErrorOfStatus(QNetworkReply::NetworkError error, int status);
 
 // Connections to the servers. Qt gives one manager six connections to a host, queues what is more, and fails
 // the queue with a connection that breaks. So each manager from here carries one request at a time, and none

@@ -2,7 +2,7 @@
 
 #include "base/json/Json.h"
 #include "documents/Answers.h"
-#include "network/HttpSession.h"
+#include "http/HttpExchange.h"
 #include "network/records/ErrorRecords.h"
 
 #include <string_view>

@@ -173,11 +173,13 @@ std::optional<qsizetype> endOf(const QList<char32_t>& secret, QStringView text, 
 
 void KnownSecrets::add(const QString& secret) {
     const QList<uint> letters = secret.toUcs4();
+    const std::lock_guard lock(mutex_);
     if (letters.size() >= shortest)
         secrets_.insert(QList<char32_t>(letters.begin(), letters.end()));
 }
 
 QString KnownSecrets::blanked(const QString& text) const {
+    const std::lock_guard lock(mutex_);
     QString shown = text;
     for (const QList<char32_t>& secret : secrets_) {
         const QString whole = std::exchange(shown, QString());

@@ -3,13 +3,14 @@
 #include <QList>
 #include <QString>
 
+#include <mutex>
 #include <set>
 
 namespace kavor {
 
 // Passwords and tokens that are known to the process, and where they stand in a text: plain, percent-encoded,
 // with "+" for a blank, with the escapes of JSON, once or nested, or with those of HTML, each letter in a
-// form of its own.
+// form of its own. Safe from any thread.
 class KnownSecrets {
 public:
     // What is shorter would stand in any text by chance, so it is not looked for.
@@ -27,6 +28,7 @@ private:
             return a.size() != b.size() ? a.size() > b.size() : a < b;
         }
     };
+    mutable std::mutex mutex_;
     std::set<QList<char32_t>, LongerFirst> secrets_;
 };
 

@@ -1,16 +1,15 @@
 #include "network/NetworkManager.h"
 
 #include "base/Log.h"
+#include "device/Background.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
 #include "network/Pipeline.h"
 #include "session/AppSingleton.h"
 #include "session/LoginResult.h"
 
-#include <QFutureWatcher>
 #include <QJsonDocument>
 #include <QUuid>
-#include <QtConcurrentRun>
 
 #include <utility>
 
@@ -33,10 +32,8 @@ NetworkManager::NetworkManager(NetworkConfiguration configuration, const Collabo
           },
           [this](const std::string& token) { setAccessToken(QString::fromStdString(token)); })
     , trafficLog_(qEnvironmentVariable("KAVOR_TRAFFIC_LOG")) {
-    if (trafficLog_.isOpen()) {
-        if (const auto stored = collaborators.auth.readCredentials())
-            keepOutOfLog(*stored);
-    }
+    if (const auto stored = collaborators.auth.readCredentials())
+        keepOutOfLog(*stored);
     configureSession(defaultConfiguration());
 }
 
@@ -91,14 +88,14 @@ void NetworkManager::run(const RequestPointer& request) {
     if (!request->isAwaited())
         return;
     request->startedAt = clock_.now().toMSecsSinceEpoch();
-    sessionManager_->send(adapted(*request),
-                          [this, request](const HttpAnswer& answer) { received(request, answer); });
+    sessionManager_->send(
+        adapted(*request), [this, request](const HttpAnswer& answer) { received(request, answer); },
+        request->isAwaited);
 }
 
 HttpRequest NetworkManager::adapted(const PipelineRequest& request) const {
     const Operation& operation = request.operation;
-    HttpRequest adapted{operation.method, operation.url,         {},
-                        operation.body,   operation.contentType, request.isAwaited};
+    HttpRequest adapted{operation.method, operation.url, {}, operation.body, operation.contentType};
     adapted.headers.append({"Authorization", "Bearer " + accessToken_.toUtf8()});
     if (!request.idempotencyKey.isEmpty())
         adapted.headers.append({"Idempotency-Key", request.idempotencyKey});
@@ -125,24 +122,18 @@ void NetworkManager::log(const PipelineRequest& request, const HttpAnswer& answe
                        clock_.now().toMSecsSinceEpoch() - request.startedAt});
 }
 
-// Large answers take a while, so all are read in a worker thread; a watcher brings the end back to this one.
+// Large answers take a while, so all are read off the main thread.
 void NetworkManager::decode(const RequestPointer& request, const HttpAnswer& answer) {
-    using Watcher = QFutureWatcher<std::optional<json::Error>>;
-    auto* watcher = new Watcher(this);
-    connect(watcher, &Watcher::finished, this, [this, watcher, request, answer] {
-        const std::optional<json::Error> error = watcher->result();
-        watcher->deleteLater();
-        if (!error) {
-            request->succeed();
-            return;
-        }
-        logLine(request->operation.name.toStdString() + ": " + error->text());
-        failed(request, answer);
-    });
-    watcher->setFuture(
-        QtConcurrent::run([decode = request->decode, body = answer.body]() -> std::optional<json::Error> {
-            return decode(body);
-        }));
+    runInBackground(
+        this, [decode = request->decode, body = answer.body] { return decode(body); },
+        [this, request, answer](const std::optional<json::Error>& error) {
+            if (!error) {
+                request->succeed();
+                return;
+            }
+            logLine(request->operation.name.toStdString() + ": " + error->text());
+            failed(request, answer);
+        });
 }
 
 void NetworkManager::failed(const RequestPointer& request, const HttpAnswer& answer) {

@@ -47,6 +47,10 @@ public:
     [[nodiscard]] static SessionConfiguration backgroundConfiguration();
 
     [[nodiscard]] const NetworkConfiguration& networkConfiguration() const { return networkConfiguration_; }
+    // The passwords and tokens that no log may show, those to come included.
+    [[nodiscard]] std::shared_ptr<const KnownSecrets> knownSecrets() const {
+        return trafficLog_.knownSecrets();
+    }
     [[nodiscard]] bool isTokenRefreshing() const { return retrier_.isTokenRefreshing(); }
 
     [[nodiscard]] bool isReachable() const override;

@@ -2,7 +2,6 @@
 
 #include "base/json/Json.h"
 #include "network/FailureMapping.h"
-#include "network/HttpSession.h"
 #include "network/NetworkManager.h"
 #include "network/ParameterEncoding.h"
 

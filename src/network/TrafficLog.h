@@ -1,11 +1,13 @@
 #pragma once
 
-#include "network/HttpSession.h"
+#include "http/HttpExchange.h"
 #include "network/KnownSecrets.h"
 
 #include <QFile>
 #include <QJsonObject>
 #include <QString>
+
+#include <memory>
 
 namespace kavor {
 
@@ -31,8 +33,10 @@ public:
         qint64 milliseconds = 0;
     };
     [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
-    // A password or token that no line shows from now on. Does nothing while the log is not open.
-    void keepOut(const QString& secret);
+    // A password or token that no line shows from now on.
+    void keepOut(const QString& secret) { secrets_->add(secret); }
+    // For who writes another log.
+    [[nodiscard]] std::shared_ptr<const KnownSecrets> knownSecrets() const { return secrets_; }
     void write(const Entry& entry);
 
 private:
@@ -41,7 +45,7 @@ private:
     [[nodiscard]] QJsonObject headerObject(const HttpHeaders& headers) const;
 
     QFile file_;
-    KnownSecrets secrets_;
+    std::shared_ptr<KnownSecrets> secrets_ = std::make_shared<KnownSecrets>();
 };
 
 } // namespace kavor

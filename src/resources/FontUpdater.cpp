@@ -65,7 +65,7 @@ void FontUpdater::update(Typographies typographies, std::function<void()> finish
             files.push_back(*file);
         }
     }
-    logLine("New fonts to download: " + bracketed(fresh) + ".");
+    logLine("New fonts to download: " + bracketed(fresh) + ".", LogLevel::Note);
     auto run =
         std::make_shared<Run>(Run{std::move(typographies), std::move(finished), int(fresh.size()) + 1});
     for (std::size_t i = 0; i < fresh.size(); ++i)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "http/HttpConnections.h"
+#include "http/HttpExchange.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -63,14 +64,12 @@ public:
     [[nodiscard]] bool isFetching(const QUrl& url) const { return running_.contains(url); }
 
 private:
-    // One download across its redirects.
     struct Job {
         Ticket ticket = 0;
         QUrl url;
         qint64 sizeLimit = 0;
         Lane lane = Lane::Wanted;
         Callback callback;
-        int redirects = 0;
     };
     using JobPointer = std::shared_ptr<Job>;
     struct Queue {
@@ -81,11 +80,8 @@ private:
     Queue& queueOf(Lane lane) { return lanes_[std::size_t(lane)]; }
     void enter(const JobPointer& job);
     void startNext(Lane lane);
-    void send(const QUrl& url, const JobPointer& job);
-    void received(QNetworkReply* reply, const QUrl& url, const JobPointer& job);
-    void finish(const JobPointer& job, const DownloadResult& result);
-    void watchSize(QNetworkReply* reply, const JobPointer& job);
-    DownloadResult resultOf(QNetworkReply* reply) const;
+    void send(const JobPointer& job);
+    void finish(const JobPointer& job, const HttpAnswer& answer);
 
     HttpConnections connections_{this};
     std::array<Queue, laneWidths.size()> lanes_;

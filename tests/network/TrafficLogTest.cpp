@@ -102,6 +102,17 @@ TEST(TrafficLog, ShowsNoKnownSecretWhereverTheServerRepeatsIt) {
     EXPECT_EQ(refused["answerHeaders"]["X-Echo"].toString(), "*** ***");
 }
 
+TEST(KnownSecrets, OfAManagerAreThoseStoredAndThoseOfTheSessionAlsoWithoutATrafficLog) {
+    Rig rig(true);
+    NetworkManager manager(configurationFor(rig.server.address()), {rig.auth, rig.reachability, rig.clock});
+    const auto known = manager.knownSecrets();
+    EXPECT_EQ(known->blanked("stored s3cret one-time fresh").toStdString(), "*** *** one-time fresh");
+    Outcome login;
+    manager.login({"ana", "one-time", {}}, login.completion<LoginResult>());
+    manager.setAccessToken("fresh");
+    EXPECT_EQ(known->blanked("stored s3cret one-time fresh").toStdString(), "*** *** *** ***");
+}
+
 TEST(TrafficLog, WritesOneLineForEachRequestAndNothingSecret) {
     TemporaryFolder folder;
     const auto file = folder / "traffic.log";

@@ -29,6 +29,8 @@ TEST(PlainDownloader, TellsWholeBodiesFromEverythingElse) {
     zipped.headers.emplaceBack("Content-Encoding", "gzip");
     ScriptedAnswer chunked = ScriptedAnswer::json(body);
     chunked.framing = Framing::Chunked;
+    ScriptedAnswer cutFault = ScriptedAnswer::cut("nothing", 3);
+    cutFault.status = 404;
     struct Case {
         const char* name;
         ScriptedAnswer answer;
@@ -42,6 +44,7 @@ TEST(PlainDownloader, TellsWholeBodiesFromEverythingElse) {
         {"created", ScriptedAnswer::json(body, 201), false, 201, 5000},
         {"bad request", ScriptedAnswer::json("no", 400), false, 400, 2},
         {"not found", ScriptedAnswer::json("no", 404), false, 404, 2},
+        {"not found and cut", cutFault, false, 404, 3},
         {"teapot", ScriptedAnswer::json("no", 418), false, 418, 2},
         {"proxy's fault", ScriptedAnswer::json("no", 407), false, 407, 2},
         {"server fault", ScriptedAnswer::json("no", 500), false, 500, 2},

@@ -220,7 +220,7 @@ int run(int argc, char** argv) {
         const rlimit limit{std::strtoul(argv[5], nullptr, 10), std::strtoul(argv[5], nullptr, 10)};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
-    setLogSink([](std::string_view) { somethingFailed = true; });
+    setLogSink([](const LogEntry&) { somethingFailed = true; });
     auto& session = AppSingleton::shared();
     session.setFolders(argv[1], argv[1]);
     session.applicationInformation = std::make_shared<const Catalogue>(stamped<ApplicationInformation>(1));

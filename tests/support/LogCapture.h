@@ -13,9 +13,9 @@ namespace kavor {
 class LogCapture {
 public:
     LogCapture() {
-        setLogSink([this](std::string_view text) {
+        setLogSink([this](const LogEntry& entry) {
             const std::lock_guard lock(mutex_);
-            lines_.emplace_back(text);
+            lines_.emplace_back(entry.text);
         });
     }
     LogCapture(const LogCapture&) = delete;

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "device/Background.h"
 #include "session/AppSingleton.h"
-
-#include <QtConcurrent>
 
 #include <memory>
 
@@ -15,18 +14,20 @@ public:
     // Begins to copy the catalogue in place.
     void prepare() {
         base_ = AppSingleton::shared().applicationInformation;
-        copy_ = QtConcurrent::run([base = base_] { return std::make_shared<Catalogue>(*base); });
+        copy_ = Copy([base = base_] { return std::make_shared<Catalogue>(*base); });
     }
     // Waits for the copy and gives it away; null when another catalogue has come into place meanwhile.
     std::shared_ptr<Catalogue> take() {
         const bool current = base_ && base_ == AppSingleton::shared().applicationInformation;
         base_.reset();
-        return current ? copy_.takeResult() : nullptr;
+        return current ? copy_.take() : nullptr;
     }
 
 private:
+    using Copy = BegunWork<std::shared_ptr<Catalogue>>;
+
     std::shared_ptr<const Catalogue> base_;
-    QFuture<std::shared_ptr<Catalogue>> copy_;
+    Copy copy_;
 };
 
 } // namespace kavor

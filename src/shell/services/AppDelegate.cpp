@@ -67,7 +67,7 @@ void AppDelegate::didFinishLaunching() {
 
 void AppDelegate::setUpNotifications() {
     connect(&services_.push, &PushRegistration::tokenReceived, this, [this](const QString& token) {
-        logLine("Firebase registration token: " + token.toStdString());
+        logLine("Firebase registration token: " + token.toStdString(), LogLevel::Note);
         services_.session.fcmToken = token.toStdString();
     });
     connect(&services_.push, &PushRegistration::failed, this, [](const QString& description) {
@@ -150,9 +150,9 @@ bool AppDelegate::openUrl(const QString& url) {
 }
 
 void AppDelegate::didReceiveNotificationResponse(const QString& action, const QVariantMap& userInfo) {
-    logLine("Notification response: " + action.toStdString());
+    logLine("Notification response: " + action.toStdString(), LogLevel::Note);
     if (!orderIdIn(userInfo)) {
-        logLine(wordFor(action));
+        logLine(wordFor(action), LogLevel::Note);
         return;
     }
     if (action != QLatin1String(notification_action::open))

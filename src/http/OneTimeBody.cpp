@@ -1,4 +1,4 @@
-#include "network/OneTimeBody.h"
+#include "http/OneTimeBody.h"
 
 #include <algorithm>
 #include <cstring>
