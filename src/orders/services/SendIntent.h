@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/OrderRequestType.h"
 #include "documents/UnansweredSend.h"
 #include "orders/OrderDiskManager.h"
 
@@ -12,6 +13,7 @@
 
 namespace kavor {
 
+struct KeptOrder;
 struct RequestFailure;
 struct SaveBrochuresOrder;
 
