@@ -2,7 +2,6 @@
 
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "brochures/engine/DraftContent.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStepFactory.h"
@@ -106,8 +105,8 @@ BrochureMenuViewController::~BrochureMenuViewController() {
 void BrochureMenuViewController::viewDidLoad() {
     if (BrochureIntermediateData::temporalBrochure()->sent) // what was sent isn't resumed
         BrochureIntermediateData::replaceTemporalBrochure();
-    if (TemporalBrochure::shared().restoreDraft() && holdsWork(*BrochureIntermediateData::temporalBrochure()))
-        recoveredMessage_ = QStringLiteral("Se ha recuperado la carta en curso");
+    TemporalBrochure::shared().restoreDraft();
+    recoveredMessage_ = fromUtf8(TemporalBrochure::shared().takeWord());
     applyParameters();
     showStep(wizard_step::configuration);
     const auto fallenOut = BrochureIntermediateData::temporalBrochure()->takeFallenOut();
