@@ -13,9 +13,9 @@
 #include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
+#include "screens/PictureText.h"
 #include "session/AppSingleton.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QPointer>
 #include <QStringList>
@@ -28,18 +28,6 @@ namespace {
 
 constexpr int largestLogoSide = 1024; // pixels; the logo travels inside the order
 constexpr std::size_t everyField = 100;
-
-std::string logoOf(const QImage& photo) {
-    const QImage small =
-        std::max(photo.width(), photo.height()) > largestLogoSide
-            ? photo.scaled(largestLogoSide, largestLogoSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-            : photo;
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    small.save(&buffer, "PNG");
-    return CustomerForm::dataText(png);
-}
 
 } // namespace
 
@@ -290,7 +278,7 @@ void BrochureConfigurationViewController::searchLogoInGallery() {
         if (!photo)
             return;
         runInBackground(
-            this, [image = *photo] { return logoOf(image); },
+            this, [image = *photo] { return picture_text::of(image, largestLogoSide); },
             [this](std::string logo) { setLogo(std::move(logo)); });
     });
     if (!opened)

@@ -2,9 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "catalogue/Shared.h"
-
-#include <QBuffer>
-#include <QImage>
+#include "screens/PictureText.h"
 
 #include <algorithm>
 #include <array>
@@ -51,8 +49,6 @@ constexpr std::array table{
                   &Validations::customerFreeText},
 };
 
-constexpr std::string_view pngPrefix = "data:image/png;base64,";
-
 } // namespace
 
 std::span<const CustomerField> CustomerForm::fields() {
@@ -69,7 +65,7 @@ void CustomerForm::fill(const Customer& customer) {
         const std::string value = entry.member ? (customer.*entry.member).value_or("") : customer.name;
         texts_[std::string(entry.name)] = QString::fromStdString(value);
     }
-    imageLogo_ = readLogo(customer.imageLogo);
+    imageLogo_ = picture_text::asPng(customer.imageLogo.value_or(std::string()));
     found_ = {customer.id, customer.placeLocalityId, customer.placeProvinceId,
               customer.priorityBrandIdentifiers};
 }
@@ -120,25 +116,6 @@ bool CustomerForm::editText(std::string_view name, const QString& text) {
     if (name == "provinceTextField")
         found_.placeProvinceId.reset();
     return true;
-}
-
-std::string CustomerForm::dataText(const QByteArray& png) {
-    return png.isEmpty() ? std::string() : std::string(pngPrefix) + png.toBase64().toStdString();
-}
-
-std::string CustomerForm::readLogo(const std::optional<std::string>& imageLogo) {
-    const auto comma = imageLogo ? imageLogo->find(',') : std::string::npos;
-    if (comma == std::string::npos)
-        return {};
-    const auto bytes = QByteArray::fromBase64(QByteArray::fromStdString(imageLogo->substr(comma + 1)));
-    if (imageLogo->starts_with(pngPrefix) && bytes.startsWith("\x89PNG"))
-        return *imageLogo;
-    const QImage picture = QImage::fromData(bytes);
-    QByteArray png;
-    QBuffer buffer(&png);
-    if (picture.isNull() || !buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "PNG"))
-        return {};
-    return dataText(png);
 }
 
 } // namespace kavor

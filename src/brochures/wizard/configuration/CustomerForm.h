@@ -58,11 +58,6 @@ public:
     [[nodiscard]] const std::string& imageLogo() const { return imageLogo_; }
     void setImageLogo(std::string dataText) { imageLogo_ = std::move(dataText); }
 
-    // The data text of a PNG.
-    static std::string dataText(const QByteArray& png);
-    // The data text of the picture in the base64 after the first comma, as PNG; empty when there is none.
-    static std::string readLogo(const std::optional<std::string>& imageLogo);
-
 private:
     struct Found {
         std::optional<Int> id;
