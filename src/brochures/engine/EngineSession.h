@@ -2,6 +2,7 @@
 
 #include "catalogue/Catalogue.h"
 #include "session/StateFile.h"
+#include "session/UnfinishedWork.h"
 
 #include <filesystem>
 #include <optional>

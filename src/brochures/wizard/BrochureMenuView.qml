@@ -1,5 +1,6 @@
 import QtQuick
 import Kavor.Ui
+import Kavor.Kit
 import Kavor.Screens
 
 // The frame of the wizard: the bar, the menu at the side (on a phone a strip below the bar), and the step on show.
@@ -85,10 +86,5 @@ FocusScope {
         anchors.fill: parent
     }
 
-    Veil {
-        shown: view.controller.veilVisible
-        text: view.controller.veilText
-        leavable: view.controller.veilLeavable
-        onAbandoned: view.controller.leaveVeil()
-    }
+    ScreenVeil { veilState: view.controller.veil }
 }

@@ -2,7 +2,6 @@
 
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "brochures/engine/DraftContent.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStepFactory.h"
@@ -13,7 +12,6 @@
 #include "device/Reachability.h"
 #include "interaction/PressGuard.h"
 #include "interaction/Questions.h"
-#include "interaction/VeiledRun.h"
 #include "network/ServiceOperations.h"
 #include "session/AppSingleton.h"
 
@@ -63,12 +61,6 @@ const Entry* entryOf(int button) {
     return nullptr;
 }
 
-bool isOn(const NotificationInfo& info, const char* key) {
-    const auto entry = info.find(key);
-    const bool* value = entry == info.end() ? nullptr : std::get_if<bool>(&entry->second);
-    return value && *value;
-}
-
 QString styleCaption(BrochureType type) {
     switch (type) {
     case BrochureType::chalkboard:
@@ -114,8 +106,8 @@ BrochureMenuViewController::~BrochureMenuViewController() {
 void BrochureMenuViewController::viewDidLoad() {
     if (BrochureIntermediateData::temporalBrochure()->sent) // what was sent isn't resumed
         BrochureIntermediateData::replaceTemporalBrochure();
-    if (TemporalBrochure::shared().restoreDraft() && holdsWork(*BrochureIntermediateData::temporalBrochure()))
-        recoveredMessage_ = QStringLiteral("Se ha recuperado la carta en curso");
+    TemporalBrochure::shared().restoreDraft();
+    recoveredMessage_ = fromUtf8(TemporalBrochure::shared().takeWord());
     applyParameters();
     showStep(wizard_step::configuration);
     const auto fallenOut = BrochureIntermediateData::temporalBrochure()->takeFallenOut();
@@ -126,12 +118,7 @@ void BrochureMenuViewController::viewDidLoad() {
 void BrochureMenuViewController::viewDidAppear() {
     appeared_ = true;
     auto& center = NotificationCenter::shared();
-    observers_.push_back(center.observe(notification::visibilityVeilView, [this](
-                                                                              const NotificationInfo& info) {
-        const auto text = info.find("text");
-        const auto* words = text == info.end() ? nullptr : std::get_if<std::string>(&text->second);
-        setVeil(isOn(info, "show"), isOn(info, VeiledRun::leavable), words ? fromUtf8(*words) : QString());
-    }));
+    veil_.follow();
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
                        [this](const NotificationInfo&) { alreadyDismissedPreferredBrandsBanner_ = true; }));
@@ -250,6 +237,7 @@ void BrochureMenuViewController::viewWillDisappear() {
         return;
     appeared_ = false;
     observers_.clear();
+    veil_.unfollow();
     saveActiveStep(); // also while a reset is under way
 }
 
@@ -323,23 +311,6 @@ void BrochureMenuViewController::closePreview() {
     preview_->deleteLater();
     preview_ = nullptr;
     emit previewChanged();
-}
-
-void BrochureMenuViewController::setVeil(bool visible, bool leavable, const QString& text) {
-    if (visible && text != veilText_) { // a veil that goes keeps its words until it is gone
-        veilText_ = text;
-        emit veilTextChanged();
-    }
-    if (veilVisible_ == visible && veilLeavable_ == leavable)
-        return;
-    veilVisible_ = visible;
-    veilLeavable_ = leavable;
-    emit veilVisibleChanged();
-}
-
-void BrochureMenuViewController::leaveVeil() {
-    if (veilLeavable_)
-        NotificationCenter::shared().post(notification::veilViewLeft);
 }
 
 QString BrochureMenuViewController::title() const {

@@ -4,6 +4,7 @@
 #include "brochures/wizard/CatalogueCopy.h"
 #include "brochures/wizard/WizardStep.h"
 #include "screens/ScreenController.h"
+#include "screens/VeilState.h"
 #include "screens/WebPreviewViewController.h"
 
 #include <QQmlEngine>
@@ -33,11 +34,7 @@ class BrochureMenuViewController : public kavor::ScreenController {
     Q_PROPERTY(QVariantList menuButtons READ menuButtons NOTIFY menuButtonsChanged)
     Q_PROPERTY(kavor::WizardStepViewController* activeViewController READ activeViewController NOTIFY
                    activeStepChanged)
-    Q_PROPERTY(bool veilVisible READ isVeilVisible NOTIFY veilVisibleChanged)
-    // What the veil waits for; empty when its poster does not say.
-    Q_PROPERTY(QString veilText READ veilText NOTIFY veilTextChanged)
-    // Whether what the veil waits for can be left.
-    Q_PROPERTY(bool veilLeavable READ isVeilLeavable NOTIFY veilVisibleChanged)
+    Q_PROPERTY(kavor::VeilState* veil READ veil CONSTANT)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
     // The document on show over the wizard, null when there is none.
     Q_PROPERTY(kavor::WebPreviewViewController* preview READ preview NOTIFY previewChanged)
@@ -72,9 +69,10 @@ public:
     [[nodiscard]] bool isButtonVisible(int index) const;
     [[nodiscard]] int selectedButton() const { return selected_; }
     [[nodiscard]] WizardStepViewController* activeViewController() const { return activeViewController_; }
-    [[nodiscard]] bool isVeilVisible() const { return veilVisible_; }
-    [[nodiscard]] QString veilText() const { return veilText_; }
-    [[nodiscard]] bool isVeilLeavable() const { return veilLeavable_; }
+    [[nodiscard]] VeilState* veil() { return &veil_; }
+    [[nodiscard]] bool isVeilVisible() const { return veil_.isVisible(); }
+    [[nodiscard]] QString veilText() const { return veil_.text(); }
+    [[nodiscard]] bool isVeilLeavable() const { return veil_.isLeavable(); }
     [[nodiscard]] bool isOffline() const;
     [[nodiscard]] WebPreviewViewController* preview() const { return preview_; }
     [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }
@@ -84,7 +82,7 @@ public:
     // Closes the wizard at once.
     Q_INVOKABLE void closeSceneAction();
     // The user waits no longer for what the veil stands for.
-    Q_INVOKABLE void leaveVeil();
+    void leaveVeil() { veil_.leave(); }
     // Shows a document over the wizard.
     void showPreview(const QUrl& document);
     // Saves the step on show and the temporary copy, as when the wizard goes off the screen.
@@ -95,8 +93,6 @@ signals:
     void activeStepChanged();
     void offlineChanged();
     void subtitleChanged();
-    void veilVisibleChanged();
-    void veilTextChanged();
     void previewChanged();
 
 private:
@@ -112,7 +108,6 @@ private:
     void select(int index);
     void askForReset();
     void reset();
-    void setVeil(bool visible, bool leavable, const QString& text);
     void previewFromConfiguration();
     void closePreview();
     void connectStep(WizardStepViewController* step);
@@ -120,7 +115,7 @@ private:
     WizardServices services_;
     QString styleDefaultLabel_;
     QString recoveredMessage_;
-    QString veilText_;
+    VeilState veil_;
     std::vector<bool> visibleButtons_;
     int selected_ = Configuration;
     WizardStepViewController* activeViewController_ = nullptr;
@@ -131,8 +126,6 @@ private:
     std::vector<NotificationCenter::Subscription> observers_;
     CatalogueCopy catalogueToReset_; // made while the user is asked
     bool alreadyDismissedPreferredBrandsBanner_ = false;
-    bool veilVisible_ = false;
-    bool veilLeavable_ = false;
     bool appeared_ = false;
     bool loadingStep_ = false;
     bool askingAboutSentOrder_ = false;

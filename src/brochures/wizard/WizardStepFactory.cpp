@@ -3,6 +3,7 @@
 #include "base/StopProcess.h"
 #include "brochures/wizard/ComingSoonStep.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
+#include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
@@ -31,7 +32,7 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::prices:
         return new BrochurePriceSetterViewController(services, parent);
     case wizard_step::orderSheet:
-        return comingSoon("El comandero", "ordersheet", parent);
+        return new BrochureOrderSheetViewController(services, parent);
     case wizard_step::send:
         return new BrochureSendViewController(services, parent);
     case wizard_step::promotions:

@@ -4,7 +4,7 @@
 #include "device/Background.h"
 #include "device/PhotoPicker.h"
 #include "interaction/QtText.h"
-#include "resources/PictureText.h"
+#include "screens/PictureText.h"
 
 #include <utility>
 
@@ -21,7 +21,7 @@ LogoForm::LogoForm(PhotoPicker& photos, QObject* parent)
     , photos_(photos) {}
 
 void LogoForm::fill(const std::optional<std::string>& imageLogo) {
-    dataText_ = pngDataText(imageLogo);
+    dataText_ = picture_text::asPng(imageLogo.value_or(std::string()));
     emit changed();
 }
 
@@ -34,7 +34,7 @@ void LogoForm::searchLogoInGallery() {
         if (!photo)
             return;
         runInBackground(
-            this, [image = *photo] { return pngDataText(image, largestLogoSide); },
+            this, [image = *photo] { return picture_text::of(image, largestLogoSide); },
             [this](std::string logo) { take(std::move(logo)); });
     });
     if (!opened)

@@ -113,7 +113,7 @@ FocusScope {
             objectName: "loginButton"
             width: parent.width
             text: "Iniciar sesión"
-            busy: form.controller.veilShown
+            busy: form.controller.veil.visible
             enabled: form.controller.loginEnabled || busy
             onClicked: form.controller.loginAction()
         }

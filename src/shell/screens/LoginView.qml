@@ -1,6 +1,7 @@
 import QtQuick
 import Kavor.Screens
 import Kavor.Ui
+import Kavor.Kit
 
 // The login form; beside it, where there is room, a picture.
 FocusScope {
@@ -85,10 +86,5 @@ FocusScope {
         font.family: Theme.fontFamily
         font.pixelSize: Theme.fontSmall
     }
-    Veil {
-        shown: view.controller.veilShown
-        text: "Iniciando sesión"
-        leavable: true
-        onAbandoned: view.controller.cancelLoginAction()
-    }
+    ScreenVeil { veilState: view.controller.veil }
 }

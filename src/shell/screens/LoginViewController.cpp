@@ -17,6 +17,8 @@ namespace kavor {
 LoginViewController::LoginViewController(const Services& services, QObject* parent)
     : QObject(parent)
     , services_(services) {
+    veil_.setText(QStringLiteral("Iniciando sesión"));
+    connect(&veil_, &VeilState::left, this, &LoginViewController::cancelLoginAction);
     prefill();
     urlSchemeOpened_ = services_.notifications.observe(notification::urlSchemeOpened,
                                                        [this](const NotificationInfo&) { loginWithToken(); });
@@ -49,11 +51,6 @@ void LoginViewController::setPassword(const QString& password) {
 void LoginViewController::setLoginEnabled(bool enabled) {
     if (std::exchange(loginEnabled_, enabled) != enabled)
         emit loginEnabledChanged();
-}
-
-void LoginViewController::setLoggingIn(bool running) {
-    if (std::exchange(loggingIn_, running) != running)
-        emit veilShownChanged();
 }
 
 void LoginViewController::loginAction() {

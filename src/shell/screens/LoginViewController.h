@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "interaction/PendingRun.h"
 #include "network/ShowRequestFailure.h"
+#include "screens/VeilState.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -26,7 +27,7 @@ class LoginViewController : public QObject {
     Q_PROPERTY(QString password READ password WRITE setPassword NOTIFY fieldsChanged)
     Q_PROPERTY(bool rememberPassword READ rememberPassword NOTIFY rememberPasswordChanged)
     Q_PROPERTY(bool loginEnabled READ isLoginEnabled NOTIFY loginEnabledChanged)
-    Q_PROPERTY(bool veilShown READ isVeilShown NOTIFY veilShownChanged)
+    Q_PROPERTY(kavor::VeilState* veil READ veil CONSTANT)
     Q_PROPERTY(QString versionLabel READ versionLabel CONSTANT)
 
 public:
@@ -47,14 +48,15 @@ public:
     [[nodiscard]] QString password() const { return password_; }
     [[nodiscard]] bool rememberPassword() const { return rememberPassword_; }
     [[nodiscard]] bool isLoginEnabled() const { return loginEnabled_; }
-    [[nodiscard]] bool isVeilShown() const { return loggingIn_; }
+    [[nodiscard]] VeilState* veil() { return &veil_; }
+    [[nodiscard]] bool isVeilShown() const { return veil_.isVisible(); }
     [[nodiscard]] QString versionLabel() const;
     void setEmail(const QString& email);
     void setPassword(const QString& password);
 
     Q_INVOKABLE void loginAction();
     // Leaves the login under way; its answer changes nothing any more.
-    Q_INVOKABLE void cancelLoginAction();
+    void cancelLoginAction();
     Q_INVOKABLE void rememberPasswordSwitchValueChangedAction(bool on);
     Q_INVOKABLE void resetPasswordAction();
     Q_INVOKABLE void activateUserAction();
@@ -66,7 +68,6 @@ signals:
     void fieldsChanged();
     void rememberPasswordChanged();
     void loginEnabledChanged();
-    void veilShownChanged();
     // The password field gives up the focus.
     void passwordResigned();
     // A login by an opened address starts now; the form is to be on show.
@@ -87,7 +88,7 @@ private:
     void loginSucceeded(const LoginResult& result);
     void rememberCredentials();
     void setLoginEnabled(bool enabled);
-    void setLoggingIn(bool running);
+    void setLoggingIn(bool running) { veil_.setVisible(running, running); }
 
     Services services_;
     NotificationCenter::Subscription urlSchemeOpened_;
@@ -95,7 +96,7 @@ private:
     QString password_;
     bool rememberPassword_ = false;
     bool loginEnabled_ = true;
-    bool loggingIn_ = false;
+    VeilState veil_;
     bool passwordUsed_ = false; // by the last login
     PendingRun login_;
     std::optional<Retrieved> retrievedCredentials_;

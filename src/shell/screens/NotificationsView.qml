@@ -10,7 +10,7 @@ Item {
 
     required property WelcomeViewController controller
     // Not below a veil that still stands.
-    readonly property bool shown: controller.notificationsShown && !controller.progressVeilShown
+    readonly property bool shown: controller.notificationsShown && !controller.progressVeil.visible
     // The distance from the top of the window: 0 on show, the height of the window when away.
     readonly property real notificationViewTopConstraint: sheet.away * height
 

@@ -1,6 +1,7 @@
 import QtQuick
 import Kavor.Screens
 import Kavor.Ui
+import Kavor.Kit
 
 // The dashboard: what can be ordered, and the tools beside it.
 FocusScope {
@@ -105,12 +106,5 @@ FocusScope {
     NotificationsView {
         controller: view.controller
     }
-    Veil {
-        objectName: "progressVeilView"
-        shown: view.controller.progressVeilShown
-        text: view.controller.progressMessage
-        progress: view.controller.progress
-        leavable: true
-        onAbandoned: view.controller.cancelUpdateAction()
-    }
+    ScreenVeil { objectName: "progressVeilView"; veilState: view.controller.progressVeil }
 }

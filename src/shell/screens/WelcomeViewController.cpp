@@ -57,6 +57,8 @@ int countOutbox(const OrderDiskManager& disk) {
 WelcomeViewController::WelcomeViewController(const Services& services, QObject* parent)
     : ScreenController(parent)
     , services_(services) {
+    progressVeil_.setProgress(0);
+    connect(&progressVeil_, &VeilState::left, this, &WelcomeViewController::cancelUpdateAction);
     observe();
     const auto& rights = services_.session.loginResult;
     if (!rights || !rights->showLogoNrv)
@@ -208,7 +210,7 @@ void WelcomeViewController::updateUserInformation() {
 }
 
 void WelcomeViewController::fetchCatalogue() {
-    setProgress(progress_, QString::fromUtf8(CatalogueUpdate::updatingText));
+    setProgress(progress(), QString::fromUtf8(CatalogueUpdate::updatingText));
     if (!run_.isUnderWay())
         beginRun();
     services_.catalogue.start();
@@ -348,17 +350,16 @@ void WelcomeViewController::countUnsentOrders() {
 }
 
 void WelcomeViewController::setProgress(double progress, const QString& message) {
-    progress_ = progress;
+    progressVeil_.setProgress(progress);
     if (!message.isEmpty())
-        progressMessage_ = message;
+        progressVeil_.setText(message);
     emit progressChanged();
 }
 
 void WelcomeViewController::showVeil(bool shown) {
     if (!shown)
         run_.end();
-    if (std::exchange(progressVeilShown_, shown) != shown)
-        emit progressChanged();
+    progressVeil_.setVisible(shown, shown);
 }
 
 } // namespace kavor

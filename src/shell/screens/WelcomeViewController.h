@@ -4,6 +4,7 @@
 #include "interaction/PendingRun.h"
 #include "network/ShowRequestFailure.h"
 #include "screens/ScreenController.h"
+#include "screens/VeilState.h"
 #include "shell/services/OrderUploadManager.h"
 
 #include <QVariantList>
@@ -29,9 +30,7 @@ class WelcomeViewController : public kavor::ScreenController {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(bool progressVeilShown READ isProgressVeilShown NOTIFY progressChanged)
-    Q_PROPERTY(QString progressMessage READ progressMessage NOTIFY progressChanged)
-    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(kavor::VeilState* progressVeil READ progressVeil CONSTANT)
     Q_PROPERTY(QString versionLabel READ versionLabel CONSTANT)
     Q_PROPERTY(QString loginImage READ loginImage CONSTANT)
     // Each entry: {identifier, label, image}.
@@ -69,9 +68,10 @@ public:
 
     void viewWillAppear() override;
 
-    [[nodiscard]] bool isProgressVeilShown() const { return progressVeilShown_; }
-    [[nodiscard]] QString progressMessage() const { return progressMessage_; }
-    [[nodiscard]] double progress() const { return progress_; }
+    [[nodiscard]] VeilState* progressVeil() { return &progressVeil_; }
+    [[nodiscard]] bool isProgressVeilShown() const { return progressVeil_.isVisible(); }
+    [[nodiscard]] QString progressMessage() const { return progressVeil_.text(); }
+    [[nodiscard]] double progress() const { return progressVeil_.progress(); }
     [[nodiscard]] QString versionLabel() const;
     [[nodiscard]] QString loginImage() const { return loginImage_; }
     [[nodiscard]] QVariantList welcomeButtons() const { return welcomeButtons_; }
@@ -92,7 +92,7 @@ public:
     Q_INVOKABLE void openTool(const QString& name);
     Q_INVOKABLE void updateInfoapp();
     // Leaves the refresh under way; what was under way changes nothing any more.
-    Q_INVOKABLE void cancelUpdateAction();
+    void cancelUpdateAction();
     Q_INVOKABLE void logout();
     Q_INVOKABLE void dismissNotificationsAction();
 
@@ -136,9 +136,7 @@ private:
     std::shared_ptr<DispatchGroup> uploadDispatchGroup_;
     std::unique_ptr<OrderUploadManager> uploadManager_;
     PendingRun run_;
-    bool progressVeilShown_ = false;
-    QString progressMessage_;
-    double progress_ = 0;
+    VeilState progressVeil_;
     QString loginImage_;
     QVariantList welcomeButtons_;
     bool notificationsShown_ = false;

@@ -105,7 +105,7 @@ void BrochurePriceSetterViewController::rebuildRows() {
     }
 }
 
-PriceTableModel::Cell BrochurePriceSetterViewController::cellOf(const PriceRow& row) const {
+PriceTableRow BrochurePriceSetterViewController::cellOf(const PriceRow& row) const {
     return {row, actualOrder_->isNewProduct(row.productIdentifier, row.brandIdentifier).value_or(false)};
 }
 
@@ -116,7 +116,7 @@ const PriceRow* BrochurePriceSetterViewController::rowAt(int row) const {
 }
 
 void BrochurePriceSetterViewController::reloadTable() {
-    std::vector<PriceTableModel::Cell> cells;
+    std::vector<PriceTableRow> cells;
     cells.reserve(productsPerBrandsSelected_.size());
     for (const PriceRow& row : productsPerBrandsSelected_)
         cells.push_back(cellOf(row));

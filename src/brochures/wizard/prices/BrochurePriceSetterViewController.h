@@ -110,7 +110,7 @@ signals:
 private:
     void rebuildRows();
     [[nodiscard]] PriceRow makeRow(const Product& brand, const Product::ProductFormat& format) const;
-    [[nodiscard]] PriceTableModel::Cell cellOf(const PriceRow& row) const;
+    [[nodiscard]] PriceTableRow cellOf(const PriceRow& row) const;
     [[nodiscard]] const PriceRow* rowAt(int row) const;
     void reloadTable();
     void setUpHighlight(bool withAlert);

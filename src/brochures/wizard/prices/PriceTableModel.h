@@ -1,21 +1,35 @@
 #pragma once
 
 #include "brochures/wizard/prices/PriceRow.h"
+#include "screens/RowListModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
+#include <utility>
 #include <vector>
 
 namespace kavor {
 
+// One row: its format, the draft's "new" mark, and the prices as their fields show them.
+struct PriceTableRow {
+    PriceRow row;
+    bool isNew = false;
+    QString primary = {};
+    QString secondary = {};
+
+    struct Key {
+        std::pair<Int, Int> operator()(const PriceTableRow& each) const {
+            return {each.row.brandIdentifier, each.row.productIdentifier};
+        }
+    };
+};
+
 // The table of the prices step as it stands on the screen. It shows the rows of its last reload: an edit
 // writes back only the field that was left.
-class PriceTableModel : public QAbstractListModel {
+class PriceTableModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the prices step")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
@@ -36,17 +50,11 @@ public:
     };
     static constexpr int tagOffset = 100;
 
-    // One cell: its row and the draft's "new" mark.
-    struct Cell {
-        PriceRow row;
-        bool isNew = false;
-    };
+    using RowListModel::RowListModel;
 
-    using QAbstractListModel::QAbstractListModel;
-
-    // Shows these cells, with one price field each or two.
-    void reload(std::vector<Cell> cells, bool withSecondaryPrice);
-    void reloadRow(int row, const Cell& cell);
+    // Shows these rows in their places, with one price field each or two.
+    void reload(std::vector<PriceTableRow> rows, bool withSecondaryPrice);
+    void reloadRow(int row, const PriceTableRow& content);
     // What a price field shows after it was left, by its tag.
     void setPriceText(int tag, const QString& text);
     void setNewProduct(int row, bool isNew);
@@ -54,24 +62,13 @@ public:
     // A text in the form for editing; text that is no price stays.
     [[nodiscard]] static QString editForm(const QString& currencyText);
 
-    [[nodiscard]] int count() const { return int(cells_.size()); }
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-signals:
-    void countChanged();
-
 private:
-    struct Shown {
-        Cell cell;
-        QString primary;
-        QString secondary;
-    };
-    [[nodiscard]] static Shown shown(Cell cell);
-    [[nodiscard]] QVariant rowData(const Shown& shown, int role) const;
+    [[nodiscard]] static QVariant rowData(const PriceTableRow& content, int role);
 
-    std::vector<Shown> cells_;
+    RowList<PriceTableRow, PriceTableRow::Key> rows_{*this};
     bool withSecondaryPrice_ = false;
 };
 

@@ -11,13 +11,6 @@
 
 namespace kavor {
 
-namespace {
-
-// So many runs of rows change one by one; a view never shows more.
-constexpr int exactRuns = 48;
-
-} // namespace
-
 void BrandListModel::setBrands(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family) {
     const auto products = catalogue->productsOfFamily(family);
     // Brands are mostly added at the end: the names before them are folded already.
@@ -32,22 +25,20 @@ void BrandListModel::setBrands(std::shared_ptr<const Catalogue> catalogue, Appli
     folded_.reserve(brands_.size());
     for (std::size_t i = folded_.size(); i < brands_.size(); ++i)
         folded_.push_back(text::sanitised(brands_[i]->name));
-    show(filtered(false));
-    if (!onlyGrown && !visible_.empty())
-        emit dataChanged(index(0), index(count() - 1));
+    visible_.show(filtered(false));
+    if (!onlyGrown)
+        visible_.repaint();
 }
 
 void BrandListModel::setDraft(std::shared_ptr<BrochureIntermediateData> draft) {
     draft_ = std::move(draft);
-    if (!visible_.empty())
-        emit dataChanged(index(0), index(count() - 1), {SelectedFormatsRole});
+    visible_.repaint({SelectedFormatsRole});
 }
 
 void BrandListModel::setPriorityBrands(std::set<Int> brands) {
     priority_ = std::move(brands);
-    show(filtered(false));
-    if (!visible_.empty())
-        emit dataChanged(index(0), index(count() - 1), {PriorityRole});
+    visible_.show(filtered(false));
+    visible_.repaint({PriorityRole});
 }
 
 void BrandListModel::setFilter(const BrandFilter& filter) {
@@ -57,7 +48,7 @@ void BrandListModel::setFilter(const BrandFilter& filter) {
                           filter.propertyId == filter_.propertyId &&
                           filter.search.starts_with(filter_.search);
     filter_ = filter;
-    show(filtered(narrower));
+    visible_.show(filtered(narrower));
 }
 
 void BrandListModel::selectionChanged(Int brand) {
@@ -84,65 +75,19 @@ std::vector<int> BrandListModel::filtered(bool withinVisible) const {
         std::iota(all.begin(), all.end(), 0);
     }
     std::vector<int> result;
-    std::ranges::copy_if(withinVisible ? visible_ : all, std::back_inserter(result),
+    std::ranges::copy_if(withinVisible ? visible_.all() : all, std::back_inserter(result),
                          [this](int brand) { return passes(brand); });
     return result;
 }
 
-void BrandListModel::removeRowsBetween(std::size_t first, std::size_t last) {
-    if (first == last)
-        return;
-    beginRemoveRows({}, int(first), int(last) - 1);
-    visible_.erase(visible_.begin() + std::ptrdiff_t(first), visible_.begin() + std::ptrdiff_t(last));
-    endRemoveRows();
-}
-
-void BrandListModel::insertAt(std::size_t place, std::vector<int>::const_iterator first,
-                              std::vector<int>::const_iterator last) {
-    if (first == last)
-        return;
-    beginInsertRows({}, int(place), int(place) + int(last - first) - 1);
-    visible_.insert(visible_.begin() + std::ptrdiff_t(place), first, last);
-    endInsertRows();
-}
-
-void BrandListModel::show(const std::vector<int>& wanted) {
-    const int before = count();
-    // Both lists ascend: walk them together and mend run after run.
-    std::size_t at = 0;
-    for (int runs = 0; runs < exactRuns; ++runs) {
-        while (at < visible_.size() && at < wanted.size() && visible_[at] == wanted[at])
-            ++at;
-        if (at == visible_.size() || at == wanted.size())
-            break;
-        if (visible_[at] < wanted[at]) {
-            const auto end =
-                std::lower_bound(visible_.begin() + std::ptrdiff_t(at), visible_.end(), wanted[at]);
-            removeRowsBetween(at, std::size_t(end - visible_.begin()));
-        } else {
-            const auto first = wanted.begin() + std::ptrdiff_t(at);
-            insertAt(at, first, std::lower_bound(first, wanted.end(), visible_[at]));
-        }
-    }
-    // What is left lies below the part on show: one span goes, one comes.
-    if (!std::ranges::equal(visible_, wanted)) {
-        removeRowsBetween(at, visible_.size());
-        insertAt(at, wanted.begin() + std::ptrdiff_t(at), wanted.end());
-    }
-    if (count() != before)
-        emit countChanged();
-}
-
 bool BrandListModel::hasVisibleName(const std::string& sanitised) const {
-    return std::ranges::any_of(visible_, [&](int brand) { return folded_[std::size_t(brand)] == sanitised; });
+    return std::ranges::any_of(visible_.all(),
+                               [&](int brand) { return folded_[std::size_t(brand)] == sanitised; });
 }
 
 const Product* BrandListModel::brandAt(int row) const {
-    return row >= 0 && row < count() ? brands_[std::size_t(visible_[std::size_t(row)])] : nullptr;
-}
-
-int BrandListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count();
+    const int* place = visible_.at(row);
+    return place ? brands_[std::size_t(*place)] : nullptr;
 }
 
 QString BrandListModel::pairingText(const Product& brand) const {

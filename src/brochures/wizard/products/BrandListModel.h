@@ -1,8 +1,8 @@
 #pragma once
 
 #include "catalogue/Catalogue.h"
+#include "screens/RowListModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -24,13 +24,11 @@ struct BrandFilter {
     bool operator==(const BrandFilter&) const = default;
 };
 
-// The brands of one family in catalogue order, reduced by a filter. A change of the filter arrives as few row
-// changes: one row at a time where the user looks, and one span for the rest.
-class BrandListModel : public QAbstractListModel {
+// The brands of one family in catalogue order, reduced by a filter.
+class BrandListModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the product step")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
@@ -45,7 +43,7 @@ public:
         SelectedFormatsRole, // list of format ids
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
     // Takes the brands of a family. Called again with a catalogue that has grown, it keeps the rows on show.
     void setBrands(std::shared_ptr<const Catalogue> catalogue, ApplicationFather family);
@@ -55,26 +53,17 @@ public:
     // Tells that formats of a brand were selected or deselected.
     void selectionChanged(Int brand);
 
-    [[nodiscard]] int count() const { return int(visible_.size()); }
     // Whether a brand on show has this sanitised name.
     [[nodiscard]] bool hasVisibleName(const std::string& sanitised) const;
     // The brand of a row; nullptr outside the list.
     [[nodiscard]] const Product* brandAt(int row) const;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
-signals:
-    void countChanged();
 
 private:
     [[nodiscard]] bool passes(int brand) const;
     [[nodiscard]] std::vector<int> filtered(bool withinVisible) const;
-    void show(const std::vector<int>& wanted);
-    void removeRowsBetween(std::size_t first, std::size_t last);
-    void insertAt(std::size_t place, std::vector<int>::const_iterator first,
-                  std::vector<int>::const_iterator last);
     [[nodiscard]] QString pairingText(const Product& brand) const;
     [[nodiscard]] QVariantList formats(const Product& brand) const;
     [[nodiscard]] QVariantList selectedFormats(const Product& brand) const;
@@ -83,9 +72,9 @@ private:
     std::shared_ptr<BrochureIntermediateData> draft_;
     std::vector<const Product*> brands_; // of the family, owned by catalogue_
     std::vector<std::string> folded_;    // the sanitised names of brands_
-    std::vector<int> visible_;           // ascending places in brands_
     std::set<Int> priority_;
     BrandFilter filter_;
+    RowList<int> visible_{*this}; // ascending places in brands_
 };
 
 } // namespace kavor
