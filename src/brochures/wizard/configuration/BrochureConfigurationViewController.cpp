@@ -52,16 +52,16 @@ std::optional<Int> BrochureConfigurationViewController::Options::idAt(int index)
     return index >= 0 && index < int(ids.size()) ? std::optional(ids[std::size_t(index)]) : std::nullopt;
 }
 
-BrochureConfigurationViewController::BrochureConfigurationViewController(const WizardServices& services,
+BrochureConfigurationViewController::BrochureConfigurationViewController(const WizardStepContext& context,
                                                                          QObject* parent)
     : WizardStepViewController(parent)
-    , services_(services)
-    , catalogue_(AppSingleton::shared().applicationInformation)
-    , draft_(BrochureIntermediateData::temporalBrochure())
-    , orientationElements_(new BlackboardFormatModel(this)) {
-    if (!catalogue_)
-        stopProcess("the catalogue of the configuration step");
-}
+    , services_(context.services)
+    , catalogue_(context.catalogue)
+    , draft_(context.draft)
+    , type_(context.kind)
+    , parameters_(context.parameters())
+    , isSecondPriceTypeInputAllowed_(context.type && context.type->isSecondBrochuresPriceAllowed)
+    , orientationElements_(new BlackboardFormatModel(this)) {}
 
 BrochureConfigurationViewController::~BrochureConfigurationViewController() = default;
 
@@ -73,11 +73,6 @@ QUrl BrochureConfigurationViewController::view() const {
 // ---------------------------------------------------------------------------------------------------
 
 void BrochureConfigurationViewController::viewDidLoad() {
-    type_ = AppSingleton::shared().brochureType();
-    if (const auto* parameters = sectionParameters(*catalogue_)) {
-        parameters_ = *parameters;
-        isSecondPriceTypeInputAllowed_ = sectionBrochureType(*catalogue_)->isSecondBrochuresPriceAllowed;
-    }
     fillOptions();
     buildFieldModels();
     if (isOrientationPaneVisible())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/CustomerForm.h"
 #include "catalogue/Brochures.h"
 #include "interaction/VeiledRun.h"
@@ -87,7 +87,7 @@ class BrochureConfigurationViewController : public kavor::WizardStepViewControll
 
 public:
     // The services outlive the step.
-    BrochureConfigurationViewController(const WizardServices& services, QObject* parent);
+    BrochureConfigurationViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureConfigurationViewController() override;
 
     [[nodiscard]] QUrl view() const override;

@@ -1,6 +1,5 @@
 #include "brochures/wizard/send/BrochureSendViewController.h"
 
-#include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
@@ -13,7 +12,6 @@
 #include "orders/OrderDiskManager.h"
 #include "orders/services/SendIntent.h"
 #include "screens/ResourceImages.h"
-#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <utility>
@@ -98,14 +96,9 @@ QString textOf(const Queued& queued) {
 
 } // namespace
 
-BrochureSendViewController::BrochureSendViewController(const WizardServices& services, QObject* parent)
+BrochureSendViewController::BrochureSendViewController(const WizardStepContext& context, QObject* parent)
     : WizardStepViewController(parent)
-    , services_(services)
-    , catalogue_(AppSingleton::shared().applicationInformation)
-    , draft_(BrochureIntermediateData::temporalBrochure()) {
-    if (!catalogue_)
-        stopProcess("the catalogue of the send step");
-}
+    , context_(context) {}
 
 BrochureSendViewController::~BrochureSendViewController() = default;
 
@@ -113,21 +106,15 @@ QUrl BrochureSendViewController::view() const {
     return stepView(QStringLiteral("BrochureSendView.qml"));
 }
 
-void BrochureSendViewController::viewDidLoad() {
-    type_ = AppSingleton::shared().brochureType();
-    if (const auto* parameters = sectionParameters(*catalogue_))
-        brochureTypeParameters_ = *parameters;
-}
-
 void BrochureSendViewController::viewWillAppear() {
     styleLogosInfo_.clear();
-    if (const auto* style = draft_->currentStyle()) {
+    if (const auto* style = context_.draft->currentStyle()) {
         for (const Int identifier : style->logotypeIdentifiers) {
-            if (const auto* logo = catalogue_->logo(identifier))
+            if (const auto* logo = context_.catalogue->logo(identifier))
                 styleLogosInfo_.push_back(logo);
         }
     }
-    summary_ = BrochureSendSummary::of(*draft_, *catalogue_);
+    summary_ = BrochureSendSummary::of(*context_.draft, *context_.catalogue);
     emit summaryChanged();
     emit freeTextForSupportChanged();
     emit buttonsChanged();
@@ -145,10 +132,10 @@ void BrochureSendViewController::sendOrderMyselfAction() {
 }
 
 void BrochureSendViewController::sendOrder(bool printedMyself) {
-    draft_->printedMyself = printedMyself;
+    context_.draft->printedMyself = printedMyself;
     emit editingShouldEnd();
-    if (draft_->sent) {
-        openLink(services_.urls, services_.alerts, orderURL().toString(QUrl::FullyEncoded));
+    if (context_.draft->sent) {
+        openLink(context_.services.urls, context_.services.alerts, orderURL().toString(QUrl::FullyEncoded));
         return;
     }
     checkAndSend(OrderRequestType::sendToPrint);
@@ -162,34 +149,34 @@ void BrochureSendViewController::previewAction() {
 void BrochureSendViewController::checkAndSend(OrderRequestType type) {
     if (type == OrderRequestType::saveCloud) // an unfinished draft may be kept
         return send(type);
-    const auto errors = draft_->validationErrors();
+    const auto errors = context_.draft->validationErrors();
     QStringList sentences;
     for (const std::string& error : errors)
         sentences.append(fromUtf8(error));
     setMissing(sentences);
     if (!errors.empty()) {
-        services_.alerts.inform(QStringLiteral("Pedido incompleto"), lines(errors));
+        context_.services.alerts.inform(QStringLiteral("Pedido incompleto"), lines(errors));
         return;
     }
-    const auto warnings = draft_->priceWarnings();
+    const auto warnings = context_.draft->priceWarnings();
     if (!warnings.empty())
         return askAboutPrices(type, lines(warnings));
     send(type);
 }
 
 void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QString& warnings) {
-    ask(services_.alerts, this, QStringLiteral("¿Los precios son correctos?"), warnings,
+    ask(context_.services.alerts, this, QStringLiteral("¿Los precios son correctos?"), warnings,
         {{QStringLiteral("Corregir"), AlertButton::Role::Cancel, {}},
          {QStringLiteral("Continuar"), AlertButton::Role::Normal, [this, type] { send(type); }}});
 }
 
 void BrochureSendViewController::send(OrderRequestType type) {
-    if (!services_.network.isReachable())
+    if (!context_.services.network.isReachable())
         return sendOffline(type);
-    const Order order = draft_->makeOrder(type, type != OrderRequestType::saveCloud);
-    const QByteArray key = send_intent::keyFor(draft_->unansweredSends, order);
-    autosave(draft_); // the key outlives the process
-    services_.network.saveOrder(
+    const Order order = context_.draft->makeOrder(type, type != OrderRequestType::saveCloud);
+    const QByteArray key = send_intent::keyFor(context_.draft->unansweredSends, order);
+    autosave(context_.draft); // the key outlives the process
+    context_.services.network.saveOrder(
         order,
         {wait_.begin(veilText(type), [this, type] { left(type); }),
          [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
@@ -199,8 +186,8 @@ void BrochureSendViewController::send(OrderRequestType type) {
 
 // An answer ends the intent, a lost one keeps its key for the next tap.
 void BrochureSendViewController::endIntent(const SaveBrochuresOrder& order) {
-    send_intent::answered(draft_->unansweredSends, order);
-    autosave(draft_);
+    send_intent::answered(context_.draft->unansweredSends, order);
+    autosave(context_.draft);
 }
 
 void BrochureSendViewController::sendOffline(OrderRequestType type) {
@@ -208,13 +195,13 @@ void BrochureSendViewController::sendOffline(OrderRequestType type) {
     case OrderRequestType::sendToPrint:
         return queueOffline();
     case OrderRequestType::sendPreview:
-        informOffline(services_.alerts);
+        informOffline(context_.services.alerts);
         return;
     case OrderRequestType::saveCloud:
-        services_.alerts.inform(
+        context_.services.alerts.inform(
             QStringLiteral("Guardado sólo localmente"),
             QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
-        services_.sync.startOrderSync();
+        context_.services.sync.startOrderSync();
         return;
     }
 }
@@ -224,16 +211,17 @@ void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const R
     wait_.end();
     if (!send_intent::isAnswerLost(failure))
         endIntent(order);
-    showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
+    showRequestFailure({context_.services.alerts, context_.services.urls}, {}, failure, true,
+                       failureTitle(type));
     if (type == OrderRequestType::saveCloud)
-        services_.sync.startOrderSync();
+        context_.services.sync.startOrderSync();
 }
 
 // The same as a lost answer: the order may have been made, and its key stays for the next send.
 void BrochureSendViewController::left(OrderRequestType type) {
     switch (type) {
     case OrderRequestType::sendToPrint:
-        services_.alerts.inform(
+        context_.services.alerts.inform(
             QStringLiteral("Atención"),
             QStringLiteral(
                 "Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin cambiarlo, "
@@ -242,10 +230,10 @@ void BrochureSendViewController::left(OrderRequestType type) {
     case OrderRequestType::sendPreview:
         return;
     case OrderRequestType::saveCloud:
-        services_.alerts.inform(
+        context_.services.alerts.inform(
             QStringLiteral("Guardado sólo localmente"),
             QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
-        services_.sync.startOrderSync();
+        context_.services.sync.startOrderSync();
         return;
     }
 }
@@ -264,8 +252,9 @@ void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
         return printed(response);
     case OrderRequestType::sendPreview:
         if (!response.urlPDF) {
-            services_.alerts.inform(QStringLiteral("Error"),
-                                    QStringLiteral("No hay url que previsualizar. Contacte con soporte."));
+            context_.services.alerts.inform(
+                QStringLiteral("Error"),
+                QStringLiteral("No hay url que previsualizar. Contacte con soporte."));
             return;
         }
         previewURL_ = qurl(*response.urlPDF);
@@ -278,35 +267,37 @@ void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
 
 void BrochureSendViewController::printed(const SaveBrochuresOrderResponse& response) {
     if (!response.urlOrder) {
-        services_.alerts.inform(
+        context_.services.alerts.inform(
             QStringLiteral("Error"),
             QStringLiteral("No hay url para ver el pedido realizado. Contacte con soporte."));
         return;
     }
     TemporalBrochure::shared().removeAll();
-    markSent(*draft_, response.urlOrder->text);
+    markSent(*context_.draft, response.urlOrder->text);
     emit buttonsChanged();
-    services_.alerts.inform(QStringLiteral("Éxito"), fromUtf8(response.message.value_or("")));
+    context_.services.alerts.inform(QStringLiteral("Éxito"), fromUtf8(response.message.value_or("")));
 }
 
 void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& response) {
-    services_.alerts.inform(QStringLiteral("Pedido guardado"),
-                            QStringLiteral("El pedido se encuentra guardado en local y sincronizado"));
+    context_.services.alerts.inform(
+        QStringLiteral("Pedido guardado"),
+        QStringLiteral("El pedido se encuentra guardado en local y sincronizado"));
     if (response.orderId)
-        draft_->orderIdentifier = response.orderId;
+        context_.draft->orderIdentifier = response.orderId;
     if (response.customerId) {
-        if (!draft_->customerInformation)
-            draft_->customerInformation.emplace();
-        draft_->customerInformation->id = response.customerId;
+        if (!context_.draft->customerInformation)
+            context_.draft->customerInformation.emplace();
+        context_.draft->customerInformation->id = response.customerId;
     }
-    autosave(draft_);
-    if (!draft_->fileName)
+    autosave(context_.draft);
+    if (!context_.draft->fileName)
         return;
     // The identifiers stand on disk too, so that the order is not kept twice in the cloud.
     runInBackground(
         this,
-        [&orders = services_.orders, order = draft_->keptOrder(OrderRequestType::saveCloud, false),
-         file = OrderDiskManager::fileName(*draft_->fileName)] {
+        [&orders = context_.services.orders,
+         order = context_.draft->keptOrder(OrderRequestType::saveCloud, false),
+         file = OrderDiskManager::fileName(*context_.draft->fileName)] {
             return orders.update(order, file, Directory::draft);
         },
         [](bool) {}); // a failure is logged
@@ -317,73 +308,75 @@ void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& 
 
 void BrochureSendViewController::queueOffline() {
     showVeil(true, savingText);
-    KeptOrder order{draft_->makeOrder(OrderRequestType::sendToPrint, true)};
+    KeptOrder order{context_.draft->makeOrder(OrderRequestType::sendToPrint, true)};
     // What may be at the server already goes by the key under which it was sent.
-    if (auto known = send_intent::sentWithoutAnswer(draft_->unansweredSends, order); !known.empty())
+    if (auto known = send_intent::sentWithoutAnswer(context_.draft->unansweredSends, order); !known.empty())
         order.unansweredSends = std::move(known);
     runInBackground(
         this,
-        [&orders = services_.orders, order, unanswered = draft_->unansweredSends] {
+        [&orders = context_.services.orders, order, unanswered = context_.draft->unansweredSends] {
             return intoOutbox(orders, order, unanswered);
         },
         [this, order](const Queued& queued) {
             showVeil(false);
             if (queued.result == Queued::Result::Written)
                 noteQueued(order, OrderDiskManager::fileName(queued.name));
-            services_.alerts.inform(QStringLiteral("Sin conexión a internet."), textOf(queued));
+            context_.services.alerts.inform(QStringLiteral("Sin conexión a internet."), textOf(queued));
         });
 }
 
 // The order may still be sent from here once the network is back: then it is the one of the file.
 void BrochureSendViewController::noteQueued(const KeptOrder& order, const std::string& fileName) {
-    const auto moment = services_.orders.moment<KeptOrder>(fileName, Directory::outbox);
+    const auto moment = context_.services.orders.moment<KeptOrder>(fileName, Directory::outbox);
     if (!moment)
         return;
-    send_intent::noteQueued(draft_->unansweredSends, order,
+    send_intent::noteQueued(context_.draft->unansweredSends, order,
                             send_intent::keyOfFile(order, Directory::outbox, fileName, *moment));
-    autosave(draft_);
+    autosave(context_.draft);
 }
 
 void BrochureSendViewController::saveOrderAction() {
     emit editingShouldEnd();
-    const auto ask = [this] { askForName(fromUtf8(draft_->fileName.value_or(""))); };
-    if (!draft_->sent)
+    const auto ask = [this] { askForName(fromUtf8(context_.draft->fileName.value_or(""))); };
+    if (!context_.draft->sent)
         return ask();
-    askForAnotherOrder(services_.alerts, this, [this, ask](bool another) {
+    askForAnotherOrder(context_.services.alerts, this, [this, ask](bool another) {
         if (!another)
             return;
-        beginAnotherOrder(*draft_);
+        beginAnotherOrder(*context_.draft);
         viewWillAppear();
         ask();
     });
 }
 
 void BrochureSendViewController::askForName(const QString& proposal) {
-    askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
-               QStringLiteral("Guardar"), [this](const QString& name) { saveUnderName(name); });
+    askForText(context_.services.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"),
+               proposal, QStringLiteral("Guardar"), [this](const QString& name) { saveUnderName(name); });
 }
 
 void BrochureSendViewController::saveUnderName(const QString& name) {
     const std::string plainName = name.trimmed().toStdString();
     if (const auto refusal = OrderDiskManager::refusalOf(plainName))
-        return services_.alerts.inform(QStringLiteral("Atención"), fromUtf8(*refusal), this,
-                                       [this, name] { askForName(name); });
-    if (!services_.orders.exists<Order>(plainName, Directory::draft))
+        return context_.services.alerts.inform(QStringLiteral("Atención"), fromUtf8(*refusal), this,
+                                               [this, name] { askForName(name); });
+    if (!context_.services.orders.exists<Order>(plainName, Directory::draft))
         return writeDraftFile(plainName);
-    ask(services_.alerts, this, QStringLiteral("Atención"),
+    ask(context_.services.alerts, this, QStringLiteral("Atención"),
         QStringLiteral("Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?"),
         {no(), yesDestroy([this, plainName] { writeDraftFile(plainName); })});
 }
 
 void BrochureSendViewController::writeDraftFile(const std::string& name) {
     showVeil(true, savingText);
-    const auto former = std::exchange(draft_->fileName, name);
+    const auto former = std::exchange(context_.draft->fileName, name);
     // Whoever sends the file afterwards does so under the key under which this step sends it.
-    send_intent::keyFor(draft_->unansweredSends, draft_->makeOrder(OrderRequestType::saveCloud, false));
-    autosave(draft_);
+    send_intent::keyFor(context_.draft->unansweredSends,
+                        context_.draft->makeOrder(OrderRequestType::saveCloud, false));
+    autosave(context_.draft);
     runInBackground(
         this,
-        [&orders = services_.orders, name, order = draft_->keptOrder(OrderRequestType::saveCloud, false)] {
+        [&orders = context_.services.orders, name,
+         order = context_.draft->keptOrder(OrderRequestType::saveCloud, false)] {
             return orders.exists<Order>(name, Directory::draft)
                        ? orders.update(order, OrderDiskManager::fileName(name), Directory::draft)
                        : orders.create(order, Directory::draft, name);
@@ -392,10 +385,10 @@ void BrochureSendViewController::writeDraftFile(const std::string& name) {
             showVeil(false);
             if (written)
                 return checkAndSend(OrderRequestType::saveCloud);
-            draft_->fileName = former; // the draft is not in a file of that name
-            autosave(draft_);
-            services_.alerts.inform(QStringLiteral("Error al guardar pedido."),
-                                    QStringLiteral("Su pedido no se ha podido guardar"));
+            context_.draft->fileName = former; // the draft is not in a file of that name
+            autosave(context_.draft);
+            context_.services.alerts.inform(QStringLiteral("Error al guardar pedido."),
+                                            QStringLiteral("Su pedido no se ha podido guardar"));
         });
 }
 
@@ -403,21 +396,23 @@ void BrochureSendViewController::writeDraftFile(const std::string& name) {
 // ---------------------------------------------------------------------------------------
 
 void BrochureSendViewController::myselfAction() {
-    services_.alerts.inform(QStringLiteral("Información"),
-                            fromUtf8(catalogue_->information().validations.printedMyselfHelptext));
+    context_.services.alerts.inform(
+        QStringLiteral("Información"),
+        fromUtf8(context_.catalogue->information().validations.printedMyselfHelptext));
 }
 
 void BrochureSendViewController::printedKavorAction() {
-    const Validations& validations = catalogue_->information().validations;
-    services_.alerts.inform(QStringLiteral("Información"), fromUtf8(brochureTypeParameters_.withPrinter
-                                                                        ? validations.printedKavorHelptext
-                                                                        : validations.printedMyselfHelptext));
+    const Validations& validations = context_.catalogue->information().validations;
+    context_.services.alerts.inform(QStringLiteral("Información"),
+                                    fromUtf8(context_.parameters().withPrinter
+                                                 ? validations.printedKavorHelptext
+                                                 : validations.printedMyselfHelptext));
 }
 
 void BrochureSendViewController::finishSupportComment(const QString& comment) {
     if (comment == freeTextForSupport())
         return;
-    draft_->supportComment = comment.toStdString();
+    context_.draft->supportComment = comment.toStdString();
     emit freeTextForSupportChanged();
 }
 
@@ -436,16 +431,16 @@ void BrochureSendViewController::setMissing(const QStringList& sentences) {
 }
 
 QString BrochureSendViewController::brochureWord() const {
-    return type_ ? fromUtf8(label(*type_)) : QString();
+    return context_.kind ? fromUtf8(label(*context_.kind)) : QString();
 }
 
 bool BrochureSendViewController::isLocalNameMissing() const {
-    return !draft_->customerInformation || draft_->customerInformation->name.empty();
+    return !context_.draft->customerInformation || context_.draft->customerInformation->name.empty();
 }
 
 QString BrochureSendViewController::localNameLabel() const {
     return isLocalNameMissing() ? QStringLiteral("Nombre del local no especificado")
-                                : fromUtf8(draft_->customerInformation->name);
+                                : fromUtf8(context_.draft->customerInformation->name);
 }
 
 QString BrochureSendViewController::orderDataInfoLeft() const {
@@ -462,35 +457,35 @@ QString BrochureSendViewController::orderDataInfoRightWarning() const {
 }
 
 bool BrochureSendViewController::isStyleImageVisible() const {
-    return draft_->includePaperBrochure || brochureTypeParameters_.allowDigitalPdf;
+    return context_.draft->includePaperBrochure || context_.parameters().allowDigitalPdf;
 }
 
 QString BrochureSendViewController::styleImage() const {
-    const auto* style = draft_->currentStyle();
+    const auto* style = context_.draft->currentStyle();
     return style ? resourceImageUrl(style->firstImage) : QString();
 }
 
 QString BrochureSendViewController::styleName() const {
-    const auto* style = draft_->currentStyle();
+    const auto* style = context_.draft->currentStyle();
     return style ? fromUtf8(style->name) : QString();
 }
 
 bool BrochureSendViewController::isStyleDigitalImageVisible() const {
-    return draft_->includeDigitalBrochure;
+    return context_.draft->includeDigitalBrochure;
 }
 
 QString BrochureSendViewController::styleDigitalImage() const {
-    const auto* style = draft_->currentStyleDigital();
+    const auto* style = context_.draft->currentStyleDigital();
     return style ? resourceImageUrl(style->firstImage) : QString();
 }
 
 QString BrochureSendViewController::styleDigitalName() const {
-    const auto* style = draft_->currentStyleDigital();
+    const auto* style = context_.draft->currentStyleDigital();
     return style ? fromUtf8(style->name) : QString();
 }
 
 QStringList BrochureSendViewController::brandImages() const {
-    const auto logos = draft_->currentLogos();
+    const auto logos = context_.draft->currentLogos();
     if (!logos || !isStyleImageVisible())
         return {};
     QStringList images;
@@ -503,7 +498,7 @@ QStringList BrochureSendViewController::brandImages() const {
 }
 
 QString BrochureSendViewController::localLogoImage() const {
-    const auto& customer = draft_->customerInformation;
+    const auto& customer = context_.draft->customerInformation;
     return customer && customer->imageLogo ? dataImageUrl(*customer->imageLogo) : QString();
 }
 
@@ -512,33 +507,33 @@ QString BrochureSendViewController::logoLabel() const {
 }
 
 QString BrochureSendViewController::freeTextForSupport() const {
-    return fromUtf8(draft_->supportComment.value_or(""));
+    return fromUtf8(context_.draft->supportComment.value_or(""));
 }
 
 QString BrochureSendViewController::makeOrderButtonTitle() const {
-    if (draft_->sent)
+    if (context_.draft->sent)
         return QStringLiteral("Ver pedido");
-    if (type_ == BrochureType::video)
+    if (context_.kind == BrochureType::video)
         return QStringLiteral("Realizar pedido");
-    return type_ == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
-                                          : QStringLiteral("Realizar pedido con impresión");
+    return context_.kind == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
+                                                  : QStringLiteral("Realizar pedido con impresión");
 }
 
 bool BrochureSendViewController::isOrderSent() const {
-    return draft_->sent.has_value();
+    return context_.draft->sent.has_value();
 }
 
 QUrl BrochureSendViewController::orderURL() const {
-    return draft_->sent ? qurl(Url{draft_->sent->url}) : QUrl();
+    return context_.draft->sent ? qurl(Url{context_.draft->sent->url}) : QUrl();
 }
 
 bool BrochureSendViewController::isPrintedKavorButtonVisible() const {
-    return !draft_->sent && type_ != BrochureType::video;
+    return !context_.draft->sent && context_.kind != BrochureType::video;
 }
 
 bool BrochureSendViewController::isPrintedMyselfVisible() const {
-    return !draft_->sent && brochureTypeParameters_.withPrinter &&
-           catalogue_->information().validations.withPrintedMyself;
+    return !context_.draft->sent && context_.parameters().withPrinter &&
+           context_.catalogue->information().validations.withPrintedMyself;
 }
 
 } // namespace kavor

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "brochures/engine/SaveBrochuresOrder.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/send/BrochureSendSummary.h"
 #include "catalogue/Brochures.h"
 #include "interaction/VeiledRun.h"
@@ -62,11 +62,10 @@ class BrochureSendViewController : public kavor::WizardStepViewController {
 
 public:
     // The services outlive the step.
-    BrochureSendViewController(const WizardServices& services, QObject* parent);
+    BrochureSendViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureSendViewController() override;
 
     [[nodiscard]] QUrl view() const override;
-    void viewDidLoad() override;
     void viewWillAppear() override;
 
     Q_INVOKABLE void sendOrderAction();
@@ -138,12 +137,8 @@ private:
     void setPanelInfoOrderVisible(bool visible);
     void setMissing(const QStringList& sentences);
 
-    WizardServices services_;
+    const WizardStepContext context_;
     VeiledRun wait_;
-    std::shared_ptr<const Catalogue> catalogue_;
-    std::shared_ptr<BrochureIntermediateData> draft_;
-    std::optional<BrochureType> type_;
-    Brochures::Type::Parameters brochureTypeParameters_;
     BrochureSendSummary summary_;
     std::vector<const Brochures::Logo*> styleLogosInfo_; // of the style, in its order
     QStringList missing_;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/style/BrandQrForm.h"
 #include "brochures/wizard/style/BrochureQuantityForm.h"
 #include "brochures/wizard/style/StyleAttributesModel.h"
@@ -36,7 +36,7 @@ class BrochureStyleSelectorViewController : public kavor::WizardStepViewControll
 public:
     enum class TypeZooms { zoomStyle, zoomStyleQr };
 
-    BrochureStyleSelectorViewController(const WizardServices& services, QObject* parent);
+    BrochureStyleSelectorViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureStyleSelectorViewController() override;
 
     [[nodiscard]] QUrl view() const override;
