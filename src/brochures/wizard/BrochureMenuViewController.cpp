@@ -15,6 +15,7 @@
 #include "interaction/Questions.h"
 #include "interaction/VeiledRun.h"
 #include "network/ServiceOperations.h"
+#include "orders/services/FiledOrderRoad.h"
 #include "session/AppSingleton.h"
 
 #include <QVariantMap>
