@@ -61,7 +61,12 @@ BrochureConfigurationViewController::BrochureConfigurationViewController(const W
     , type_(context.kind)
     , parameters_(context.parameters())
     , isSecondPriceTypeInputAllowed_(context.type && context.type->isSecondBrochuresPriceAllowed)
-    , orientationElements_(new BlackboardFormatModel(this)) {}
+    , orientationElements_(new BlackboardFormatModel(this)) {
+    connect(this, &BrochureConfigurationViewController::committed, this,
+            &WizardStepViewController::subtitleChanged);
+    connect(this, &BrochureConfigurationViewController::previewSegueRequested, this,
+            &WizardStepViewController::draftPreviewRequested);
+}
 
 BrochureConfigurationViewController::~BrochureConfigurationViewController() = default;
 

@@ -65,6 +65,7 @@ public:
 
     [[nodiscard]] QUrl view() const override;
     void viewWillAppear() override;
+    void anotherOrderBegun() override { viewWillAppear(); }
 
     Q_INVOKABLE void sendOrderAction();
     Q_INVOKABLE void sendOrderMyselfAction();

@@ -43,6 +43,7 @@ public:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void serializeAutoSave() override;
+    [[nodiscard]] bool wantsBanner() const override { return true; }
 
     // The carousel, or the strip of miniatures, chose a style.
     Q_INVOKABLE void carouselCurrentItemIndexDidChange(int index);
