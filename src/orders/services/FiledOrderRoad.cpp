@@ -36,7 +36,7 @@ void askToOverwrite(AlertPresenter& alerts, QObject* context, std::function<void
         {no(), yesDestroy(std::move(taken))});
 }
 
-void askForAnotherOrder(AlertPresenter& alerts, QObject* context, std::function<void(bool)> answered) {
+void askForAnotherOrder(AlertPresenter& alerts, QObject* context, const std::function<void(bool)>& answered) {
     ask(alerts, context, QStringLiteral("Atención"),
         QStringLiteral("Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?"),
         {{QStringLiteral("No"), AlertButton::Role::Cancel, [answered] { answered(false); }},

@@ -26,7 +26,7 @@ void askForFileName(AlertPresenter& alerts, QObject* context, const QString& pro
                     std::function<void(const std::string& plainName)> taken);
 void askToOverwrite(AlertPresenter& alerts, QObject* context, std::function<void()> taken);
 // Asks whether the order that was sent becomes the start of another one.
-void askForAnotherOrder(AlertPresenter& alerts, QObject* context, std::function<void(bool)> answered);
+void askForAnotherOrder(AlertPresenter& alerts, QObject* context, const std::function<void(bool)>& answered);
 
 // The road of a record that OrderDiskManager keeps: offline the order waits in the outbox, and a draft may be
 // kept under a name, from where it goes to the cloud. Kept is the record as its file holds it.

@@ -162,7 +162,7 @@ protected:
     // What is told next, once the veil is gone.
     std::string told() {
         EXPECT_TRUE(waitFor([this] { return alerts.isVisible() && !veil; }));
-        const std::string text = shown(alerts);
+        std::string text = shown(alerts);
         press("Aceptar");
         return text;
     }
