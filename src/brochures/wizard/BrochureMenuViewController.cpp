@@ -3,11 +3,9 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
+#include "brochures/wizard/BrochureRoad.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStepFactory.h"
-#include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
-#include "brochures/wizard/send/BrochureSendViewController.h"
-#include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 #include "catalogue/OwnBrand.h"
 #include "device/Reachability.h"
 #include "interaction/PressGuard.h"
@@ -144,7 +142,7 @@ void BrochureMenuViewController::applyParameters() {
 void BrochureMenuViewController::showStep(int wizardStep) {
     WizardStepViewController* step = makeWizardStep(wizardStep, services_, this);
     leaveActiveStep();
-    delete std::exchange(previewSender_, nullptr); // a late answer shows nothing over another step
+    previewRoad_.reset(); // a late answer shows nothing over another step
     WizardStepViewController* former = activeViewController_;
     activeViewController_ = step;
     connectStep(step);
@@ -161,7 +159,7 @@ void BrochureMenuViewController::showStep(int wizardStep) {
         former->disconnect(this);
         former->deleteLater(); // after its view, which went in the line above
     }
-    if (qobject_cast<BrochureStyleSelectorViewController*>(step) && !alreadyDismissedPreferredBrandsBanner_)
+    if (step->wantsBanner() && !alreadyDismissedPreferredBrandsBanner_)
         NotificationCenter::shared().post(notification::showPreferredBrandsBanner);
 }
 
@@ -174,23 +172,17 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
                 return buttonPushedAction(entry.button);
         }
     });
-    auto* configuration = qobject_cast<BrochureConfigurationViewController*>(step);
-    if (!configuration)
-        return;
-    connect(configuration, &BrochureConfigurationViewController::committed, this,
+    connect(step, &WizardStepViewController::subtitleChanged, this,
             &BrochureMenuViewController::subtitleChanged);
-    connect(configuration, &BrochureConfigurationViewController::previewSegueRequested, this,
-            &BrochureMenuViewController::previewFromConfiguration);
+    connect(step, &WizardStepViewController::draftPreviewRequested, this,
+            &BrochureMenuViewController::previewDraft);
 }
 
-// The configuration stays on show below the preview, and below what the check has to say.
-void BrochureMenuViewController::previewFromConfiguration() {
-    delete std::exchange(previewSender_, new BrochureSendViewController(services_, this));
-    connect(previewSender_, &WizardStepViewController::previewRequested, this,
-            &BrochureMenuViewController::showPreview);
-    previewSender_->viewDidLoad();
-    previewSender_->viewWillAppear();
-    previewSender_->previewAction();
+// The step stays on show below the preview, and below what the check has to say.
+void BrochureMenuViewController::previewDraft() {
+    previewRoad_ = std::make_unique<BrochureRoad>(services_, BrochureIntermediateData::temporalBrochure());
+    connect(previewRoad_.get(), &OrderRoad::documentReady, this, &BrochureMenuViewController::showPreview);
+    previewRoad_->preview();
 }
 
 void BrochureMenuViewController::leaveActiveStep() {
@@ -228,8 +220,7 @@ void BrochureMenuViewController::sentOrderAnswered(bool another) {
     }
     beginAnotherOrder(*actualOrder_);
     autosave(actualOrder_);
-    if (auto* send = qobject_cast<BrochureSendViewController*>(activeViewController_))
-        send->viewWillAppear();
+    activeViewController_->anotherOrderBegun();
 }
 
 void BrochureMenuViewController::viewWillDisappear() {

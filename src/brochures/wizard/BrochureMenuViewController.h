@@ -17,7 +17,7 @@
 namespace kavor {
 
 class BrochureIntermediateData;
-class BrochureSendViewController;
+class BrochureRoad;
 
 // The frame of the brochure wizard: a menu and one step at a time, all working on the one shared draft.
 // Opened with the section of the session set to a kind of brochure.
@@ -108,7 +108,7 @@ private:
     void select(int index);
     void askForReset();
     void reset();
-    void previewFromConfiguration();
+    void previewDraft();
     void closePreview();
     void connectStep(WizardStepViewController* step);
 
@@ -119,8 +119,8 @@ private:
     std::vector<bool> visibleButtons_;
     int selected_ = Configuration;
     WizardStepViewController* activeViewController_ = nullptr;
-    // Prepares the preview that the configuration asked for, without being on show; null otherwise.
-    BrochureSendViewController* previewSender_ = nullptr;
+    // Fetches the document of the draft for the step on show, which asked for it; null otherwise.
+    std::unique_ptr<BrochureRoad> previewRoad_;
     WebPreviewViewController* preview_ = nullptr;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     std::vector<NotificationCenter::Subscription> observers_;

@@ -5,7 +5,6 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "catalogue/Catalogue.h"
-#include "interaction/Questions.h"
 #include "session/AppSingleton.h"
 
 #include <algorithm>
@@ -42,13 +41,6 @@ void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
         NotificationCenter::shared().post(sentDraftSaved);
     else
         TemporalBrochure::shared().write(*draft);
-}
-
-void askForAnotherOrder(AlertPresenter& alerts, QObject* context, std::function<void(bool)> answered) {
-    ask(alerts, context, QStringLiteral("Atención"),
-        QStringLiteral("Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?"),
-        {{QStringLiteral("No"), AlertButton::Role::Cancel, [answered] { answered(false); }},
-         yes([answered] { answered(true); })});
 }
 
 QString notOffered(Int quantity, const std::vector<Int>& offered) {

@@ -3,11 +3,9 @@
 #include "catalogue/Brochures.h"
 #include "interaction/QtText.h"
 
-#include <QObject>
 #include <QString>
 #include <QUrl>
 
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -15,7 +13,6 @@
 // What the steps that choose style, brands and prices share.
 namespace kavor {
 
-class AlertPresenter;
 class BrochureIntermediateData;
 class Catalogue;
 
@@ -33,9 +30,6 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
 
 inline constexpr std::string_view sentDraftSaved = "SentDraftSaved";
-
-// Asks whether the order that was sent becomes the start of another one.
-void askForAnotherOrder(AlertPresenter& alerts, QObject* context, std::function<void(bool)> answered);
 
 // Says that a quantity of the draft is none of those that its picker offers, which are not empty.
 QString notOffered(Int quantity, const std::vector<Int>& offered);

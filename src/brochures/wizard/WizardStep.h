@@ -56,6 +56,10 @@ public:
     // Called once after the step was made, and each time it comes on show.
     virtual void viewDidLoad() {}
     virtual void viewWillAppear() {}
+    // The draft goes on as another order than the one that was sent.
+    virtual void anotherOrderBegun() {}
+    // Whether the banner of the preferred brands belongs over the step.
+    [[nodiscard]] virtual bool wantsBanner() const { return false; }
 
 signals:
     // Asks the frame to show another step by its number (for example from a message that says what is
@@ -63,6 +67,10 @@ signals:
     void stepRequested(int wizardStep);
     // Asks the frame to show a document (PDF) over the wizard.
     void previewRequested(const QUrl& document);
+    // Asks the frame to show the document of the draft, which the server makes.
+    void draftPreviewRequested();
+    // The bar shows another name.
+    void subtitleChanged();
 };
 
 } // namespace kavor

@@ -2,6 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "brochures/wizard/ComingSoonStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 #include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
@@ -20,21 +21,22 @@ WizardStepViewController* comingSoon(const char* title, const char* icon, QObjec
 } // namespace
 
 WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& services, QObject* parent) {
+    const WizardStepContext context(services);
     switch (wizardStep) {
     case wizard_step::configuration:
-        return new BrochureConfigurationViewController(services, parent);
+        return new BrochureConfigurationViewController(context, parent);
     case wizard_step::style:
-        return new BrochureStyleSelectorViewController(services, parent);
+        return new BrochureStyleSelectorViewController(context, parent);
     case wizard_step::products:
-        return new BrochureProductListViewController(services, parent);
+        return new BrochureProductListViewController(context, parent);
     case wizard_step::drinks:
         return comingSoon("La lista de bebidas", "drinks", parent);
     case wizard_step::prices:
-        return new BrochurePriceSetterViewController(services, parent);
+        return new BrochurePriceSetterViewController(context, parent);
     case wizard_step::orderSheet:
         return new BrochureOrderSheetViewController(services, parent);
     case wizard_step::send:
-        return new BrochureSendViewController(services, parent);
+        return new BrochureSendViewController(context, parent);
     case wizard_step::promotions:
         return comingSoon("La selección de promociones", "promotions", parent);
     case wizard_step::pennant:

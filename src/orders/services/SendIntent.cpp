@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace kavor::send_intent {
+namespace kavor {
 
 namespace {
 
@@ -26,7 +26,7 @@ std::string prefixOf(OrderRequestType type) {
     return std::to_string(static_cast<Int>(type)) + '/';
 }
 
-std::string contentOf(SaveBrochuresOrder order) {
+std::string documentOf(SaveBrochuresOrder order) {
     order.orderIdentifier.reset();
     order.menu.customer.id.reset();
     if (order.save == OrderRequestType::saveCloud)
@@ -36,66 +36,62 @@ std::string contentOf(SaveBrochuresOrder order) {
     const auto text = json::encode(order);
     if (!text)
         stopProcess("document of an order to send: " + text.error().text());
-    return prefixOf(order.save) + madeOf(QByteArray::fromStdString(*text)).toStdString();
+    return *text;
 }
 
 template <class List>
-auto findContent(List& unanswered, const std::string& content) {
-    return std::ranges::find(unanswered, content, &UnansweredSend::content);
+auto findContent(List& unanswered, const SendContent& content) {
+    return std::ranges::find(unanswered, content.text(), &UnansweredSend::content);
 }
 
 } // namespace
 
-QByteArray keyFor(UnansweredSends& unanswered, const SaveBrochuresOrder& order) {
-    const std::string content = contentOf(order);
+SendContent::SendContent(OrderRequestType type, const std::string& document)
+    : type_(type)
+    , text_(prefixOf(type) + madeOf(QByteArray::fromStdString(document)).toStdString()) {}
+
+SendContent::SendContent(SaveBrochuresOrder order)
+    : SendContent(order.save, documentOf(std::move(order))) {}
+
+namespace send_intent {
+
+QByteArray keyFor(UnansweredSends& unanswered, const SendContent& content) {
     // A save in the cloud takes the place of the one before. Under that one's key the server would answer
     // without taking the content back.
-    if (order.save == OrderRequestType::saveCloud) {
-        std::erase_if(unanswered, [&, prefix = prefixOf(order.save)](const UnansweredSend& send) {
-            return send.content.starts_with(prefix) && send.content != content;
+    if (content.type() == OrderRequestType::saveCloud) {
+        std::erase_if(unanswered, [&, prefix = prefixOf(content.type())](const UnansweredSend& send) {
+            return send.content.starts_with(prefix) && send.content != content.text();
         });
     }
     auto found = findContent(unanswered, content);
     if (found == unanswered.end()) {
         const QByteArray key = QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
-        found = unanswered.insert(found, {content, key.toStdString()});
+        found = unanswered.insert(found, {content.text(), key.toStdString()});
     }
     found->onlyQueued = false;
     return QByteArray::fromStdString(found->key);
 }
 
-UnansweredSends sentWithoutAnswer(const UnansweredSends& unanswered, const SaveBrochuresOrder& order) {
-    const auto found = findContent(unanswered, contentOf(order));
+std::optional<QByteArray> keyOf(const UnansweredSends& unanswered, const SendContent& content) {
+    const auto found = findContent(unanswered, content);
+    return found == unanswered.end() ? std::nullopt : std::optional(QByteArray::fromStdString(found->key));
+}
+
+UnansweredSends sentWithoutAnswer(const UnansweredSends& unanswered, const SendContent& content) {
+    const auto found = findContent(unanswered, content);
     return found == unanswered.end() || found->onlyQueued ? UnansweredSends() : UnansweredSends{*found};
 }
 
-void noteQueued(UnansweredSends& unanswered, const SaveBrochuresOrder& order, const QByteArray& key) {
-    const std::string content = contentOf(order);
+void noteQueued(UnansweredSends& unanswered, const SendContent& content, const QByteArray& key) {
     const auto found = findContent(unanswered, content);
     if (found == unanswered.end())
-        unanswered.push_back({content, key.toStdString(), true});
+        unanswered.push_back({content.text(), key.toStdString(), true});
     else if (found->onlyQueued) // under a file that is gone
         found->key = key.toStdString();
 }
 
-std::optional<std::string> nameInOutbox(const UnansweredSends& unanswered, const SaveBrochuresOrder& order,
-                                        const OrderDiskManager& orders) {
-    const auto found = findContent(unanswered, contentOf(order));
-    if (found == unanswered.end())
-        return std::nullopt;
-    for (const auto& file : orders.list<KeptOrder>(DirectoryName::outbox)) {
-        const auto kept = orders.retrieve<KeptOrder>(file.fileName, DirectoryName::outbox);
-        if (kept &&
-            keyOfFile(*kept, DirectoryName::outbox, file.fileName, file.modificationMoment).toStdString() ==
-                found->key)
-            return OrderDiskManager::plainName(file.fileName);
-    }
-    return std::nullopt;
-}
-
-void answered(UnansweredSends& unanswered, const SaveBrochuresOrder& order) {
-    const std::string content = contentOf(order);
-    std::erase_if(unanswered, [&](const UnansweredSend& send) { return send.content == content; });
+void answered(UnansweredSends& unanswered, const SendContent& content) {
+    std::erase_if(unanswered, [&](const UnansweredSend& send) { return send.content == content.text(); });
 }
 
 std::optional<QByteArray> keyInFile(const KeptOrder& order) {
@@ -109,10 +105,8 @@ std::optional<QByteArray> keyInFile(const KeptOrder& order) {
     return std::nullopt;
 }
 
-QByteArray keyOfFile(const KeptOrder& order, DirectoryName directory, std::string_view fileName,
-                     const OrderDiskManager::Moment& moment) {
-    if (auto known = keyInFile(order))
-        return std::move(*known);
+QByteArray keyOfPlace(DirectoryName directory, std::string_view fileName,
+                      const OrderDiskManager::Moment& moment) {
     QByteArray parts = directory == DirectoryName::draft ? "draft" : "outbox";
     parts += '/' + QByteArray(fileName.data(), qsizetype(fileName.size())) + '/' +
              QByteArray::number(qint64(moment.seconds)) + '.' +
@@ -133,4 +127,6 @@ bool isAnswerLost(const RequestFailure& failure) {
     return error.kind != Kind::Status || error.status == badGateway || error.status == gatewayTimeout;
 }
 
-} // namespace kavor::send_intent
+} // namespace send_intent
+
+} // namespace kavor

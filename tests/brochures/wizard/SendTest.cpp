@@ -307,24 +307,6 @@ TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
     EXPECT_TRUE(network.requests.saveOrder.calls.empty());
 }
 
-TEST_F(SendTest, ANameThatCannotBeAFileIsRefusedWithItsReasonAndAskedForAgain) {
-    completeDraft();
-    draft().fileName = "mi carta";
-    open();
-    saveAs("terraza 1/2");
-    EXPECT_EQ(alert(), "Atención | El nombre no puede llevar el signo \"/\".");
-    press("Aceptar");
-    ASSERT_TRUE(alerts.current());
-    EXPECT_EQ(alerts.current()->textField->initialText, "terraza 1/2");
-    press("Guardar", "   ");
-    EXPECT_EQ(alert(), "Atención | El nombre no puede estar vacío.");
-    press("Aceptar");
-    press("Cancelar");
-    EXPECT_FALSE(alerts.isVisible());
-    EXPECT_FALSE(veil);
-    EXPECT_EQ(draft().fileName, "mi carta");
-}
-
 TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {
     completeDraft();
     open();
@@ -343,23 +325,6 @@ TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {
         return stored && stored->orderIdentifier == 41 && stored->menu.customer.id == 42;
     }));
     EXPECT_EQ(draft().orderIdentifier, 41);
-}
-
-TEST_F(SendTest, AnExistingNameIsOverwrittenOnlyWhenTheUserSaysSo) {
-    completeDraft();
-    Order other;
-    other.filename = "other";
-    ASSERT_TRUE(orders.create(other, Directory::draft, "mi carta"));
-    open();
-    const auto stored = [&] { return orders.retrieve<Order>("mi carta.zvo", Directory::draft)->filename; };
-    saveAs("mi carta");
-    EXPECT_EQ(alert(), "Atención | Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?");
-    press("No");
-    EXPECT_EQ(stored(), "other");
-    EXPECT_FALSE(draft().fileName);
-    saveAs("mi carta");
-    press("Sí");
-    EXPECT_TRUE(waitFor([&] { return stored() == "mi carta"; }));
 }
 
 TEST_F(SendTest, WhatCannotBeSynchronisedIsPlannedForLater) {

@@ -13,6 +13,7 @@
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 #include "session/services/SessionStore.h"
+#include "support/Alerts.h"
 #include "support/DeviceFakes.h"
 #include "support/FakeServices.h"
 #include "support/TemporaryFolder.h"
@@ -115,17 +116,10 @@ protected:
 
     // Answers the alert on show by a button's text.
     bool press(const QString& button, const QString& typed = {}) {
-        const auto* request = alerts.current();
-        for (int index = 0; request && index < request->buttons.size(); ++index) {
-            if (request->buttons[index].text == button) {
-                alerts.answerButton(index, typed);
-                return true;
-            }
-        }
-        return false;
+        return kavor::press(alerts, button, typed);
     }
     // The title and the text of the alert on show.
-    [[nodiscard]] std::string alert() const { return (alerts.title() + " | " + alerts.text()).toStdString(); }
+    [[nodiscard]] std::string alert() const { return shown(alerts); }
 
 private:
     static AppSingleton& openSession(const TemporaryFolder& folder) {

@@ -1,26 +1,28 @@
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 
-#include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "interaction/AlertPresenter.h"
-#include "session/AppSingleton.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace kavor {
 
-BrochureConfigurationViewController::BrochureConfigurationViewController(const WizardServices& services,
+BrochureConfigurationViewController::BrochureConfigurationViewController(const WizardStepContext& context,
                                                                          QObject* parent)
     : WizardStepViewController(parent)
-    , alerts_(services.alerts)
-    , pointOfSale_({services.network, services.alerts, services.urls, services.photos, services.location})
-    , formats_(services.alerts) {
-    context_.catalogue = AppSingleton::shared().applicationInformation;
-    context_.draft = BrochureIntermediateData::temporalBrochure();
-    if (!context_.catalogue)
-        stopProcess("the catalogue of the configuration step");
+    , context_(context)
+    , pointOfSale_({context.services.network, context.services.alerts, context.services.urls,
+                    context.services.photos, context.services.location})
+    , languages_(context_)
+    , secondPrice_(context_)
+    , formats_(context_)
+    , chalkboard_(context_) {
+    connect(this, &BrochureConfigurationViewController::committed, this,
+            &WizardStepViewController::subtitleChanged);
+    connect(this, &BrochureConfigurationViewController::previewSegueRequested, this,
+            &WizardStepViewController::draftPreviewRequested);
     const auto commits = [this](auto* form) {
         using Form = std::remove_pointer_t<decltype(form)>;
         connect(form, &Form::edited, this, &BrochureConfigurationViewController::commit);
@@ -39,17 +41,11 @@ QUrl BrochureConfigurationViewController::view() const {
 }
 
 void BrochureConfigurationViewController::viewDidLoad() {
-    context_.type = AppSingleton::shared().brochureType();
-    if (const auto* parameters = sectionParameters(*context_.catalogue)) {
-        context_.parameters = *parameters;
-        context_.isSecondBrochuresPriceAllowed =
-            sectionBrochureType(*context_.catalogue)->isSecondBrochuresPriceAllowed;
-    }
     pointOfSale_.show(pointOfSaleFields(), context_.catalogue->information().validations);
-    languages_.load(context_);
-    secondPrice_.load(context_);
-    formats_.load(context_);
-    chalkboard_.load(context_);
+    languages_.load();
+    secondPrice_.load();
+    formats_.load();
+    chalkboard_.load();
 }
 
 void BrochureConfigurationViewController::viewWillAppear() {
@@ -65,11 +61,11 @@ void BrochureConfigurationViewController::viewWillAppear() {
 
 PointOfSaleFields BrochureConfigurationViewController::pointOfSaleFields() const {
     using Group = CustomerFieldGroup;
-    const auto freeTexts = std::size_t(std::max<Int>(0, context_.parameters.freeTextNumberOfFields));
+    const auto freeTexts = std::size_t(std::max<Int>(0, context_.parameters().freeTextNumberOfFields));
     PointOfSaleFields fields{CustomerForm::fieldsOf(Group::contact), CustomerForm::fieldsOf(Group::place),
                              CustomerForm::fieldsOf(Group::online),
                              CustomerForm::fieldsOf(Group::freeText, freeTexts)};
-    if (context_.parameters.isRRSSAvailable)
+    if (context_.parameters().isRRSSAvailable)
         std::ranges::copy(CustomerForm::fieldsOf(Group::social), std::back_inserter(fields.online));
     return fields;
 }
@@ -92,7 +88,8 @@ void BrochureConfigurationViewController::commit() {
 void BrochureConfigurationViewController::previewAction() {
     if (pointOfSale_.isCustomerCodeRequired() && pointOfSale_.tevo().isEmpty()) {
         // The title has no accent on purpose.
-        alerts_.inform(QStringLiteral("Atencion"), QStringLiteral("Has de informar de un código cliente."));
+        context_.services.alerts.inform(QStringLiteral("Atencion"),
+                                        QStringLiteral("Has de informar de un código cliente."));
         return;
     }
     commit();
@@ -100,7 +97,7 @@ void BrochureConfigurationViewController::previewAction() {
 }
 
 QString BrochureConfigurationViewController::freeTextLabel() const {
-    return context_.type == BrochureType::chalkboard || context_.type == BrochureType::mantel
+    return context_.kind == BrochureType::chalkboard || context_.kind == BrochureType::mantel
                ? QStringLiteral("Texto libre (se mostrará debajo del título)")
                : QStringLiteral("Texto Libre (esta información se mostrará en la contraportada)");
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BrochureFormatsForm.h"
 #include "brochures/wizard/configuration/ChalkboardForm.h"
-#include "brochures/wizard/configuration/ConfigurationContext.h"
 #include "brochures/wizard/configuration/LanguagesForm.h"
 #include "brochures/wizard/configuration/SecondPriceForm.h"
 #include "screens/pointofsale/PointOfSaleForm.h"
@@ -29,7 +28,7 @@ class BrochureConfigurationViewController : public kavor::WizardStepViewControll
 
 public:
     // The services outlive the step.
-    BrochureConfigurationViewController(const WizardServices& services, QObject* parent);
+    BrochureConfigurationViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureConfigurationViewController() override;
 
     [[nodiscard]] QUrl view() const override;
@@ -57,8 +56,7 @@ private:
     [[nodiscard]] PointOfSaleFields pointOfSaleFields() const;
     void commit();
 
-    AlertPresenter& alerts_;
-    ConfigurationContext context_;
+    const WizardStepContext context_; // the forms look into it
     PointOfSaleForm pointOfSale_;
     LanguagesForm languages_;
     SecondPriceForm secondPrice_;

@@ -5,19 +5,18 @@
 
 namespace kavor {
 
-BrochureFormatsForm::BrochureFormatsForm(AlertPresenter& alerts, QObject* parent)
+BrochureFormatsForm::BrochureFormatsForm(const WizardStepContext& context, QObject* parent)
     : QObject(parent)
-    , alerts_(alerts) {}
+    , context_(context) {}
 
-void BrochureFormatsForm::load(const ConfigurationContext& context) {
-    context_ = context;
+void BrochureFormatsForm::load() {
     menuFormats_ = wineFormats_ = PickerRows();
-    menuFormats_.appendByPosition(context.catalogue->brochures().menuFormatVisualize);
-    wineFormats_.appendByPosition(context.catalogue->brochures().menuWineFormatVisualize);
+    menuFormats_.appendByPosition(context_.catalogue->brochures().menuFormatVisualize);
+    wineFormats_.appendByPosition(context_.catalogue->brochures().menuWineFormatVisualize);
 }
 
 void BrochureFormatsForm::serialize() {
-    if (!context_.type)
+    if (!context_.kind)
         return;
     BrochureIntermediateData& draft = *context_.draft;
     if (!isPaperVisible())
@@ -62,7 +61,7 @@ void BrochureFormatsForm::tellAboutDemand() {
     const BrochureIntermediateData& draft = *context_.draft;
     if (!draft.includePaperBrochure || !draft.includeDigitalBrochure || !draft.printDigitalBrochure)
         return;
-    alerts_.inform(
+    context_.services.alerts.inform(
         QStringLiteral("Información"),
         QStringLiteral(
             "Has solicitado carta impresa en papel y carta digital con impresión de QRs.\n"
@@ -85,7 +84,7 @@ void BrochureFormatsForm::chooseWineFormat(int row) {
 }
 
 QString BrochureFormatsForm::papeBrochureLabel() const {
-    return QStringLiteral("Solicitar ") + (context_.type == BrochureType::video
+    return QStringLiteral("Solicitar ") + (context_.kind == BrochureType::video
                                                ? QStringLiteral("Carta en formato Vídeo")
                                                : QStringLiteral("Carta Impresa en papel"));
 }

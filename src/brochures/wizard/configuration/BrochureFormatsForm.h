@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/configuration/ConfigurationContext.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "screens/PickerRows.h"
 
 #include <QObject>
@@ -35,9 +35,9 @@ class BrochureFormatsForm : public QObject {
 
 public:
     // The alerts outlive the form.
-    explicit BrochureFormatsForm(AlertPresenter& alerts, QObject* parent = nullptr);
+    explicit BrochureFormatsForm(const WizardStepContext& context, QObject* parent = nullptr);
 
-    void load(const ConfigurationContext& context);
+    void load();
     // What can't be seen has a fixed state: the paper brochure is on, a digital one that isn't on offer is
     // off. The working values keep what the user chose elsewhere.
     void serialize();
@@ -49,19 +49,19 @@ public:
     Q_INVOKABLE void chooseMenuFormat(int row);
     Q_INVOKABLE void chooseWineFormat(int row);
 
-    [[nodiscard]] bool isPaperVisible() const { return context_.parameters.allowNotSelectPaperBrouchure; }
+    [[nodiscard]] bool isPaperVisible() const { return context_.parameters().allowNotSelectPaperBrouchure; }
     [[nodiscard]] QString papeBrochureLabel() const;
     [[nodiscard]] bool isPaperOn() const;
-    [[nodiscard]] bool isDigitalVisible() const { return context_.parameters.allowSelectDigitalBrochure; }
+    [[nodiscard]] bool isDigitalVisible() const { return context_.parameters().allowSelectDigitalBrochure; }
     [[nodiscard]] bool isDigitalOn() const;
     [[nodiscard]] bool isDemandOn() const;
     [[nodiscard]] bool isIncludeQrVisible() const;
     [[nodiscard]] bool isIncludeQrOn() const;
     [[nodiscard]] QString messageQrSupportLabel() const;
-    [[nodiscard]] bool isMenuFormatVisible() const { return context_.parameters.withMenuFormat; }
+    [[nodiscard]] bool isMenuFormatVisible() const { return context_.parameters().withMenuFormat; }
     [[nodiscard]] const QStringList& menuFormats() const { return menuFormats_.names(); }
     [[nodiscard]] int menuFormat() const;
-    [[nodiscard]] bool isWineFormatVisible() const { return context_.parameters.withMenuFormatWine; }
+    [[nodiscard]] bool isWineFormatVisible() const { return context_.parameters().withMenuFormatWine; }
     [[nodiscard]] const QStringList& wineFormats() const { return wineFormats_.names(); }
     [[nodiscard]] int wineFormat() const;
 
@@ -75,8 +75,7 @@ private:
     void switched();
     void tellAboutDemand();
 
-    AlertPresenter& alerts_;
-    ConfigurationContext context_;
+    const WizardStepContext& context_;
     PickerRows menuFormats_;
     PickerRows wineFormats_;
 };

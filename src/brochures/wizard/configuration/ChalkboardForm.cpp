@@ -6,12 +6,15 @@
 
 namespace kavor {
 
-void ChalkboardForm::load(const ConfigurationContext& context) {
-    context_ = context;
+ChalkboardForm::ChalkboardForm(const WizardStepContext& context, QObject* parent)
+    : QObject(parent)
+    , context_(context) {}
+
+void ChalkboardForm::load() {
     blackboardTypes_ = PickerRows();
-    blackboardTypes_.appendByPosition(context.catalogue->brochures().blackboardTypes);
+    blackboardTypes_.appendByPosition(context_.catalogue->brochures().blackboardTypes);
     if (isOrientationPaneVisible())
-        orientationElements_.show(context.catalogue, context.draft);
+        orientationElements_.show(context_.catalogue, context_.draft);
 }
 
 void ChalkboardForm::serialize() {
@@ -37,7 +40,7 @@ void ChalkboardForm::formatSelected(qint64 identifier) {
 }
 
 bool ChalkboardForm::isOrientationPaneVisible() const {
-    return context_.type == BrochureType::chalkboard &&
+    return context_.kind == BrochureType::chalkboard &&
            !context_.catalogue->brochures().blackboardFormats.empty();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BlackboardFormatModel.h"
-#include "brochures/wizard/configuration/ConfigurationContext.h"
 #include "screens/PickerRows.h"
 
 #include <QAbstractItemModel>
@@ -28,9 +28,10 @@ class ChalkboardForm : public QObject, public SelectFormatDelegate {
     Q_PROPERTY(int blackboardType READ blackboardType NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    // Looks into the context as long as it lives.
+    explicit ChalkboardForm(const WizardStepContext& context, QObject* parent = nullptr);
 
-    void load(const ConfigurationContext& context);
+    void load();
     // A chalkboard without a type gets the default one.
     void serialize();
 
@@ -49,7 +50,7 @@ signals:
     void edited();
 
 private:
-    ConfigurationContext context_;
+    const WizardStepContext& context_;
     BlackboardFormatModel orientationElements_;
     PickerRows blackboardTypes_;
 };

@@ -7,15 +7,18 @@
 
 namespace kavor {
 
-void LanguagesForm::load(const ConfigurationContext& context) {
-    context_ = context;
+LanguagesForm::LanguagesForm(const WizardStepContext& context, QObject* parent)
+    : QObject(parent)
+    , context_(context) {}
+
+void LanguagesForm::load() {
     const auto isOfTheKind = [&](const Brochures::Language& language) {
-        return !context.type || std::ranges::any_of(language.orderTypes, [&](const auto& kind) {
-            return kind.id == Int(*context.type);
+        return !context_.kind || std::ranges::any_of(language.orderTypes, [&](const auto& kind) {
+            return kind.id == Int(*context_.kind);
         });
     };
     languages_ = PickerRows();
-    languages_.appendByPosition(context.catalogue->brochures().languages | std::views::filter(isOfTheKind));
+    languages_.appendByPosition(context_.catalogue->brochures().languages | std::views::filter(isOfTheKind));
 }
 
 void LanguagesForm::serialize() {

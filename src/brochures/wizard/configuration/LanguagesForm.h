@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/configuration/ConfigurationContext.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "screens/PickerRows.h"
 
 #include <QObject>
@@ -21,10 +21,11 @@ class LanguagesForm : public QObject {
     Q_PROPERTY(int secondaryLanguage READ secondaryLanguage NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    // Looks into the context as long as it lives.
+    explicit LanguagesForm(const WizardStepContext& context, QObject* parent = nullptr);
 
     // Offers the languages of the kind of brochure.
-    void load(const ConfigurationContext& context);
+    void load();
     // A second language that can't be seen, or is the main one, goes from the draft.
     void serialize();
 
@@ -34,7 +35,7 @@ public:
 
     [[nodiscard]] const QStringList& languages() const { return languages_.names(); }
     [[nodiscard]] int mainLanguage() const;
-    [[nodiscard]] bool isSecondLanguageVisible() const { return context_.parameters.multiLanguage; }
+    [[nodiscard]] bool isSecondLanguageVisible() const { return context_.parameters().multiLanguage; }
     [[nodiscard]] QStringList secondaryLanguages() const { return otherLanguages().names(); }
     [[nodiscard]] int secondaryLanguage() const;
 
@@ -46,7 +47,7 @@ signals:
 private:
     [[nodiscard]] PickerRows otherLanguages() const; // "Ninguno" and all without the main one
 
-    ConfigurationContext context_;
+    const WizardStepContext& context_;
     PickerRows languages_;
 };
 

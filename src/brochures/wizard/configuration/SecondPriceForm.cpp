@@ -4,10 +4,13 @@
 
 namespace kavor {
 
-void SecondPriceForm::load(const ConfigurationContext& context) {
-    context_ = context;
+SecondPriceForm::SecondPriceForm(const WizardStepContext& context, QObject* parent)
+    : QObject(parent)
+    , context_(context) {}
+
+void SecondPriceForm::load() {
     prices_ = PickerRows();
-    for (const Brochures::Price& price : context.catalogue->brochures().prices) {
+    for (const Brochures::Price& price : context_.catalogue->brochures().prices) {
         // The first column is always there; it can't be the second one as well.
         if (price.id != PriceType::main)
             prices_.append(Int(price.id), fromUtf8(price.name));

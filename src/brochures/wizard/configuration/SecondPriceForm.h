@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/configuration/ConfigurationContext.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "screens/PickerRows.h"
 
 #include <QObject>
@@ -19,14 +19,17 @@ class SecondPriceForm : public QObject {
     Q_PROPERTY(int priceType READ priceType NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    // Looks into the context as long as it lives.
+    explicit SecondPriceForm(const WizardStepContext& context, QObject* parent = nullptr);
 
-    void load(const ConfigurationContext& context);
+    void load();
 
     Q_INVOKABLE void chooseSecondPrice(bool on);
     Q_INVOKABLE void choosePriceType(int row);
 
-    [[nodiscard]] bool isSecondPriceVisible() const { return context_.isSecondBrochuresPriceAllowed; }
+    [[nodiscard]] bool isSecondPriceVisible() const {
+        return context_.type && context_.type->isSecondBrochuresPriceAllowed;
+    }
     [[nodiscard]] bool isSecondPriceAllowed() const;
     [[nodiscard]] const QStringList& priceTypes() const { return prices_.names(); }
     [[nodiscard]] int priceType() const;
@@ -37,7 +40,7 @@ signals:
     void edited();
 
 private:
-    ConfigurationContext context_;
+    const WizardStepContext& context_;
     PickerRows prices_;
 };
 

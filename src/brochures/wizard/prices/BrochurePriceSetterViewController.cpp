@@ -1,7 +1,6 @@
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
 
 #include "base/AppFormatter.h"
-#include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "interaction/AlertPresenter.h"
@@ -20,11 +19,11 @@ const QString toCome = QStringLiteral("Próximamente");
 
 } // namespace
 
-BrochurePriceSetterViewController::BrochurePriceSetterViewController(const WizardServices& services,
+BrochurePriceSetterViewController::BrochurePriceSetterViewController(const WizardStepContext& context,
                                                                      QObject* parent)
     : WizardStepViewController(parent)
-    , services_(services) {
-    connect(&highlight_, &HighlightZone::highlightDidChange, this, [this] { autosave(actualOrder_); });
+    , context_(context) {
+    connect(&highlight_, &HighlightZone::highlightDidChange, this, [this] { autosave(context_.draft); });
 }
 
 BrochurePriceSetterViewController::~BrochurePriceSetterViewController() = default;
@@ -34,30 +33,25 @@ QUrl BrochurePriceSetterViewController::view() const {
 }
 
 void BrochurePriceSetterViewController::viewDidLoad() {
-    catalogue_ = AppSingleton::shared().applicationInformation;
-    if (!catalogue_)
-        stopProcess("catalogue of the prices step");
-    const Validations& validations = catalogue_->information().validations;
-    const Brochures::Type::Parameters* parameters = sectionParameters(*catalogue_);
-    if (!parameters)
+    if (!context_.type)
         return;
-    orderType_ = sectionBrochureType(*catalogue_);
-    isSecondaryPriceAllowed_ = orderType_->isSecondBrochuresPriceAllowed;
+    const Validations& validations = context_.catalogue->information().validations;
+    const Brochures::Type::Parameters& parameters = context_.parameters();
+    isSecondaryPriceAllowed_ = context_.type->isSecondBrochuresPriceAllowed;
     highlight_.configure(
-        parameters->isHighlightable, parameters->highLightedNumber,
-        parameters->maxBrandSelection.value_or(Int(catalogue_->information().products.size())));
-    if (parameters->dtColumnFilePriceRecomended == "archive_price")
+        parameters.isHighlightable, parameters.highLightedNumber,
+        parameters.maxBrandSelection.value_or(Int(context_.catalogue->information().products.size())));
+    if (parameters.dtColumnFilePriceRecomended == "archive_price")
         archivePrice_ = validations.archivePrice;
-    else if (parameters->dtColumnFilePriceRecomended == "archive_price_secondary")
+    else if (parameters.dtColumnFilePriceRecomended == "archive_price_secondary")
         archivePrice_ = validations.archivePriceSecondary;
 }
 
 void BrochurePriceSetterViewController::viewWillAppear() {
-    actualOrder_ = BrochureIntermediateData::temporalBrochure();
-    if (const auto second = actualOrder_->currentSecondPrice(); second && isSecondaryPriceAllowed_)
+    if (const auto second = context_.draft->currentSecondPrice(); second && isSecondaryPriceAllowed_)
         secondPriceType_ = second;
     rebuildRows();
-    autosave(actualOrder_);
+    autosave(context_.draft);
     setUpHighlight(true);
     setUpWithoutPrice();
     reloadTable();
@@ -65,13 +59,12 @@ void BrochurePriceSetterViewController::viewWillAppear() {
 }
 
 void BrochurePriceSetterViewController::serializeAutoSave() {
-    if (actualOrder_)
-        actualOrder_->withoutPriceBeer = withoutPriceSwitch_;
+    context_.draft->withoutPriceBeer = withoutPriceSwitch_;
 }
 
 PriceRow BrochurePriceSetterViewController::makeRow(const Product& brand,
                                                     const Product::ProductFormat& format) const {
-    const BrochureIntermediateData& draft = *actualOrder_;
+    const BrochureIntermediateData& draft = *context_.draft;
     PriceRow row;
     row.productIdentifier = format.id;
     row.productImage = format.image;
@@ -93,20 +86,20 @@ PriceRow BrochurePriceSetterViewController::makeRow(const Product& brand,
 
 void BrochurePriceSetterViewController::rebuildRows() {
     productsPerBrandsSelected_.clear();
-    if (!orderType_)
+    if (!context_.type)
         return;
-    for (const Product* brand : actualOrder_->selectedProducts()) {
-        if (brand->applicationFather != orderType_->applicationFather)
+    for (const Product* brand : context_.draft->selectedProducts()) {
+        if (brand->applicationFather != context_.type->applicationFather)
             continue;
         for (const Product::ProductFormat& format : brand->productList) {
-            if (actualOrder_->isFormatSelected(format.id, brand->id) == SelectionState::selected)
+            if (context_.draft->isFormatSelected(format.id, brand->id) == SelectionState::selected)
                 productsPerBrandsSelected_.push_back(makeRow(*brand, format));
         }
     }
 }
 
 PriceTableRow BrochurePriceSetterViewController::cellOf(const PriceRow& row) const {
-    return {row, actualOrder_->isNewProduct(row.productIdentifier, row.brandIdentifier).value_or(false)};
+    return {row, context_.draft->isNewProduct(row.productIdentifier, row.brandIdentifier).value_or(false)};
 }
 
 const PriceRow* BrochurePriceSetterViewController::rowAt(int row) const {
@@ -124,24 +117,24 @@ void BrochurePriceSetterViewController::reloadTable() {
 }
 
 void BrochurePriceSetterViewController::setUpHighlight(bool withAlert) {
-    const QString message = highlight_.setUp(actualOrder_, *catalogue_, productsPerBrandsSelected_);
+    const QString message = highlight_.setUp(context_.draft, *context_.catalogue, productsPerBrandsSelected_);
     if (withAlert)
-        services_.alerts.inform(attention, message, this);
+        context_.services.alerts.inform(attention, message, this);
 }
 
 void BrochurePriceSetterViewController::setUpWithoutPrice() {
-    if (!orderType_)
+    if (!context_.type)
         return;
-    if (orderType_->parameters->requiredPriceBeer)
-        actualOrder_->withoutPriceBeer = false;
-    withoutPriceVisible_ = !orderType_->parameters->requiredPriceBeer;
-    withoutPriceSwitch_ = actualOrder_->withoutPriceBeer;
+    if (context_.parameters().requiredPriceBeer)
+        context_.draft->withoutPriceBeer = false;
+    withoutPriceVisible_ = !context_.parameters().requiredPriceBeer;
+    withoutPriceSwitch_ = context_.draft->withoutPriceBeer;
 }
 
 void BrochurePriceSetterViewController::withoutPriceSwitchChanged(bool on) {
     withoutPriceSwitch_ = on;
-    actualOrder_->withoutPriceBeer = on;
-    autosave(actualOrder_);
+    context_.draft->withoutPriceBeer = on;
+    autosave(context_.draft);
     emit changed();
 }
 
@@ -155,17 +148,17 @@ void BrochurePriceSetterViewController::priceFieldDidEndEditing(int tag, const Q
     const PriceType type = secondPriceType_ && n % 2 == 1 ? *secondPriceType_ : PriceType::main;
     const auto value = AppFormatter::shared().parseNumber(text.toStdString());
     const bool taken =
-        value && actualOrder_->setPrice(type, row->productIdentifier, row->brandIdentifier, *value);
+        value && context_.draft->setPrice(type, row->productIdentifier, row->brandIdentifier, *value);
     table_.setPriceText(tag, fromUtf8(AppFormatter::shared().currencyFormatter(taken ? *value : 0)));
     // The rows lose a sorted order here while the table keeps showing it: the next edit goes by the rebuilt
     // rows. Meant so.
     rebuildRows();
-    autosave(actualOrder_);
+    autosave(context_.draft);
 }
 
 void BrochurePriceSetterViewController::sort(PriceSorting::Button button) {
     sorting_.press(button, productsPerBrandsSelected_);
-    autosave(actualOrder_);
+    autosave(context_.draft);
     reloadTable();
     emit sortingChanged();
 }
@@ -174,7 +167,7 @@ void BrochurePriceSetterViewController::editVolumeButton(int row) {
     const PriceRow* productToEdit = rowAt(row);
     if (!productToEdit || volumeEditor_)
         return;
-    volumeEditor_ = new VolumeEditorViewController(services_, this);
+    volumeEditor_ = new VolumeEditorViewController(context_.services, this);
     volumeEditor_->edit(*productToEdit, [this](std::optional<Int> volume, const PriceRow& edited) {
         return changeVolume(volume, edited);
     });
@@ -187,7 +180,7 @@ void BrochurePriceSetterViewController::editVolumeButton(int row) {
 }
 
 bool BrochurePriceSetterViewController::changeVolume(std::optional<Int> volume, const PriceRow& row) {
-    if (!actualOrder_->setVolume(volume, row.productIdentifier, row.brandIdentifier))
+    if (!context_.draft->setVolume(volume, row.productIdentifier, row.brandIdentifier))
         return false;
     const auto found = std::ranges::find_if(productsPerBrandsSelected_, [&](const PriceRow& candidate) {
         return candidate.productIdentifier == row.productIdentifier &&
@@ -196,7 +189,7 @@ bool BrochurePriceSetterViewController::changeVolume(std::optional<Int> volume, 
     if (found == productsPerBrandsSelected_.end())
         return false;
     found->volume = volume;
-    autosave(actualOrder_);
+    autosave(context_.draft);
     table_.reloadRow(int(found - productsPerBrandsSelected_.begin()), cellOf(*found));
     return true;
 }
@@ -206,20 +199,20 @@ void BrochurePriceSetterViewController::newProductButton(int row) {
     if (!product)
         return;
     const bool wanted = !table_.data(table_.index(row), PriceTableModel::NewProductRole).toBool();
-    if (!actualOrder_->setNewProduct(wanted, product->productIdentifier, product->brandIdentifier))
+    if (!context_.draft->setNewProduct(wanted, product->productIdentifier, product->brandIdentifier))
         return;
     table_.setNewProduct(row, cellOf(*product).isNew);
-    autosave(actualOrder_);
+    autosave(context_.draft);
 }
 
 void BrochurePriceSetterViewController::priceRecommendation(int) {
-    services_.alerts.inform(toCome, QStringLiteral("La recomendación de precios todavía no está disponible."),
-                            this);
+    context_.services.alerts.inform(
+        toCome, QStringLiteral("La recomendación de precios todavía no está disponible."), this);
 }
 
 void BrochurePriceSetterViewController::showProfitAccount() {
-    services_.alerts.inform(toCome, QStringLiteral("La cuenta de beneficios todavía no está disponible."),
-                            this);
+    context_.services.alerts.inform(
+        toCome, QStringLiteral("La cuenta de beneficios todavía no está disponible."), this);
 }
 
 void BrochurePriceSetterViewController::deleteProductButton(int row) {
@@ -227,7 +220,7 @@ void BrochurePriceSetterViewController::deleteProductButton(int row) {
     if (!product)
         return;
     // The question ends without its closing mark, meant so.
-    ask(services_.alerts, this, attention,
+    ask(context_.services.alerts, this, attention,
         QStringLiteral("¿Desea borrar ") + fromUtf8(product->brandName) + QStringLiteral(" - ") +
             fromUtf8(product->productName),
         {no(), yesDestroy([this, doomed = *product] { deleteRow(doomed); })});
@@ -236,16 +229,16 @@ void BrochurePriceSetterViewController::deleteProductButton(int row) {
 void BrochurePriceSetterViewController::deleteRow(const PriceRow& row) {
     const Int format = row.productIdentifier;
     const Int brand = row.brandIdentifier;
-    if (actualOrder_->isFormatHighlighted(format, brand) == SelectionState::selected) {
-        actualOrder_->setFormatHighlighted(false, format, brand);
+    if (context_.draft->isFormatHighlighted(format, brand) == SelectionState::selected) {
+        context_.draft->setFormatHighlighted(false, format, brand);
         highlight_.scrollToNothing();
     }
-    if (!actualOrder_->setFormatSelected(false, format, brand))
+    if (!context_.draft->setFormatSelected(false, format, brand))
         return;
     std::erase_if(productsPerBrandsSelected_, [&](const PriceRow& candidate) {
         return candidate.productIdentifier == format && candidate.brandIdentifier == brand;
     });
-    autosave(actualOrder_);
+    autosave(context_.draft);
     reloadTable();
     setUpHighlight(false);
 }
@@ -253,14 +246,14 @@ void BrochurePriceSetterViewController::deleteRow(const PriceRow& row) {
 void BrochurePriceSetterViewController::showArchivePrice() {
     if (!archivePrice_)
         return;
-    const PDFCacheManager cache(AppSingleton::shared().cachesFolder(), services_.downloader);
+    const PDFCacheManager cache(AppSingleton::shared().cachesFolder(), context_.services.downloader);
     if (const auto previewURL = cache.localOrRemoteURL(archivePrice_->downloadURL.text))
         emit previewRequested(*previewURL);
 }
 
 bool BrochurePriceSetterViewController::isOrderBySecondaryVisible() const {
-    return !withoutPriceSwitch_ && secondPriceType_ && !orderBySecondaryTitle().isEmpty() && actualOrder_ &&
-           actualOrder_->currentSecondPrice();
+    return !withoutPriceSwitch_ && secondPriceType_ && !orderBySecondaryTitle().isEmpty() &&
+           context_.draft->currentSecondPrice();
 }
 
 QString BrochurePriceSetterViewController::orderBySecondaryTitle() const {
@@ -278,7 +271,7 @@ QString BrochurePriceSetterViewController::orderBySecondaryTitle() const {
 }
 
 QString BrochurePriceSetterViewController::brochureWord() const {
-    return orderType_ ? fromUtf8(label(orderType_->id)) : QString();
+    return context_.type ? fromUtf8(label(context_.type->id)) : QString();
 }
 
 QString BrochurePriceSetterViewController::withoutPriceLabel() const {

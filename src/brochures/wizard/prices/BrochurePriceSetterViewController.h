@@ -1,6 +1,6 @@
 #pragma once
 
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/prices/HighlightZone.h"
 #include "brochures/wizard/prices/PriceSorting.h"
 #include "brochures/wizard/prices/PriceTableModel.h"
@@ -52,7 +52,7 @@ class BrochurePriceSetterViewController : public kavor::WizardStepViewController
     Q_PROPERTY(bool withoutPriceSwitch READ withoutPriceSwitch NOTIFY changed)
 
 public:
-    BrochurePriceSetterViewController(const WizardServices& services, QObject* parent);
+    BrochurePriceSetterViewController(const WizardStepContext& context, QObject* parent);
     ~BrochurePriceSetterViewController() override;
 
     [[nodiscard]] QUrl view() const override;
@@ -120,10 +120,7 @@ private:
     void deleteRow(const PriceRow& row);
     [[nodiscard]] QString brochureWord() const;
 
-    const WizardServices services_;
-    std::shared_ptr<const Catalogue> catalogue_;
-    std::shared_ptr<BrochureIntermediateData> actualOrder_;
-    const Brochures::Type* orderType_ = nullptr; // owned by catalogue_
+    const WizardStepContext context_;
     PriceTableModel table_;
     HighlightZone highlight_;
     PriceSorting sorting_;

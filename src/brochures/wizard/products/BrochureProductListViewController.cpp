@@ -23,10 +23,10 @@ QString labelOf(std::optional<Int> limit) {
 
 } // namespace
 
-BrochureProductListViewController::BrochureProductListViewController(const WizardServices& services,
+BrochureProductListViewController::BrochureProductListViewController(const WizardStepContext& context,
                                                                      QObject* parent)
     : WizardStepViewController(parent)
-    , alerts_(services.alerts) {}
+    , context_(context) {}
 
 BrochureProductListViewController::~BrochureProductListViewController() = default;
 
@@ -35,32 +35,28 @@ QUrl BrochureProductListViewController::view() const {
 }
 
 void BrochureProductListViewController::viewWillAppear() {
-    actualOrder_ = BrochureIntermediateData::temporalBrochure();
-    catalogue_ = AppSingleton::shared().applicationInformation;
-    if (!catalogue_)
-        stopProcess("catalogue of the product step");
     readBrochureType();
     readChalkboard();
-    brands_.setDraft(actualOrder_);
-    brands_.setBrands(catalogue_, family_);
+    brands_.setDraft(context_.draft);
+    brands_.setBrands(context_.catalogue, family_);
     if (!filter_)
-        filter_ =
-            new PriorityBrandSelectorView(catalogue_->brochures().brandProperties, family_, *this, this);
+        filter_ = new PriorityBrandSelectorView(context_.catalogue->brochures().brandProperties, family_,
+                                                *this, this);
     readCustomer();
     runCounter();
     emit changed();
 }
 
 void BrochureProductListViewController::readBrochureType() {
-    const Brochures::Type* type = sectionBrochureType(*catalogue_);
-    const Brochures::Type::Parameters* parameters = sectionParameters(*catalogue_);
-    if (!type || !parameters)
+    const Brochures::Type* type = context_.type;
+    if (!type)
         stopProcess("brochure section of the product step");
+    const Brochures::Type::Parameters& parameters = context_.parameters();
     family_ = type->applicationFather;
     isChalkboard_ = type->id == BrochureType::chalkboard;
-    minimum_ = parameters->minBrandSelection;
-    maximum_ = parameters->maxBrandSelection;
-    newBrandVisible_ = parameters->showProductSecondary;
+    minimum_ = parameters.minBrandSelection;
+    maximum_ = parameters.maxBrandSelection;
+    newBrandVisible_ = parameters.showProductSecondary;
     information_ = informationText(*type);
 }
 
@@ -68,12 +64,12 @@ void BrochureProductListViewController::readChalkboard() {
     numberOfFormatsToSelect_.clear();
     if (!isChalkboard_)
         return;
-    if (!actualOrder_->selectedFormatIdentifier) {
-        alerts_.inform(attention, QStringLiteral("Debes elegir un formato para la pizarra en configuración."),
-                       this);
+    if (!context_.draft->selectedFormatIdentifier) {
+        context_.services.alerts.inform(
+            attention, QStringLiteral("Debes elegir un formato para la pizarra en configuración."), this);
         return;
     }
-    if (const auto* format = catalogue_->blackboardFormat(*actualOrder_->selectedFormatIdentifier))
+    if (const auto* format = context_.catalogue->blackboardFormat(*context_.draft->selectedFormatIdentifier))
         numberOfFormatsToSelect_ = format->numberOfSelectableBrands;
 }
 
@@ -98,7 +94,7 @@ QString BrochureProductListViewController::informationText(const Brochures::Type
 
 void BrochureProductListViewController::readCustomer() {
     std::set<Int> priority;
-    if (const auto& customer = actualOrder_->customerInformation;
+    if (const auto& customer = context_.draft->customerInformation;
         customer && customer->priorityBrandIdentifiers)
         priority.insert(customer->priorityBrandIdentifiers->begin(),
                         customer->priorityBrandIdentifiers->end());
@@ -108,8 +104,8 @@ void BrochureProductListViewController::readCustomer() {
 
 void BrochureProductListViewController::runCounter() {
     currentNumberOfSelections_ =
-        std::ranges::count_if(actualOrder_->selectedBrands, [this](const auto& entry) {
-            const Product* brand = catalogue_->product(entry.first);
+        std::ranges::count_if(context_.draft->selectedBrands, [this](const auto& entry) {
+            const Product* brand = context_.catalogue->product(entry.first);
             return brand && brand->applicationFather == family_ && !entry.second.empty();
         });
     emit counterChanged();
@@ -121,9 +117,9 @@ void BrochureProductListViewController::brandFilterDidChange() {
 
 bool BrochureProductListViewController::mayAddBrand(Int brand) const {
     // A chalkboard has no such limit: its format names the numbers that the draft's check allows.
-    if (isChalkboard_ || actualOrder_->selectedBrands.contains(brand))
+    if (isChalkboard_ || context_.draft->selectedBrands.contains(brand))
         return true;
-    return currentNumberOfSelections_ < actualOrder_->maximumBrands(std::numeric_limits<Int>::max());
+    return currentNumberOfSelections_ < context_.draft->maximumBrands(std::numeric_limits<Int>::max());
 }
 
 void BrochureProductListViewController::setRefusal(const QString& text) {
@@ -137,24 +133,24 @@ void BrochureProductListViewController::toggleFormat(int row, qint64 format) {
     const Product* brand = brands_.brandAt(row);
     if (!brand)
         return;
-    const bool on = actualOrder_->isFormatSelected(format, brand->id) == SelectionState::notSelected;
+    const bool on = context_.draft->isFormatSelected(format, brand->id) == SelectionState::notSelected;
     if (on && !mayAddBrand(brand->id)) {
         setRefusal(QStringLiteral("Ya has seleccionado el máximo de marcas. Quita una para añadir %1.")
                        .arg(fromUtf8(brand->name)));
         return;
     }
     setRefusal({});
-    if (!actualOrder_->setFormatSelected(on, format, brand->id))
+    if (!context_.draft->setFormatSelected(on, format, brand->id))
         return;
     brands_.selectionChanged(brand->id);
     runCounter();
-    autosave(actualOrder_);
+    autosave(context_.draft);
 }
 
 void BrochureProductListViewController::addNewBrandBtn() {
     if (form_ || !newBrandVisible_)
         return;
-    form_ = new NewBrandForm(catalogue_, family_, this);
+    form_ = new NewBrandForm(context_.catalogue, family_, this);
     catalogueToGrow_.prepare();
     emit formChanged();
 }
@@ -171,12 +167,14 @@ void BrochureProductListViewController::createNewBrandBtn() {
     if (!form_)
         return;
     if (!form_->isComplete()) {
-        alerts_.inform(attention, QStringLiteral("Se han de informar todos los campos obligatorios *"), this);
+        context_.services.alerts.inform(
+            attention, QStringLiteral("Se han de informar todos los campos obligatorios *"), this);
         return;
     }
     // Only the brands on show are compared: the filters take part.
     if (brands_.hasVisibleName(text::sanitised(form_->name()))) {
-        alerts_.inform(attention, QStringLiteral("Este producto ya está añadido a la Carta"), this);
+        context_.services.alerts.inform(attention, QStringLiteral("Este producto ya está añadido a la Carta"),
+                                        this);
         return;
     }
     addBrand();
@@ -189,12 +187,12 @@ void BrochureProductListViewController::addBrand() {
     session.changeCatalogue(
         [&](Catalogue& grown) { grown.addProduct(form_->ownBrand().product(grown.brochures(), brand)); },
         catalogueToGrow_.take());
-    catalogue_ = session.applicationInformation;
-    for (const auto& format : catalogue_->product(brand)->productList)
-        actualOrder_->setFormatSelected(true, format.id, brand);
-    brands_.setBrands(catalogue_, family_);
+    context_.readCatalogue();
+    for (const auto& format : context_.catalogue->product(brand)->productList)
+        context_.draft->setFormatSelected(true, format.id, brand);
+    brands_.setBrands(context_.catalogue, family_);
     runCounter();
-    autosave(actualOrder_);
+    autosave(context_.draft);
 }
 
 QString BrochureProductListViewController::minimumProductsSelectedLabel() const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "brochures/wizard/CatalogueCopy.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/products/BrandListModel.h"
 #include "brochures/wizard/products/NewBrandForm.h"
 #include "brochures/wizard/products/PriorityBrandSelectorView.h"
@@ -43,7 +43,7 @@ class BrochureProductListViewController : public kavor::WizardStepViewController
     Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
 
 public:
-    BrochureProductListViewController(const WizardServices& services, QObject* parent);
+    BrochureProductListViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureProductListViewController() override;
 
     [[nodiscard]] QUrl view() const override;
@@ -96,9 +96,7 @@ private:
     void setRefusal(const QString& text);
     void addBrand();
 
-    AlertPresenter& alerts_;
-    std::shared_ptr<const Catalogue> catalogue_;
-    std::shared_ptr<BrochureIntermediateData> actualOrder_;
+    WizardStepContext context_;
     BrandListModel brands_;
     PriorityBrandSelectorView* filter_ = nullptr;
     NewBrandForm* form_ = nullptr;

@@ -1,110 +1,23 @@
 #include "brochures/wizard/send/BrochureSendViewController.h"
 
-#include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
-#include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
 #include "catalogue/Catalogue.h"
-#include "device/Background.h"
-#include "interaction/OpenLink.h"
-#include "interaction/Questions.h"
-#include "network/ServiceOperations.h"
-#include "network/ShowRequestFailure.h"
-#include "orders/OrderDiskManager.h"
-#include "orders/services/SendIntent.h"
+#include "interaction/AlertPresenter.h"
 #include "screens/ResourceImages.h"
-#include "session/AppSingleton.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace kavor {
 
-namespace {
-
-using Directory = OrderDiskManager::DirectoryName;
-using Order = SaveBrochuresOrder;
-
-QString lines(const std::vector<std::string>& sentences) {
-    QStringList list;
-    for (const std::string& sentence : sentences)
-        list.append(fromUtf8(sentence));
-    return list.join(QLatin1Char('\n'));
-}
-
-QString failureTitle(OrderRequestType type) {
-    const QString opening = QStringLiteral("El pedido no se puede ");
-    switch (type) {
-    case OrderRequestType::sendToPrint:
-        return opening + QStringLiteral("realizar");
-    case OrderRequestType::sendPreview:
-        return opening + QStringLiteral("previsualizar");
-    case OrderRequestType::saveCloud:
-        break;
-    }
-    return opening + QStringLiteral("sincronizar");
-}
-
-constexpr char savingText[] = "Guardando el pedido…";
-
-// What the veil of a send says.
-const char* veilText(OrderRequestType type) {
-    switch (type) {
-    case OrderRequestType::sendToPrint:
-        return "Enviando el pedido…";
-    case OrderRequestType::sendPreview:
-        return "Preparando la vista previa…";
-    case OrderRequestType::saveCloud:
-        break;
-    }
-    return "Guardando el pedido en la nube…";
-}
-
-QUrl qurl(const Url& url) {
-    return {QString::fromStdString(url.text)};
-}
-
-// What became of an order that could not be sent.
-struct Queued {
-    enum class Result { Written, WaitsAlready, Failed };
-    std::string name; // of its file in the outbox
-    Result result = Result::Failed;
-};
-
-// A further tap on an order that waits already is no further order.
-Queued intoOutbox(const OrderDiskManager& orders, const KeptOrder& order, const UnansweredSends& unanswered) {
-    if (auto waiting = send_intent::nameInOutbox(unanswered, order, orders))
-        return {std::move(*waiting), Queued::Result::WaitsAlready};
-    std::string name = "Sin enviar";
-    for (int number = 1; orders.exists<Order>(name, Directory::outbox); ++number)
-        name = "Sin enviar(" + std::to_string(number) + ")";
-    const bool written = orders.create(order, Directory::outbox, name);
-    return {std::move(name), written ? Queued::Result::Written : Queued::Result::Failed};
-}
-
-QString textOf(const Queued& queued) {
-    switch (queued.result) {
-    case Queued::Result::Written:
-        return QStringLiteral("Su pedido ha sido guardado en borradores con el nombre \"%1\".")
-            .arg(fromUtf8(queued.name));
-    case Queued::Result::WaitsAlready:
-        return QStringLiteral("Su pedido ya está en borradores con el nombre \"%1\", pendiente de envío.")
-            .arg(fromUtf8(queued.name));
-    case Queued::Result::Failed:
-        break;
-    }
-    return QStringLiteral("Su pedido no se ha podido guardar");
-}
-
-} // namespace
-
-BrochureSendViewController::BrochureSendViewController(const WizardServices& services, QObject* parent)
+BrochureSendViewController::BrochureSendViewController(const WizardStepContext& context, QObject* parent)
     : WizardStepViewController(parent)
-    , services_(services)
-    , catalogue_(AppSingleton::shared().applicationInformation)
-    , draft_(BrochureIntermediateData::temporalBrochure()) {
-    if (!catalogue_)
-        stopProcess("the catalogue of the send step");
+    , context_(context)
+    , road_(context_.services, context_.draft) {
+    connect(&road_, &OrderRoad::checked, this, &BrochureSendViewController::setMissing);
+    connect(&road_, &OrderRoad::documentReady, this, &WizardStepViewController::previewRequested);
+    connect(&road_, &OrderRoad::orderSent, this, &BrochureSendViewController::buttonsChanged);
+    connect(&road_, &OrderRoad::anotherOrderBegun, this, &BrochureSendViewController::viewWillAppear);
 }
 
 BrochureSendViewController::~BrochureSendViewController() = default;
@@ -113,21 +26,15 @@ QUrl BrochureSendViewController::view() const {
     return stepView(QStringLiteral("BrochureSendView.qml"));
 }
 
-void BrochureSendViewController::viewDidLoad() {
-    type_ = AppSingleton::shared().brochureType();
-    if (const auto* parameters = sectionParameters(*catalogue_))
-        brochureTypeParameters_ = *parameters;
-}
-
 void BrochureSendViewController::viewWillAppear() {
     styleLogosInfo_.clear();
-    if (const auto* style = draft_->currentStyle()) {
+    if (const auto* style = context_.draft->currentStyle()) {
         for (const Int identifier : style->logotypeIdentifiers) {
-            if (const auto* logo = catalogue_->logo(identifier))
+            if (const auto* logo = context_.catalogue->logo(identifier))
                 styleLogosInfo_.push_back(logo);
         }
     }
-    summary_ = BrochureSendSummary::of(*draft_, *catalogue_);
+    summary_ = BrochureSendSummary::of(*context_.draft, *context_.catalogue);
     emit summaryChanged();
     emit freeTextForSupportChanged();
     emit buttonsChanged();
@@ -145,279 +52,42 @@ void BrochureSendViewController::sendOrderMyselfAction() {
 }
 
 void BrochureSendViewController::sendOrder(bool printedMyself) {
-    draft_->printedMyself = printedMyself;
+    context_.draft->printedMyself = printedMyself;
     emit editingShouldEnd();
-    if (draft_->sent) {
-        openLink(services_.urls, services_.alerts, orderURL().toString(QUrl::FullyEncoded));
-        return;
-    }
-    checkAndSend(OrderRequestType::sendToPrint);
+    road_.sendToPrint();
 }
 
 void BrochureSendViewController::previewAction() {
     emit editingShouldEnd();
-    checkAndSend(OrderRequestType::sendPreview);
-}
-
-void BrochureSendViewController::checkAndSend(OrderRequestType type) {
-    if (type == OrderRequestType::saveCloud) // an unfinished draft may be kept
-        return send(type);
-    const auto errors = draft_->validationErrors();
-    QStringList sentences;
-    for (const std::string& error : errors)
-        sentences.append(fromUtf8(error));
-    setMissing(sentences);
-    if (!errors.empty()) {
-        services_.alerts.inform(QStringLiteral("Pedido incompleto"), lines(errors));
-        return;
-    }
-    const auto warnings = draft_->priceWarnings();
-    if (!warnings.empty())
-        return askAboutPrices(type, lines(warnings));
-    send(type);
-}
-
-void BrochureSendViewController::askAboutPrices(OrderRequestType type, const QString& warnings) {
-    ask(services_.alerts, this, QStringLiteral("¿Los precios son correctos?"), warnings,
-        {{QStringLiteral("Corregir"), AlertButton::Role::Cancel, {}},
-         {QStringLiteral("Continuar"), AlertButton::Role::Normal, [this, type] { send(type); }}});
-}
-
-void BrochureSendViewController::send(OrderRequestType type) {
-    if (!services_.network.isReachable())
-        return sendOffline(type);
-    const Order order = draft_->makeOrder(type, type != OrderRequestType::saveCloud);
-    const QByteArray key = send_intent::keyFor(draft_->unansweredSends, order);
-    autosave(draft_); // the key outlives the process
-    services_.network.saveOrder(
-        order,
-        {wait_.begin(veilText(type), [this, type] { left(type); }),
-         [this, order](const SaveBrochuresOrderResponse& answer) { sent(order, answer); },
-         [this, order](const RequestFailure& failure) { failed(order, failure); }},
-        key);
-}
-
-// An answer ends the intent, a lost one keeps its key for the next tap.
-void BrochureSendViewController::endIntent(const SaveBrochuresOrder& order) {
-    send_intent::answered(draft_->unansweredSends, order);
-    autosave(draft_);
-}
-
-void BrochureSendViewController::sendOffline(OrderRequestType type) {
-    switch (type) {
-    case OrderRequestType::sendToPrint:
-        return queueOffline();
-    case OrderRequestType::sendPreview:
-        informOffline(services_.alerts);
-        return;
-    case OrderRequestType::saveCloud:
-        services_.alerts.inform(
-            QStringLiteral("Guardado sólo localmente"),
-            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
-        services_.sync.startOrderSync();
-        return;
-    }
-}
-
-void BrochureSendViewController::failed(const SaveBrochuresOrder& order, const RequestFailure& failure) {
-    const OrderRequestType type = order.save;
-    wait_.end();
-    if (!send_intent::isAnswerLost(failure))
-        endIntent(order);
-    showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, failureTitle(type));
-    if (type == OrderRequestType::saveCloud)
-        services_.sync.startOrderSync();
-}
-
-// The same as a lost answer: the order may have been made, and its key stays for the next send.
-void BrochureSendViewController::left(OrderRequestType type) {
-    switch (type) {
-    case OrderRequestType::sendToPrint:
-        services_.alerts.inform(
-            QStringLiteral("Atención"),
-            QStringLiteral(
-                "Es posible que el pedido ya se haya realizado; si lo envía de nuevo sin cambiarlo, "
-                "no se realizará dos veces."));
-        return;
-    case OrderRequestType::sendPreview:
-        return;
-    case OrderRequestType::saveCloud:
-        services_.alerts.inform(
-            QStringLiteral("Guardado sólo localmente"),
-            QStringLiteral("Su pedido se encuentra guardado en local, pero no se ha podido sincronizar."));
-        services_.sync.startOrderSync();
-        return;
-    }
-}
-
-// ---- Answers
-// ---------------------------------------------------------------------------------------------------
-
-void BrochureSendViewController::sent(const SaveBrochuresOrder& order,
-                                      const SaveBrochuresOrderResponse& response) {
-    wait_.end();
-    // An order that was taken without saying where it is may be sent again, and is still the same one.
-    if (order.save != OrderRequestType::sendToPrint || response.urlOrder)
-        endIntent(order);
-    switch (order.save) {
-    case OrderRequestType::sendToPrint:
-        return printed(response);
-    case OrderRequestType::sendPreview:
-        if (!response.urlPDF) {
-            services_.alerts.inform(QStringLiteral("Error"),
-                                    QStringLiteral("No hay url que previsualizar. Contacte con soporte."));
-            return;
-        }
-        previewURL_ = qurl(*response.urlPDF);
-        emit previewRequested(*previewURL_);
-        return;
-    case OrderRequestType::saveCloud:
-        return savedInCloud(response);
-    }
-}
-
-void BrochureSendViewController::printed(const SaveBrochuresOrderResponse& response) {
-    if (!response.urlOrder) {
-        services_.alerts.inform(
-            QStringLiteral("Error"),
-            QStringLiteral("No hay url para ver el pedido realizado. Contacte con soporte."));
-        return;
-    }
-    TemporalBrochure::shared().removeAll();
-    markSent(*draft_, response.urlOrder->text);
-    emit buttonsChanged();
-    services_.alerts.inform(QStringLiteral("Éxito"), fromUtf8(response.message.value_or("")));
-}
-
-void BrochureSendViewController::savedInCloud(const SaveBrochuresOrderResponse& response) {
-    services_.alerts.inform(QStringLiteral("Pedido guardado"),
-                            QStringLiteral("El pedido se encuentra guardado en local y sincronizado"));
-    if (response.orderId)
-        draft_->orderIdentifier = response.orderId;
-    if (response.customerId) {
-        if (!draft_->customerInformation)
-            draft_->customerInformation.emplace();
-        draft_->customerInformation->id = response.customerId;
-    }
-    autosave(draft_);
-    if (!draft_->fileName)
-        return;
-    // The identifiers stand on disk too, so that the order is not kept twice in the cloud.
-    runInBackground(
-        this,
-        [&orders = services_.orders, order = draft_->keptOrder(OrderRequestType::saveCloud, false),
-         file = OrderDiskManager::fileName(*draft_->fileName)] {
-            return orders.update(order, file, Directory::draft);
-        },
-        [](bool) {}); // a failure is logged
-}
-
-// ---- Files
-// -----------------------------------------------------------------------------------------------------
-
-void BrochureSendViewController::queueOffline() {
-    showVeil(true, savingText);
-    KeptOrder order{draft_->makeOrder(OrderRequestType::sendToPrint, true)};
-    // What may be at the server already goes by the key under which it was sent.
-    if (auto known = send_intent::sentWithoutAnswer(draft_->unansweredSends, order); !known.empty())
-        order.unansweredSends = std::move(known);
-    runInBackground(
-        this,
-        [&orders = services_.orders, order, unanswered = draft_->unansweredSends] {
-            return intoOutbox(orders, order, unanswered);
-        },
-        [this, order](const Queued& queued) {
-            showVeil(false);
-            if (queued.result == Queued::Result::Written)
-                noteQueued(order, OrderDiskManager::fileName(queued.name));
-            services_.alerts.inform(QStringLiteral("Sin conexión a internet."), textOf(queued));
-        });
-}
-
-// The order may still be sent from here once the network is back: then it is the one of the file.
-void BrochureSendViewController::noteQueued(const KeptOrder& order, const std::string& fileName) {
-    const auto moment = services_.orders.moment<KeptOrder>(fileName, Directory::outbox);
-    if (!moment)
-        return;
-    send_intent::noteQueued(draft_->unansweredSends, order,
-                            send_intent::keyOfFile(order, Directory::outbox, fileName, *moment));
-    autosave(draft_);
+    road_.preview();
 }
 
 void BrochureSendViewController::saveOrderAction() {
     emit editingShouldEnd();
-    const auto ask = [this] { askForName(fromUtf8(draft_->fileName.value_or(""))); };
-    if (!draft_->sent)
-        return ask();
-    askForAnotherOrder(services_.alerts, this, [this, ask](bool another) {
-        if (!another)
-            return;
-        beginAnotherOrder(*draft_);
-        viewWillAppear();
-        ask();
-    });
-}
-
-void BrochureSendViewController::askForName(const QString& proposal) {
-    askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
-               QStringLiteral("Guardar"), [this](const QString& name) { saveUnderName(name); });
-}
-
-void BrochureSendViewController::saveUnderName(const QString& name) {
-    const std::string plainName = name.trimmed().toStdString();
-    if (const auto refusal = OrderDiskManager::refusalOf(plainName))
-        return services_.alerts.inform(QStringLiteral("Atención"), fromUtf8(*refusal), this,
-                                       [this, name] { askForName(name); });
-    if (!services_.orders.exists<Order>(plainName, Directory::draft))
-        return writeDraftFile(plainName);
-    ask(services_.alerts, this, QStringLiteral("Atención"),
-        QStringLiteral("Ya existe un archivo con ese nombre. ¿desea sobrescribirlo?"),
-        {no(), yesDestroy([this, plainName] { writeDraftFile(plainName); })});
-}
-
-void BrochureSendViewController::writeDraftFile(const std::string& name) {
-    showVeil(true, savingText);
-    const auto former = std::exchange(draft_->fileName, name);
-    // Whoever sends the file afterwards does so under the key under which this step sends it.
-    send_intent::keyFor(draft_->unansweredSends, draft_->makeOrder(OrderRequestType::saveCloud, false));
-    autosave(draft_);
-    runInBackground(
-        this,
-        [&orders = services_.orders, name, order = draft_->keptOrder(OrderRequestType::saveCloud, false)] {
-            return orders.exists<Order>(name, Directory::draft)
-                       ? orders.update(order, OrderDiskManager::fileName(name), Directory::draft)
-                       : orders.create(order, Directory::draft, name);
-        },
-        [this, former](bool written) {
-            showVeil(false);
-            if (written)
-                return checkAndSend(OrderRequestType::saveCloud);
-            draft_->fileName = former; // the draft is not in a file of that name
-            autosave(draft_);
-            services_.alerts.inform(QStringLiteral("Error al guardar pedido."),
-                                    QStringLiteral("Su pedido no se ha podido guardar"));
-        });
+    road_.saveAs();
 }
 
 // ---- What the view shows
 // ---------------------------------------------------------------------------------------
 
 void BrochureSendViewController::myselfAction() {
-    services_.alerts.inform(QStringLiteral("Información"),
-                            fromUtf8(catalogue_->information().validations.printedMyselfHelptext));
+    context_.services.alerts.inform(
+        QStringLiteral("Información"),
+        fromUtf8(context_.catalogue->information().validations.printedMyselfHelptext));
 }
 
 void BrochureSendViewController::printedKavorAction() {
-    const Validations& validations = catalogue_->information().validations;
-    services_.alerts.inform(QStringLiteral("Información"), fromUtf8(brochureTypeParameters_.withPrinter
-                                                                        ? validations.printedKavorHelptext
-                                                                        : validations.printedMyselfHelptext));
+    const Validations& validations = context_.catalogue->information().validations;
+    context_.services.alerts.inform(QStringLiteral("Información"),
+                                    fromUtf8(context_.parameters().withPrinter
+                                                 ? validations.printedKavorHelptext
+                                                 : validations.printedMyselfHelptext));
 }
 
 void BrochureSendViewController::finishSupportComment(const QString& comment) {
     if (comment == freeTextForSupport())
         return;
-    draft_->supportComment = comment.toStdString();
+    context_.draft->supportComment = comment.toStdString();
     emit freeTextForSupportChanged();
 }
 
@@ -436,16 +106,16 @@ void BrochureSendViewController::setMissing(const QStringList& sentences) {
 }
 
 QString BrochureSendViewController::brochureWord() const {
-    return type_ ? fromUtf8(label(*type_)) : QString();
+    return context_.kind ? fromUtf8(label(*context_.kind)) : QString();
 }
 
 bool BrochureSendViewController::isLocalNameMissing() const {
-    return !draft_->customerInformation || draft_->customerInformation->name.empty();
+    return !context_.draft->customerInformation || context_.draft->customerInformation->name.empty();
 }
 
 QString BrochureSendViewController::localNameLabel() const {
     return isLocalNameMissing() ? QStringLiteral("Nombre del local no especificado")
-                                : fromUtf8(draft_->customerInformation->name);
+                                : fromUtf8(context_.draft->customerInformation->name);
 }
 
 QString BrochureSendViewController::orderDataInfoLeft() const {
@@ -462,35 +132,35 @@ QString BrochureSendViewController::orderDataInfoRightWarning() const {
 }
 
 bool BrochureSendViewController::isStyleImageVisible() const {
-    return draft_->includePaperBrochure || brochureTypeParameters_.allowDigitalPdf;
+    return context_.draft->includePaperBrochure || context_.parameters().allowDigitalPdf;
 }
 
 QString BrochureSendViewController::styleImage() const {
-    const auto* style = draft_->currentStyle();
+    const auto* style = context_.draft->currentStyle();
     return style ? resourceImageUrl(style->firstImage) : QString();
 }
 
 QString BrochureSendViewController::styleName() const {
-    const auto* style = draft_->currentStyle();
+    const auto* style = context_.draft->currentStyle();
     return style ? fromUtf8(style->name) : QString();
 }
 
 bool BrochureSendViewController::isStyleDigitalImageVisible() const {
-    return draft_->includeDigitalBrochure;
+    return context_.draft->includeDigitalBrochure;
 }
 
 QString BrochureSendViewController::styleDigitalImage() const {
-    const auto* style = draft_->currentStyleDigital();
+    const auto* style = context_.draft->currentStyleDigital();
     return style ? resourceImageUrl(style->firstImage) : QString();
 }
 
 QString BrochureSendViewController::styleDigitalName() const {
-    const auto* style = draft_->currentStyleDigital();
+    const auto* style = context_.draft->currentStyleDigital();
     return style ? fromUtf8(style->name) : QString();
 }
 
 QStringList BrochureSendViewController::brandImages() const {
-    const auto logos = draft_->currentLogos();
+    const auto logos = context_.draft->currentLogos();
     if (!logos || !isStyleImageVisible())
         return {};
     QStringList images;
@@ -503,7 +173,7 @@ QStringList BrochureSendViewController::brandImages() const {
 }
 
 QString BrochureSendViewController::localLogoImage() const {
-    const auto& customer = draft_->customerInformation;
+    const auto& customer = context_.draft->customerInformation;
     return customer && customer->imageLogo ? dataImageUrl(*customer->imageLogo) : QString();
 }
 
@@ -512,33 +182,29 @@ QString BrochureSendViewController::logoLabel() const {
 }
 
 QString BrochureSendViewController::freeTextForSupport() const {
-    return fromUtf8(draft_->supportComment.value_or(""));
+    return fromUtf8(context_.draft->supportComment.value_or(""));
 }
 
 QString BrochureSendViewController::makeOrderButtonTitle() const {
-    if (draft_->sent)
+    if (context_.draft->sent)
         return QStringLiteral("Ver pedido");
-    if (type_ == BrochureType::video)
+    if (context_.kind == BrochureType::video)
         return QStringLiteral("Realizar pedido");
-    return type_ == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
-                                          : QStringLiteral("Realizar pedido con impresión");
+    return context_.kind == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
+                                                  : QStringLiteral("Realizar pedido con impresión");
 }
 
 bool BrochureSendViewController::isOrderSent() const {
-    return draft_->sent.has_value();
-}
-
-QUrl BrochureSendViewController::orderURL() const {
-    return draft_->sent ? qurl(Url{draft_->sent->url}) : QUrl();
+    return context_.draft->sent.has_value();
 }
 
 bool BrochureSendViewController::isPrintedKavorButtonVisible() const {
-    return !draft_->sent && type_ != BrochureType::video;
+    return !context_.draft->sent && context_.kind != BrochureType::video;
 }
 
 bool BrochureSendViewController::isPrintedMyselfVisible() const {
-    return !draft_->sent && brochureTypeParameters_.withPrinter &&
-           catalogue_->information().validations.withPrintedMyself;
+    return !context_.draft->sent && context_.parameters().withPrinter &&
+           context_.catalogue->information().validations.withPrintedMyself;
 }
 
 } // namespace kavor

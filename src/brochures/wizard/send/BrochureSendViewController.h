@@ -1,10 +1,9 @@
 #pragma once
 
-#include "brochures/engine/SaveBrochuresOrder.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/BrochureRoad.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/send/BrochureSendSummary.h"
 #include "catalogue/Brochures.h"
-#include "interaction/VeiledRun.h"
 
 #include <QQmlEngine>
 #include <QString>
@@ -18,7 +17,6 @@ namespace kavor {
 
 class BrochureIntermediateData;
 class Catalogue;
-struct RequestFailure;
 
 // Step 6 of the wizard: what the draft holds and lacks, the comment for support, and the ways out: to print,
 // a preview, or kept under a name and in the cloud. The one step that saves nothing of its own when it is
@@ -62,12 +60,12 @@ class BrochureSendViewController : public kavor::WizardStepViewController {
 
 public:
     // The services outlive the step.
-    BrochureSendViewController(const WizardServices& services, QObject* parent);
+    BrochureSendViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureSendViewController() override;
 
     [[nodiscard]] QUrl view() const override;
-    void viewDidLoad() override;
     void viewWillAppear() override;
+    void anotherOrderBegun() override { viewWillAppear(); }
 
     Q_INVOKABLE void sendOrderAction();
     Q_INVOKABLE void sendOrderMyselfAction();
@@ -106,8 +104,6 @@ public:
     [[nodiscard]] bool isPrintedMyselfVisible() const;
     // Whether the server has taken the order to print.
     [[nodiscard]] bool isOrderSent() const;
-    // Where the order sent can be seen; it stays with the draft. Empty while nothing was sent.
-    [[nodiscard]] QUrl orderURL() const;
 
 signals:
     void summaryChanged();
@@ -120,34 +116,14 @@ signals:
 
 private:
     void sendOrder(bool printedMyself);
-    void checkAndSend(OrderRequestType type);
-    void askAboutPrices(OrderRequestType type, const QString& warnings);
-    void send(OrderRequestType type);
-    void sendOffline(OrderRequestType type);
-    void endIntent(const SaveBrochuresOrder& order);
-    void sent(const SaveBrochuresOrder& order, const SaveBrochuresOrderResponse& response);
-    void printed(const SaveBrochuresOrderResponse& response);
-    void savedInCloud(const SaveBrochuresOrderResponse& response);
-    void left(OrderRequestType type);
-    void failed(const SaveBrochuresOrder& order, const RequestFailure& failure);
-    void queueOffline();
-    void noteQueued(const KeptOrder& order, const std::string& fileName);
-    void askForName(const QString& proposal);
-    void saveUnderName(const QString& name);
-    void writeDraftFile(const std::string& name);
     void setPanelInfoOrderVisible(bool visible);
     void setMissing(const QStringList& sentences);
 
-    WizardServices services_;
-    VeiledRun wait_;
-    std::shared_ptr<const Catalogue> catalogue_;
-    std::shared_ptr<BrochureIntermediateData> draft_;
-    std::optional<BrochureType> type_;
-    Brochures::Type::Parameters brochureTypeParameters_;
+    const WizardStepContext context_;
+    BrochureRoad road_;
     BrochureSendSummary summary_;
     std::vector<const Brochures::Logo*> styleLogosInfo_; // of the style, in its order
     QStringList missing_;
-    std::optional<QUrl> previewURL_;
     bool panelInfoOrderVisible_ = false;
 };
 

@@ -8,11 +8,11 @@
 
 namespace kavor {
 
-BrochureStyleSelectorViewController::BrochureStyleSelectorViewController(const WizardServices& services,
+BrochureStyleSelectorViewController::BrochureStyleSelectorViewController(const WizardStepContext& context,
                                                                          QObject* parent)
     : WizardStepViewController(parent)
-    , attributeTable_(services.photos, nullptr) {
-    context_.isSectionStyleDigital = AppSingleton::shared().isSectionDigital;
+    , context_{context.catalogue, context.draft, context.type, AppSingleton::shared().isSectionDigital}
+    , attributeTable_(context.services.photos, nullptr) {
     bannerObserver_ = NotificationCenter::shared().observe(
         notification::showPreferredBrandsBanner, [this](const auto&) { showPreferredBrandsBanner(); });
     connect(&logos_, &StyleLogosForm::edited, this, &BrochureStyleSelectorViewController::saveDraft);
@@ -30,16 +30,11 @@ QUrl BrochureStyleSelectorViewController::view() const {
 }
 
 void BrochureStyleSelectorViewController::viewDidLoad() {
-    context_.catalogue = AppSingleton::shared().applicationInformation;
-    if (!context_.catalogue)
-        stopProcess("catalogue of the style step");
-    context_.type = sectionBrochureType(*context_.catalogue);
-    if (!sectionParameters(*context_.catalogue))
+    if (!context_.type)
         stopProcess("brochure section of the style step");
 }
 
 void BrochureStyleSelectorViewController::viewWillAppear() {
-    context_.draft = BrochureIntermediateData::temporalBrochure();
     readStyles();
     quantities_.appear(context_);
     brandQr_.appear(context_);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/NotificationCenter.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/style/BrandQrForm.h"
 #include "brochures/wizard/style/BrochureQuantityForm.h"
 #include "brochures/wizard/style/StyleAttributesModel.h"
@@ -36,13 +36,14 @@ class BrochureStyleSelectorViewController : public kavor::WizardStepViewControll
 public:
     enum class TypeZooms { zoomStyle, zoomStyleQr };
 
-    BrochureStyleSelectorViewController(const WizardServices& services, QObject* parent);
+    BrochureStyleSelectorViewController(const WizardStepContext& context, QObject* parent);
     ~BrochureStyleSelectorViewController() override;
 
     [[nodiscard]] QUrl view() const override;
     void viewDidLoad() override;
     void viewWillAppear() override;
     void serializeAutoSave() override;
+    [[nodiscard]] bool wantsBanner() const override { return true; }
 
     // The carousel, or the strip of miniatures, chose a style.
     Q_INVOKABLE void carouselCurrentItemIndexDidChange(int index);
