@@ -89,9 +89,9 @@ TEST_F(LogFileTest, KeepsTheLastLinesInTwoFilesOfALimitedSizeThroughManyStarts) 
 
 TEST_F(LogFileTest, CostsNothingButItsLinesWhereNothingCanBeWritten) {
     put(folder / "file", "where the folder should be");
-    std::filesystem::create_directories(folder / "full");
-    std::filesystem::create_symlink("/dev/full", folder / "full/kavor.log");
-    for (const char* place : {"file/Logs", "full"}) {
+    std::filesystem::create_directories(folder / "link");
+    std::filesystem::create_symlink("/dev/full", folder / "link/kavor.log");
+    for (const char* place : {"file/Logs", "link"}) {
         const std::string shown = stderrOf([&] {
             LogFile log;
             log.open(folder / place);
