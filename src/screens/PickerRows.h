@@ -6,10 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <functional>
 #include <optional>
-#include <ranges>
-#include <type_traits>
 #include <vector>
 
 namespace kavor {
@@ -28,23 +25,22 @@ public:
         names_.append(name);
         ids_.emplace_back(id);
     }
-    // Adds records by their position; those that share one stay in their order.
-    template <std::ranges::forward_range Records, class Id, class Name>
-    void appendByPosition(Records&& records, Id id, Name name) {
-        using Record = std::remove_reference_t<std::ranges::range_reference_t<Records>>;
-        std::vector<Record*> sorted;
-        for (Record& record : records)
-            sorted.push_back(&record);
-        std::ranges::stable_sort(sorted, {}, [](const Record* record) { return record->position; });
-        for (const Record* record : sorted)
-            append(std::invoke(id, *record), fromUtf8(std::invoke(name, *record)));
+    // Adds records by their position, or those of them that are offered; such as share one stay in their
+    // order.
+    template <class Record>
+    void appendByPosition(const std::vector<Record>& records) {
+        appendByPosition(records, [](const Record&) { return true; });
     }
-    // The same for records that have id and name under these names.
-    template <std::ranges::forward_range Records>
-    void appendByPosition(Records&& records) {
-        appendByPosition(
-            records, [](const auto& record) { return record.id; },
-            [](const auto& record) { return record.name; });
+    template <class Record, class Offered>
+    void appendByPosition(const std::vector<Record>& records, Offered isOffered) {
+        std::vector<const Record*> sorted;
+        for (const Record& record : records) {
+            if (isOffered(record))
+                sorted.push_back(&record);
+        }
+        std::ranges::stable_sort(sorted, {}, &Record::position);
+        for (const Record* record : sorted)
+            append(record->id, fromUtf8(record->name));
     }
     // A row for each number.
     static PickerRows ofNumbers(const std::vector<Int>& numbers) {

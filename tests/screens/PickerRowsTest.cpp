@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace kavor {
 namespace {
@@ -28,7 +29,7 @@ TEST(PickerRowsTest, RecordsStandByTheirPositionAndEqualOnesInTheirOrder) {
 
 TEST(PickerRowsTest, TheFirstRowMayMeanNoneOfThem) {
     PickerRows rows(QStringLiteral("Ninguna"));
-    rows.appendByPosition(records | std::views::filter([](const Record& record) { return record.id > 7; }));
+    rows.appendByPosition(records, [](const Record& record) { return record.id > 7; });
     EXPECT_EQ(rows.names(), (QStringList{"Ninguna", "Rubia", "Ámbar"}));
     EXPECT_EQ(rows.rowOf(std::nullopt), 0);
     EXPECT_EQ(rows.idAt(0), std::nullopt);

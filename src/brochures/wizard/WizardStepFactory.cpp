@@ -34,7 +34,7 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::prices:
         return new BrochurePriceSetterViewController(context, parent);
     case wizard_step::orderSheet:
-        return new BrochureOrderSheetViewController(services, parent);
+        return new BrochureOrderSheetViewController(context, parent);
     case wizard_step::send:
         return new BrochureSendViewController(context, parent);
     case wizard_step::promotions:

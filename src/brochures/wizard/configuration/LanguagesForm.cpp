@@ -3,7 +3,6 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace kavor {
 
@@ -18,7 +17,7 @@ void LanguagesForm::load() {
         });
     };
     languages_ = PickerRows();
-    languages_.appendByPosition(context_.catalogue->brochures().languages | std::views::filter(isOfTheKind));
+    languages_.appendByPosition(context_.catalogue->brochures().languages, isOfTheKind);
 }
 
 void LanguagesForm::serialize() {

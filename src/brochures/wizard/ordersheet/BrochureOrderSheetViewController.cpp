@@ -1,38 +1,29 @@
 #include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
 
-#include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
 #include "catalogue/Catalogue.h"
 #include "screens/ResourceImages.h"
-#include "session/AppSingleton.h"
 
 #include <algorithm>
 
 namespace kavor {
 
-BrochureOrderSheetViewController::BrochureOrderSheetViewController(const WizardServices& /*services*/,
+BrochureOrderSheetViewController::BrochureOrderSheetViewController(const WizardStepContext& context,
                                                                    QObject* parent)
-    : WizardStepViewController(parent) {}
+    : WizardStepViewController(parent)
+    , context_(context) {}
 
 QUrl BrochureOrderSheetViewController::view() const {
     return stepView(QStringLiteral("BrochureOrderSheetView.qml"));
 }
 
 void BrochureOrderSheetViewController::viewDidLoad() {
-    catalogue_ = AppSingleton::shared().applicationInformation;
-    if (!catalogue_)
-        stopProcess("catalogue of the order sheet step");
-    const auto* parameters = sectionParameters(*catalogue_);
-    if (!parameters)
-        stopProcess("brochure section of the order sheet step");
-    unitsToSend_ = parameters->numberOfOrderSheetsToSend;
-    carousel_.setSheets(catalogue_->brochures().orderSheets);
+    carousel_.setSheets(context_.catalogue->brochures().orderSheets);
 }
 
 void BrochureOrderSheetViewController::viewWillAppear() {
-    draft_ = BrochureIntermediateData::temporalBrochure();
-    showEntry(carousel_.indexOf(draft_->selectedOrderSheetIdentifier));
+    showEntry(carousel_.indexOf(context_.draft->selectedOrderSheetIdentifier));
 }
 
 void BrochureOrderSheetViewController::showEntry(int index) {
@@ -40,8 +31,8 @@ void BrochureOrderSheetViewController::showEntry(int index) {
     availableBrands_.clear();
     if (const Brochures::OrderSheet* sheet = carousel_.sheetAt(index)) {
         for (const Int brand : sheet->brands) {
-            if (const Product* product = catalogue_->product(brand))
-                availableBrands_.push_back({draft_->selectedBrands.contains(brand), product});
+            if (const Product* product = context_.catalogue->product(brand))
+                availableBrands_.push_back({context_.draft->selectedBrands.contains(brand), product});
         }
     }
     emit changed();
@@ -52,16 +43,17 @@ void BrochureOrderSheetViewController::carouselCurrentItemIndexDidChange(int ind
         return;
     showEntry(index);
     serializeAutoSave();
-    autosave(draft_);
+    autosave(context_.draft);
 }
 
 void BrochureOrderSheetViewController::serializeAutoSave() {
     const Brochures::OrderSheet* sheet = carousel_.sheetAt(currentIndex_);
-    draft_->setOrderSheet(sheet ? std::optional(sheet->id) : std::nullopt);
+    context_.draft->setOrderSheet(sheet ? std::optional(sheet->id) : std::nullopt);
 }
 
 QString BrochureOrderSheetViewController::numberOrderBrochuresToSend() const {
-    return carousel_.sheetAt(currentIndex_) ? QStringLiteral("Se enviarán %1 unidades").arg(unitsToSend_)
+    return carousel_.sheetAt(currentIndex_) ? QStringLiteral("Se enviarán %1 unidades")
+                                                  .arg(context_.parameters().numberOfOrderSheetsToSend)
                                             : QString();
 }
 

@@ -1,17 +1,14 @@
 #pragma once
 
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/ordersheet/OrderSheetModel.h"
 
 #include <QVariantList>
 
-#include <memory>
 #include <vector>
 
 namespace kavor {
 
-class BrochureIntermediateData;
-class Catalogue;
 struct Product;
 
 // Step 5: the order sheet that goes along with the menu, or none.
@@ -29,7 +26,7 @@ class BrochureOrderSheetViewController : public kavor::WizardStepViewController,
     Q_PROPERTY(QString noBrandAvailableLabel READ noBrandAvailableLabel NOTIFY changed)
 
 public:
-    BrochureOrderSheetViewController(const WizardServices& services, QObject* parent);
+    BrochureOrderSheetViewController(const WizardStepContext& context, QObject* parent);
 
     [[nodiscard]] QUrl view() const override;
     void viewDidLoad() override;
@@ -56,12 +53,10 @@ private:
 
     void showEntry(int index);
 
-    std::shared_ptr<const Catalogue> catalogue_;
-    std::shared_ptr<BrochureIntermediateData> draft_;
+    const WizardStepContext context_;
     OrderSheetModel carousel_;
     std::vector<AvailableBrand> availableBrands_; // every brand that the order sheet names
     int currentIndex_ = 0;
-    Int unitsToSend_ = 0;
 };
 
 } // namespace kavor

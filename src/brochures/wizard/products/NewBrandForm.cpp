@@ -1,7 +1,5 @@
 #include "brochures/wizard/products/NewBrandForm.h"
 
-#include <ranges>
-
 namespace kavor {
 
 namespace {
@@ -13,9 +11,8 @@ const QString unselectedString = QStringLiteral("Sin seleccionar");
 template <class Record>
 PickerRows NewBrandForm::vocabularyOf(const std::vector<Record>& records) const {
     PickerRows rows(unselectedString);
-    rows.appendByPosition(records | std::views::filter([this](const Record& record) {
-                              return record.applicationFather == family_;
-                          }));
+    rows.appendByPosition(records,
+                          [this](const Record& record) { return record.applicationFather == family_; });
     return rows;
 }
 
