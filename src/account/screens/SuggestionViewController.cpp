@@ -2,11 +2,11 @@
 
 #include "catalogue/Catalogue.h"
 #include "device/Reachability.h"
+#include "documents/Answers.h"
 #include "interaction/QtText.h"
 #include "interaction/Questions.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
-#include "network/records/ErrorRecords.h"
 #include "screens/QueryText.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"

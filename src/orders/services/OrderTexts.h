@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/Enumerations.h"
+#include "documents/OrderRequestType.h"
 
 #include <QString>
 

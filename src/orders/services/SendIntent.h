@@ -15,6 +15,7 @@ namespace kavor {
 
 struct KeptOrder;
 struct RequestFailure;
+struct SaveBrochuresOrder;
 
 // What an order asks for, digested: two orders with the same content are one intent to send.
 class SendContent {
