@@ -74,7 +74,7 @@ double median(std::vector<double> values) {
 int main(int argc, char* argv[]) {
     using namespace kavor;
     const QCoreApplication application(argc, argv);
-    setLogSink([](std::string_view) {});
+    setLogSink([](const LogEntry&) {});
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
     ScriptedServer server;
     server.setHandler([](const ScriptedRequest& request) {

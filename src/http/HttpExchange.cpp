@@ -29,22 +29,6 @@ bool isSameOrigin(const QUrl& a, const QUrl& b) {
     return a.scheme() == b.scheme() && a.host() == b.host() && port(a) == port(b);
 }
 
-// Whether the answer is there. Qt has an error for each status of 400 and above; the other errors are faults
-// of the transport.
-bool answerIsThere(QNetworkReply::NetworkError error, int status) {
-    // When the server closes the connection right behind its answer, or answers 307, Qt may want to send the
-    // body once more and says that it cannot; the answer itself is there.
-    if (error == QNetworkReply::NoError || error == QNetworkReply::ContentReSendError)
-        return status != 0;
-    // Qt takes 407 for a proxy that asks for a password, also when the server says it.
-    if (error == QNetworkReply::ProxyAuthenticationRequiredError)
-        return status == 407;
-    const bool hasStatus =
-        (error > QNetworkReply::UnknownProxyError && error <= QNetworkReply::UnknownContentError) ||
-        error == QNetworkReply::ProtocolInvalidOperationError || error >= QNetworkReply::InternalServerError;
-    return hasStatus && status >= 400;
-}
-
 // A header's value never carries a line end.
 QByteArray oneLine(QByteArray value) {
     value.removeIf([](char c) { return c == '\r' || c == '\n' || c == '\0'; });
@@ -129,9 +113,15 @@ void HttpExchange::collect(qint64 announced) {
         body_ += reply_->readAll();
 }
 
-// An error's status says enough, whatever became of its body.
 std::optional<QString> HttpExchange::fault() const {
-    if (!answerIsThere(reply_->error(), status()))
+    // The status of an error says enough, whatever became of its body and of the connection.
+    if (status() >= 400)
+        return std::nullopt;
+    // When the server closes the connection right behind its answer, or answers 307, Qt may want to send the
+    // body once more and says that it cannot; the answer itself is there.
+    const bool isThere =
+        reply_->error() == QNetworkReply::NoError || reply_->error() == QNetworkReply::ContentReSendError;
+    if (!isThere || status() == 0)
         return reply_->errorString();
     if (status() >= 300)
         return std::nullopt;

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kavor.Ui
 
 // Edits one price. Shows `displayText` (with its currency) at rest and `editText` while it has the focus.
 // Comma and point of the keypad both write the decimal comma. `entered` when the focus comes, `edited` on each
