@@ -15,7 +15,7 @@ LocationQuestion::LocationQuestion(ReverseLocationManager* location, AlertPresen
     , alerts_(alerts)
     , wait_(wait) {}
 
-void LocationQuestion::ask(Taken taken) {
+void LocationQuestion::ask(const Taken& taken) {
     if (start(wait_.begin("Buscando la ubicación…"), taken))
         return;
     wait_.end();

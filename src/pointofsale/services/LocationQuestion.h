@@ -22,7 +22,7 @@ public:
                      QObject* parent = nullptr);
 
     // Nothing is taken when the user says no, leaves the veil, or the place can't be had, which is told.
-    void ask(Taken taken);
+    void ask(const Taken& taken);
 
 private:
     bool start(QObject* run, const Taken& taken);
