@@ -137,6 +137,11 @@ private:
 // The number in the catalogue for each brand of the order, none for one that can't come back.
 std::vector<std::optional<Int>> bringBackOwnBrands(const Menu& menu) {
     std::vector<std::optional<Int>> numbers;
+    if (std::ranges::none_of(menu.beerBrands, [](const auto& each) { return *each.brand < 0; })) {
+        for (const auto& brand : menu.beerBrands)
+            numbers.push_back(brand.brand);
+        return numbers; // without a look at the whole catalogue
+    }
     OwnBrandFinder finder(menu);
     for (const auto& brand : menu.beerBrands)
         numbers.push_back(*brand.brand < 0 ? finder.find(brand) : brand.brand);
