@@ -1,7 +1,7 @@
 #pragma once
 
-#include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/engine/EngineSession.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
 
 #include <functional>
 #include <memory>

@@ -102,7 +102,7 @@ private:
 
     Collaborators services_;
     quint64 backgroundTaskID_ = 0; // 0: invalid
-    int answersAwaited_ = 0; // by the uploads of a background run
+    int answersAwaited_ = 0;       // by the uploads of a background run
 
     // Orders that reached the server while the disk took no more, by their file names: as they were sent.
     struct Unstored {
