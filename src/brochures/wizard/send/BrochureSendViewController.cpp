@@ -41,7 +41,6 @@ void BrochureSendViewController::viewWillAppear() {
 }
 
 // ---- The ways out
-// ----------------------------------------------------------------------------------------------
 
 void BrochureSendViewController::sendOrderAction() {
     sendOrder(false);
@@ -68,7 +67,6 @@ void BrochureSendViewController::saveOrderAction() {
 }
 
 // ---- What the view shows
-// ---------------------------------------------------------------------------------------
 
 void BrochureSendViewController::myselfAction() {
     context_.services.alerts.inform(
