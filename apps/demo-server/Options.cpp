@@ -17,8 +17,11 @@ void addNumbers(CLI::App& program, Options& options) {
     constexpr int any = std::numeric_limits<int>::max();
     number("--port", options.port, 0, 65535, "port on 127.0.0.1, 0 picks a free one");
     number("--brands", options.brands, 12, any, "number of brands in the catalogue");
+    number("--orders", options.orders, 0, 1'000'000,
+           "earlier orders of the first account, cloud orders included");
     number("--token-seconds", options.tokenSeconds, 1, any, "life of a bearer token");
-    number("--state-seconds", options.stateSeconds, 1, any, "time of an order in each state");
+    number("--state-seconds", options.stateSeconds, 1, any,
+           "time of an order in each state, and of a claim without an answer");
 }
 
 void addTexts(CLI::App& program, Options& options) {
@@ -36,7 +39,7 @@ void addTexts(CLI::App& program, Options& options) {
 
 void addFlags(CLI::App& program, Options& options) {
     program.add_flag_callback(
-        "--no-history", [&options] { options.history = false; }, "no earlier orders in the order list");
+        "--no-history", [&options] { options.history = false; }, "no earlier orders, the same as --orders 0");
     program.add_flag("--stop-with-parent", options.stopWithParent, "end together with the starting process");
     program.add_flag("--quiet", options.quiet, "no line for each request");
 }

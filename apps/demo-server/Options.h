@@ -18,6 +18,7 @@ struct Options {
     std::optional<std::string> dumpCatalogueFile; ///< write the catalogue here and end
     std::string baseUrl = "http://127.0.0.1:8480"; ///< address inside a dumped catalogue
     bool history = true;                           ///< earlier orders in the list of the first account
+    int orders = 40;                               ///< how many of them
     bool quiet = false;                            ///< no line for each request
     bool stopWithParent = false;                   ///< end when the process that started this one ends
 };

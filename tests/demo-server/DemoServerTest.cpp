@@ -1,6 +1,6 @@
 #include "RunningServer.h"
 #include "catalogue/Content.h"
-#include "server/History.h"
+#include "server/SampleOrder.h"
 #include "server/Time.h"
 
 #include <QBuffer>

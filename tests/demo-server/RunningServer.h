@@ -11,7 +11,7 @@
 
 namespace kavor::demo {
 
-/// A demonstration server on a free port with a folder of its own, and a client that talks to it.
+/// A demonstration server on a free port with a folder of its own or a given one, and a client that talks to it.
 class RunningServer {
 public:
     explicit RunningServer(Options options = {})
@@ -35,6 +35,17 @@ public:
     };
 
     Reply get(const std::string& path) { return reply(client_.Get(path, headers())); }
+    /// The library's own answer, with its headers.
+    httplib::Result raw(const std::string& method, const std::string& path, const std::string& range = {}) {
+        httplib::Request request;
+        request.method = method;
+        request.path = path;
+        request.headers = headers();
+        if (!range.empty()) {
+            request.headers.emplace("Range", range);
+        }
+        return client_.send(request);
+    }
     Reply post(const std::string& path, const Json& body, const std::string& key = {}) {
         httplib::Headers all = headers();
         if (!key.empty()) {
@@ -44,6 +55,14 @@ public:
     }
     Reply form(const std::string& path, const httplib::Params& values) {
         return reply(client_.Post(path, headers(), values));
+    }
+    /// What a request says in its query and not in a body.
+    Reply query(const std::string& path, const httplib::Params& values) {
+        return reply(client_.Post(httplib::append_query_params(path, values), headers(), "", "text/plain"));
+    }
+    Reply list(httplib::Params values = {}) {
+        values.emplace("cloud", "1");
+        return form("/api/orders/list", values);
     }
     Reply remove(const std::string& path, const Json& body) {
         return reply(client_.Delete(path, headers(), body.dump(), "application/json"));
@@ -62,7 +81,9 @@ private:
     Options prepared(Options& options) {
         options.port = 0;
         options.quiet = true;
-        options.dataFolder = folder_.path().toStdString();
+        if (options.dataFolder.empty()) {
+            options.dataFolder = folder_.path().toStdString();
+        }
         return options;
     }
     httplib::Headers headers() const {

@@ -1,7 +1,6 @@
 #include "catalogue/BrochureTypes.h"
 
-#include "catalogue/Styles.h"
-
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -243,6 +242,11 @@ Json parametersOf(const Rules& rules) {
 }
 
 } // namespace
+
+bool offersQrBlocks(BrochureKind kind) {
+    const auto found = std::ranges::find(allRules, kind, &Rules::kind);
+    return found != allRules.end() && found->block;
+}
 
 Json brochureTypes() {
     Json types = Json::array();

@@ -174,9 +174,6 @@ Json drinkRecords() {
     return list;
 }
 
-/// Logos and QR brands are made for the first brands only: the large catalogues are large in brands.
-constexpr size_t brandsWithMaterial = 60;
-
 Json logoRecords(std::span<const Brand> brands, PictureBook& book) {
     Json list = Json::array();
     for (const Brand& brand : brands.first(std::min(brandsWithMaterial, brands.size()))) {
@@ -195,17 +192,15 @@ Json logoRecords(std::span<const Brand> brands, PictureBook& book) {
 
 Json qrRecords(std::span<const Brand> brands, PictureBook& book) {
     Json list = Json::array();
-    for (const Brand& brand : brands.first(std::min(brandsWithMaterial, brands.size()))) {
-        if (brand.withLogo && brand.id % 2 == 0) {
-            const std::string look = lookText(brand.look);
-            list.push_back({{"id", 700 + brand.id},
-                            {"position", int(list.size()) + 1},
-                            {"name", "QR " + brand.name},
-                            {"image", book.resource({PictureKind::qrSticker, brand.id}, look, 2)},
-                            {"image_taco", book.resource({PictureKind::qrBlock, brand.id}, look, 3)},
-                            {"brand_id", brand.id},
-                            {"application_father_id", int(brand.family)}});
-        }
+    for (const Brand* brand : qrBrands(brands)) {
+        const std::string look = lookText(brand->look);
+        list.push_back({{"id", qrIdOf(brand->id)},
+                        {"position", int(list.size()) + 1},
+                        {"name", "QR " + brand->name},
+                        {"image", book.resource({PictureKind::qrSticker, brand->id}, look, 2)},
+                        {"image_taco", book.resource({PictureKind::qrBlock, brand->id}, look, 3)},
+                        {"brand_id", brand->id},
+                        {"application_father_id", int(brand->family)}});
     }
     return list;
 }

@@ -22,9 +22,9 @@ Json validations(PictureBook& book) {
         {"customer_url", 80},
         {"customer_free_text", 120},
         {"with_print_qr", true},
-        {"cartas_qr_quantity", {10, 20, 40, 60}},
-        {"cartas_qr_quantity_circle", {1, 2, 4}},
-        {"cartas_qr_quantity_taco", {5, 10, 15}},
+        {"cartas_qr_quantity", Json(qrTableQuantities)},
+        {"cartas_qr_quantity_circle", Json(qrDoorQuantities)},
+        {"cartas_qr_quantity_taco", Json(qrBlockQuantities)},
         {"with_printed_myself", true},
         {"default_printed_myself", false},
         {"printed_myself_helptext",
@@ -49,11 +49,12 @@ Json pairings() {
     return list;
 }
 
-Json suggestionCategories() {
-    return {{{"id", 1}, {"name", "Catálogo"}},
-            {{"id", 2}, {"name", "Pedidos y entregas"}},
-            {{"id", 3}, {"name", "La aplicación"}},
-            {{"id", 4}, {"name", "Otros"}}};
+Json mailboxCategories() {
+    Json list = Json::array();
+    for (const char* name : suggestionCategories()) {
+        list.push_back({{"id", int(list.size()) + 1}, {"name", name}});
+    }
+    return list;
 }
 
 Json attributeTypes() {
@@ -85,7 +86,7 @@ Json manualRecords(PictureBook& book) {
                         {"label", manual.label},
                         {"position", manual.id},
                         {"thumb", book.resource({PictureKind::manual, manual.id}, manual.label, 2)},
-                        {"video", book.document("/tutoriales/" + number, 3)},
+                        {"video", book.document("/tutoriales/" + number + ".mp4", 3)},
                         {"video_token", book.document("/tutoriales/" + number + "/token", 3)}});
     }
     return list;
@@ -142,7 +143,7 @@ std::string Catalogue::makeText() {
     std::string text = "{";
     appendMember(text, "validaciones", validations(book_).dump());
     appendMember(text, "maridaje", pairings().dump());
-    appendMember(text, "suggestion_mailbox_categories", suggestionCategories().dump());
+    appendMember(text, "suggestion_mailbox_categories", mailboxCategories().dump());
     appendMember(text, "productos", products);
     for (auto& place : productPlaces_) {
         place.first += text.size() - products.size();

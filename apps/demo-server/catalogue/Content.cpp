@@ -1,5 +1,6 @@
 #include "catalogue/Content.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kavor::demo {
@@ -157,25 +158,31 @@ std::span<const GarmentColour> garmentColours() {
 std::span<const Manual> manuals() {
     static const std::array table = {
         Manual{1,
-               "carta",
+               "Cartas",
                "Tu primera carta",
                {"Busca el bar por su código", "Elige un estilo de portada", "Marca cervezas y formatos",
                 "Escribe los precios", "Revisa y envía"}},
         Manual{2,
-               "carta",
-               "Trabajar sin conexión",
-               {"Guarda el pedido con un nombre", "Se queda en el dispositivo",
-                "Se envía al volver la conexión"}},
+               "Cartas",
+               "Precios y vista previa",
+               {"Los precios recomendados ya están puestos", "Si falta algo, se dice qué",
+                "La vista previa enseña cómo quedará"}},
         Manual{3,
-               "textil",
-               "Pedir ropa para el equipo",
-               {"Elige marca y prenda", "Reparte tallas y colores", "Escribe el texto y su letra"}},
+               "Sin conexión",
+               "Trabajar sin conexión",
+               {"Prepara el pedido aunque no haya red", "Se queda en el dispositivo",
+                "El panel cuenta los que faltan por enviar"}},
         Manual{4,
-               "activacion",
-               "Organizar una fiesta",
-               {"Mira el cupo disponible", "Elige fecha con antelación", "Completa los datos del local"}},
+               "Tu cuenta",
+               "Perfil y buzón",
+               {"Mira lo que queda de tu presupuesto", "Cambia tus datos", "Cuéntanos qué mejorarías"}},
     };
     return table;
+}
+
+std::span<const char* const> suggestionCategories() {
+    static constexpr std::array names = {"Catálogo", "Pedidos y entregas", "La aplicación", "Otros"};
+    return names;
 }
 
 std::span<const Notice> notices() {
@@ -266,6 +273,16 @@ std::span<const char* const> pairingNames() {
                                          "Ensaladas",      "Mariscos", "Embutidos", "Guisos",
                                          "Postres",        "Setas"};
     return names;
+}
+
+std::vector<const Brand*> qrBrands(std::span<const Brand> brands) {
+    std::vector<const Brand*> found;
+    for (const Brand& brand : brands.first(std::min(brandsWithMaterial, brands.size()))) {
+        if (brand.withLogo && (brand.id % 2 == 0 || brand.family == Family::wine)) {
+            found.push_back(&brand);
+        }
+    }
+    return found;
 }
 
 const Brand& brandAt(std::span<const Brand> brands, Family family, int place) {

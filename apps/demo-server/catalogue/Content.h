@@ -2,6 +2,7 @@
 
 #include "catalogue/Styles.h"
 
+#include <array>
 #include <optional>
 #include <span>
 #include <vector>
@@ -97,6 +98,7 @@ struct GarmentColour {
 };
 std::span<const GarmentColour> garmentColours();
 
+/// A tutorial; its film is films/ID.mp4.
 struct Manual {
     int id;
     const char* type;
@@ -104,6 +106,9 @@ struct Manual {
     std::vector<const char*> steps;
 };
 std::span<const Manual> manuals();
+
+/// Categories of the suggestion mailbox; their ids count from 1.
+std::span<const char* const> suggestionCategories();
 
 struct Notice {
     int id;
@@ -136,6 +141,17 @@ struct DrinkCategory {
     std::vector<DrinkProduct> products;
 };
 std::span<const DrinkCategory> drinkCategories();
+
+/// Logos and QR material are made for the first brands only: the large catalogues are large in brands.
+inline constexpr size_t brandsWithMaterial = 60;
+
+/// The brands with QR material, in the order of the catalogue: beers, wines, and a few of the other drinks.
+std::vector<const Brand*> qrBrands(std::span<const Brand> brands);
+
+/// How much QR material may be asked for: stickers for tables, round ones for doors, wooden blocks.
+inline constexpr std::array qrTableQuantities = {10, 20, 40, 60};
+inline constexpr std::array qrDoorQuantities = {1, 2, 4};
+inline constexpr std::array qrBlockQuantities = {5, 10, 15};
 
 /// The name of a price column, empty for a number that is none.
 const char* priceName(int priceType);

@@ -65,4 +65,9 @@ constexpr int logoIdOf(int brandId) {
     return 5000 + brandId;
 }
 
+/// The id of a brand's QR material.
+constexpr int qrIdOf(int brandId) {
+    return 700 + brandId;
+}
+
 } // namespace kavor::demo

@@ -2,9 +2,11 @@
 
 #include "catalogue/Content.h"
 #include "documents/MenuPdf.h"
+#include "documents/Page.h"
 #include "server/OrderRecords.h"
 #include "server/Time.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -12,33 +14,10 @@ namespace kavor::demo {
 
 namespace {
 
-constexpr const char* sheet =
-    "body{margin:0;background:#FAF6EE;color:#20262B;font:17px/1.5 Cabin,Roboto,sans-serif}"
-    "header{background:#123F31;color:#FAF6EE;padding:22px 20px;border-bottom:6px solid #E0A126}"
-    "header h1{margin:0;font-size:26px}header p{margin:4px 0 0;opacity:.85}"
-    "main{max-width:640px;margin:0 auto;padding:20px}"
-    ".card{background:#fff;border:1px solid #E6DFD1;border-radius:12px;padding:16px 18px;margin:0 0 16px}"
-    "ol.road{list-style:none;display:flex;padding:0;margin:8px 0 0}"
-    "ol.road li{flex:1;text-align:center;font-size:14px;color:#6B7280;border-top:5px solid "
-    "#E6DFD1;padding-top:8px}"
-    "ol.road li.done{border-color:#E0A126;color:#123F31;font-weight:bold}"
-    "a.button{display:inline-block;background:#123F31;color:#fff;padding:13px 22px;border-radius:12px;"
-    "text-decoration:none}table{width:100%;border-collapse:collapse}td{padding:5px 0;border-bottom:1px solid "
-    "#E6DFD1}"
-    "td.price{text-align:right;white-space:nowrap;font-weight:bold}h2{font-size:20px;margin:0 0 "
-    "8px;color:#123F31}"
-    "small{color:#6B7280}";
-
-std::string pageOf(const std::string& title, const std::string& subtitle, const std::string& content) {
-    return "<!DOCTYPE html><html lang=\"es\"><head><meta charset=\"utf-8\"><meta name=\"viewport\" "
-           "content=\"width=device-width,initial-scale=1\"><title>" +
-           escaped(title) + "</title><style>" + sheet + "</style></head><body><header><h1>" + escaped(title) +
-           "</h1><p>" + escaped(subtitle) + "</p></header><main>" + content + "</main></body></html>";
-}
+constexpr std::array stages = {OrderState::withoutConfirm, OrderState::confirmed, OrderState::inProcess,
+                               OrderState::sent, OrderState::delivered};
 
 std::string road(OrderState state) {
-    constexpr std::array stages = {OrderState::withoutConfirm, OrderState::confirmed, OrderState::inProcess,
-                                   OrderState::sent, OrderState::delivered};
     std::string list = "<ol class=\"road\">";
     bool reached = false;
     for (const OrderState stage : stages) {
@@ -47,6 +26,45 @@ std::string road(OrderState state) {
         reached = reached || stage == state;
     }
     return list + "</ol>";
+}
+
+std::string turn(const char* who, std::int64_t when, const std::string& words) {
+    const std::string kind = std::string(who) == "Tú" ? "turn" : "turn programme";
+    return "<div class=\"" + kind + "\"><small>" + who + ", " + wireDate(when) + "</small><p>" +
+           escaped(words) + "</p></div>";
+}
+
+std::string qrWords(const Json& demand, const Catalogue& catalogue) {
+    const Brand* brand = catalogue.brand(demand["brand_qr_id"].get<int>() - qrIdOf(0));
+    std::string words = "Material QR de " + (brand ? brand->name : std::string("una marca retirada")) + ":";
+    if (demand["type"] == 2) {
+        words += " " + demand["quantity_qr_taco"].dump() + " tacos de madera.";
+    } else {
+        words += " " + demand["quantity_qr"].dump() + " vinilos de mesa y " +
+                 demand["quantity_qr_circular"].dump() + " de puerta.";
+    }
+    const std::string comment = demand["comment"].get<std::string>();
+    return comment.empty() ? words : words + "\n" + comment;
+}
+
+/// What the user wrote about the order, each with the programme's answer once that has come.
+std::string conversation(const Order& order, Orders& orders, const Catalogue& catalogue) {
+    std::string turns;
+    for (const OrderMessage& message : orders.messages(order)) {
+        const bool claim = message.kind == "claim";
+        turns += turn("Tú", message.created,
+                      claim ? message.body["comment"].get<std::string>() : qrWords(message.body, catalogue));
+        const std::int64_t answered = orders.answeredAt(message);
+        if (answered > now()) {
+            turns += "<p><small>Pendiente de respuesta.</small></p>";
+        } else {
+            turns +=
+                turn("Programa Kavor", answered,
+                     claim ? "Gracias por avisar. Lo hemos revisado y el pedido vuelve a estar en marcha."
+                           : "Autorizado. Lo imprimimos y lo enviamos al local.");
+        }
+    }
+    return turns.empty() ? turns : "<div class=\"card\"><h2>Conversación</h2>" + turns + "</div>";
 }
 
 std::string money(double price) {
@@ -72,35 +90,14 @@ std::string kindTitle(const Order& order) {
 
 } // namespace
 
-std::string escaped(const std::string& text) {
-    std::string safe;
-    for (const char letter : text) {
-        switch (letter) {
-        case '&':
-            safe += "&amp;";
-            break;
-        case '<':
-            safe += "&lt;";
-            break;
-        case '>':
-            safe += "&gt;";
-            break;
-        case '"':
-            safe += "&quot;";
-            break;
-        default:
-            safe += letter;
-        }
-    }
-    return safe;
-}
-
-std::string orderHtml(const Order& order, OrderState state, const Catalogue& catalogue) {
+std::string orderHtml(const Order& order, Orders& orders, const Catalogue& catalogue) {
+    const OrderState state = orders.stateOf(order);
+    const std::string note = orders.noteOf(order);
     std::string content = "<div class=\"card\"><h2>" + escaped(stateName(state)) + "</h2>";
-    if (state == OrderState::incidence || state == OrderState::canceled) {
-        content += "<p>" + escaped(order.note.empty() ? "Estamos revisando tu pedido." : order.note) + "</p>";
+    if (std::ranges::find(stages, state) != stages.end()) {
+        content += road(state) + (note.empty() ? "" : "<p>" + escaped(note) + "</p>");
     } else {
-        content += road(state);
+        content += "<p>" + escaped(note.empty() ? "Estamos revisando tu pedido." : note) + "</p>";
     }
     content += "</div><div class=\"card\"><table><tr><td>Pedido</td><td class=\"price\">" +
                std::to_string(order.id) + "</td></tr><tr><td>Fecha</td><td class=\"price\">" +
@@ -114,8 +111,8 @@ std::string orderHtml(const Order& order, OrderState state, const Catalogue& cat
                        "</td><td class=\"price\">" + line["quantity"].dump() + "</td></tr>";
         }
     }
-    content += "</table></div><p><a class=\"button\" href=\"" + orderPdf(order, catalogue.baseUrl()) +
-               "\">Ver el PDF</a></p>";
+    content += "</table></div>" + conversation(order, orders, catalogue) + "<p><a class=\"button\" href=\"" +
+               orderPdf(order, catalogue.baseUrl()) + "\">Ver el PDF</a></p>";
     return pageOf(kindTitle(order), order.pdv.empty() ? "Sin especificar" : order.pdv, content);
 }
 

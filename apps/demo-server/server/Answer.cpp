@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <thread>
 
 namespace kavor::demo {
@@ -52,6 +53,42 @@ void deliverBytes(const Answer& answer, httplib::Response& response) {
         });
 }
 
+/// The one range that an answer is asked for, within its size: first and last byte. None: the whole is
+/// wanted. Several ranges at once get the whole too, which a server may always do.
+std::optional<httplib::Range> wantedRange(const Answer& answer, const httplib::Request& request) {
+    if (!answer.inRanges || answer.status != 200 || request.ranges.size() != 1) {
+        return std::nullopt;
+    }
+    auto [first, last] = request.ranges.front();
+    const auto size = ssize_t(answer.body->size());
+    if (first < 0) { // the last so many bytes
+        return last > 0 ? httplib::Range(std::max<ssize_t>(0, size - last), size - 1)
+                        : httplib::Range(size, size);
+    }
+    return httplib::Range(first, last < 0 ? size - 1 : std::min(last, size - 1));
+}
+
+/// The library cuts every answer to the ranges of the request, whatever they are; so they are put right
+/// first.
+void putRangesRight(const Answer& answer, const httplib::Request& request, httplib::Response& response) {
+    auto& ranges = const_cast<httplib::Ranges&>(request.ranges);
+    const auto wanted = answer.body ? wantedRange(answer, request) : std::nullopt;
+    ranges.clear();
+    if (answer.inRanges && answer.status == 200) {
+        response.set_header("Accept-Ranges", "bytes");
+    }
+    if (!wanted) {
+        return;
+    }
+    if (wanted->first > wanted->second || wanted->first >= ssize_t(answer.body->size())) {
+        response.status = 416;
+        response.set_header("Content-Range", "bytes */" + std::to_string(answer.body->size()));
+        return;
+    }
+    response.status = 206;
+    ranges.push_back(*wanted);
+}
+
 } // namespace
 
 Answer Answer::json(const Json& document, int status) {
@@ -78,7 +115,8 @@ void deliver(const Answer& answer, const httplib::Request& request, httplib::Res
         shutConnection(request.remote_port, request.local_port);
         return;
     }
-    if (!answer.body || answer.body->empty()) {
+    putRangesRight(answer, request, response);
+    if (response.status == 416 || !answer.body || answer.body->empty()) {
         response.set_content("", answer.type);
         return;
     }

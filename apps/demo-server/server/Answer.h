@@ -21,6 +21,7 @@ struct Answer {
     std::string type = "application/json; charset=utf-8";
     Delivery delivery = Delivery::whole;
     int milliseconds = 0;
+    bool inRanges = false; ///< may be asked for in pieces, as players do
 
     static Answer json(const Json& document, int status = 200);
     static Answer text(std::string body, std::string type);

@@ -96,9 +96,55 @@ void Database::createTables() {
              "CREATE TABLE IF NOT EXISTS suggestions (id INTEGER PRIMARY KEY, account INTEGER, category "
              "INTEGER, "
              "body TEXT)",
+             "CREATE TABLE IF NOT EXISTS messages (id INTEGER PRIMARY KEY, order_id INTEGER, kind TEXT, "
+             "created INTEGER, body TEXT)",
+             "CREATE TABLE IF NOT EXISTS profiles (account INTEGER PRIMARY KEY, page TEXT UNIQUE, body TEXT)",
+             "CREATE TABLE IF NOT EXISTS seeds (account INTEGER PRIMARY KEY, number INTEGER)",
          }) {
         run(sql);
     }
+    addColumns();
+}
+
+/// What a folder of an earlier version lacks. Its seeded orders go: there are more and better ones now.
+void Database::addColumns() {
+    struct Column {
+        const char* table;
+        const char* name;
+        const char* type;
+    };
+    bool older = false;
+    for (const Column& column :
+         {Column{"suggestions", "created", "INTEGER DEFAULT 0"},
+          Column{"orders", "road", "INTEGER DEFAULT 0"}, Column{"orders", "since", "INTEGER DEFAULT 0"},
+          Column{"orders", "pending", "INTEGER"}, Column{"orders", "linked", "INTEGER DEFAULT 1"},
+          Column{"orders", "qr_brand", "INTEGER"}, Column{"orders", "qr_blocks", "INTEGER DEFAULT 0"},
+          Column{"orders", "typography", "INTEGER DEFAULT 0"}}) {
+        if (query("SELECT 1 FROM pragma_table_info(?) WHERE name = ?",
+                  {std::string(column.table), std::string(column.name)})
+                .empty()) {
+            run(std::string("ALTER TABLE ") + column.table + " ADD COLUMN " + column.name + " " +
+                column.type);
+            older = true;
+        }
+    }
+    if (older) {
+        run("DELETE FROM orders WHERE state = 7 OR seeded = 1");
+        run("UPDATE orders SET qr_brand = json_extract(body, '$.menu.brand_qr_id'), "
+            "qr_blocks = COALESCE(json_extract(body, '$.menu.quantity_qr_taco'), 0) > 0, "
+            "typography = COALESCE(json_extract(body, '$.order.typography_id'), 0)");
+    }
+}
+
+void Database::together(const std::function<void()>& changes) {
+    run("BEGIN IMMEDIATE");
+    try {
+        changes();
+    } catch (...) {
+        run("ROLLBACK");
+        throw;
+    }
+    run("COMMIT");
 }
 
 std::vector<SqlRow> Database::query(const std::string& sql, const std::vector<SqlValue>& values) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <mutex>
 #include <string>
@@ -20,6 +21,7 @@ public:
     explicit SqlRow(std::vector<SqlValue> columns)
         : columns_(std::move(columns)) {}
     bool isNull(size_t column) const { return std::holds_alternative<std::nullptr_t>(columns_[column]); }
+    size_t size() const { return columns_.size(); }
     std::int64_t integer(size_t column) const;
     std::string text(size_t column) const;
 
@@ -41,8 +43,12 @@ public:
     /// Runs a statement that answers nothing; answers the id of the row that it inserted last.
     std::int64_t run(const std::string& sql, const std::vector<SqlValue>& values = {});
 
+    /// Runs what `changes` does as one change of the file.
+    void together(const std::function<void()>& changes);
+
 private:
     void createTables();
+    void addColumns();
 
     sqlite3* handle_ = nullptr;
     std::mutex mutex_;

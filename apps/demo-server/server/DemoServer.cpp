@@ -134,13 +134,19 @@ DemoServer::DemoServer(const Options& options)
         return servedWithoutBody(request, response) ? httplib::Server::HandlerResponse::Handled
                                                     : httplib::Server::HandlerResponse::Unhandled;
     });
+    http_->set_error_handler(httplib::Server::HandlerWithResponse(
+        [this](const httplib::Request& request, httplib::Response& response) {
+            explainRefusal(request, response);
+            return httplib::Server::HandlerResponse::Unhandled;
+        }));
     addSessionRoutes();
+    addAccountRoutes();
     addOrderRoutes();
     addMaterialRoutes();
     addFileRoutes();
     addTestRoutes();
     if (options.history) {
-        addHistory(orders_, catalogue_, 1);
+        addHistory(orders_, catalogue_, 1, options.orders);
     }
 }
 
@@ -214,6 +220,20 @@ void DemoServer::route(const std::string& method, const std::string& pattern, Ac
         http_->Delete(pattern, run);
     }
     routes_.push_back({method, std::regex(pattern), run});
+}
+
+void DemoServer::explainRefusal(const httplib::Request& request, httplib::Response& response) {
+    constexpr int targetTooLong = 414; // the library knows no route yet
+    if (response.status != targetTooLong) {
+        return;
+    }
+    const Answer answer =
+        refusal({{"query", {"El texto es demasiado largo. Acórtalo y vuelve a enviarlo."}}});
+    response.status = answer.status;
+    response.set_content(*answer.body, answer.type);
+    if (request.path.starts_with("/api/")) {
+        log_.setStatus(log_.add(logEntry(request)), answer.status);
+    }
 }
 
 /// The library would wait for a body until the connection ends.

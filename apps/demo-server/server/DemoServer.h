@@ -60,6 +60,8 @@ private:
 
     /// Serves requests that have a method with a body but neither a body nor its length.
     bool servedWithoutBody(const httplib::Request& request, httplib::Response& response) const;
+    /// Requests that the library itself refuses are told in the server's own form.
+    void explainRefusal(const httplib::Request& request, httplib::Response& response);
     void route(const std::string& method, const std::string& pattern, Access access, Handler handler);
     Answer answerFor(const httplib::Request& request, Access access, const Handler& handler);
     Answer guarded(const httplib::Request& request, Access access, const Handler& handler);
@@ -73,15 +75,26 @@ private:
     // Session, catalogue and look-ups.
     void addSessionRoutes();
     Answer login(const Call& call);
-    Answer profile(const Call& call);
     Answer customers(const Call& call);
     Answer prices(const Call& call);
+
+    // The profile, its form in the browser, and the suggestion mailbox.
+    void addAccountRoutes();
+    struct StoredProfile {
+        std::string page; ///< last part of the form's address
+        Json values;
+    };
+    StoredProfile storedProfile(const Account& account);
+    Answer profile(const Call& call);
+    Answer profileForm(const Call& call);
     Answer suggestion(const Call& call);
+    Json suggestions();
 
     // Orders of menus, and what the order list asks for.
     void addOrderRoutes();
     Answer saveBrochure(const Call& call);
     Answer storeBrochure(const Call& call, const Json& body, std::int64_t customer);
+    struct ListFilter;
     Answer orderList(const Call& call);
     Answer deleteOrder(const Call& call);
     Answer claimOrder(const Call& call);
@@ -103,6 +116,8 @@ private:
 
     // What tests ask for.
     void addTestRoutes();
+    Answer setState(const Call& call);
+    Json storedOrders(bool withHistory);
 
     struct Route {
         std::string method;

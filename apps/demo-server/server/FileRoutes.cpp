@@ -54,7 +54,7 @@ void DemoServer::addFileRoutes() {
     });
     route("GET", R"(/pedido/([0-9a-f]+))", Access::open, [this](const Call& call) {
         const auto order = orders_.findByToken(call.part(1));
-        return order ? Answer::page(orderHtml(*order, orders_.stateOf(*order), catalogue_))
+        return order ? Answer::page(orderHtml(*order, orders_, catalogue_))
                      : Answer::message(404, "El pedido no existe.");
     });
     route("GET", R"(/carta/([0-9a-z]+))", Access::open, [this](const Call& call) {
@@ -64,10 +64,22 @@ void DemoServer::addFileRoutes() {
                    : Answer::page(
                          plainHtml("Carta de muestra", {"Aquí se verá la carta del local cuando se pida."}));
     });
+    route("GET", R"(/tutoriales/(\d{1,3})\.mp4)", Access::open, [](const Call& call) {
+        QFile film(":/films/" + QString::fromStdString(call.part(1)) + ".mp4");
+        if (!film.open(QIODevice::ReadOnly)) {
+            return Answer::message(404, "No existe el tutorial.");
+        }
+        Answer answer = bytes(film.readAll(), "video/mp4");
+        answer.inRanges = true;
+        return answer;
+    });
     route("GET", R"(/tutoriales/(\d{1,3}))", Access::open, [](const Call& call) {
         for (const Manual& manual : manuals()) {
             if (manual.id == std::stoi(call.part(1))) {
-                return Answer::page(plainHtml(manual.label, {manual.steps.begin(), manual.steps.end()}));
+                std::vector<std::string> sentences = {"<video controls src=\"/tutoriales/" + call.part(1) +
+                                                      ".mp4\"></video>"};
+                sentences.insert(sentences.end(), manual.steps.begin(), manual.steps.end());
+                return Answer::page(plainHtml(manual.label, sentences));
             }
         }
         return Answer::message(404, "No existe el tutorial.");

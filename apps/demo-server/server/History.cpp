@@ -1,192 +1,208 @@
 #include "server/History.h"
 
 #include "catalogue/Dice.h"
+#include "server/SampleOrder.h"
 #include "server/Time.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace kavor::demo {
 
 namespace {
 
-Json soldFormat(const Format& format, bool secondPrice, Dice& dice) {
-    const double price = format.price.value_or(format.minimalPrice * 2);
-    Json prices = Json::array();
-    prices.push_back({{"price_type", 1}, {"price", price}});
-    if (secondPrice) {
-        prices.push_back({{"price_type", 2}, {"price", price + 0.4}});
-    }
-    Json sold = {{"product", format.id}, {"product_type", format.typeId}, {"is_new", dice.below(4) == 0}};
-    if (format.volumeEditable && format.minimumVolume) {
-        sold["quantity"] = *format.minimumVolume + 5;
-    }
-    sold["sub_item_prices"] = std::move(prices);
-    return sold;
+using enum BrochureKind;
+using State = OrderState;
+
+/// An earlier order: what it was and what makes it special.
+struct Past {
+    BrochureKind kind = beer;
+    int daysAgo = 1;
+    State state = State::delivered;
+    int textile = 0; ///< 8 or 21: clothing, and no menu
+    const char* note = "";
+    std::optional<bool> pending = {};
+    bool code = true, pointOfSale = true, link = true;
+    const char* name = nullptr; ///< of a bar without a code, which is also the name of its file
+    bool stock = true;          ///< what it holds is still in the catalogue
+    bool style = true;          ///< so is its style
+};
+
+constexpr int lastYear = 366;
+
+/// The most telling ones come first, for those who ask for a few.
+constexpr std::array chosen = {
+    Past{.daysAgo = 1, .state = State::cloud},
+    Past{.kind = beer, .daysAgo = 2, .state = State::withoutConfirm},
+    Past{.kind = beverage, .daysAgo = 4, .state = State::incidence, .note = "Falta confirmar la dirección."},
+    Past{.kind = wineA4, .daysAgo = 9, .state = State::sent},
+    Past{.kind = menu, .daysAgo = 6, .state = State::inProcess},
+    Past{.kind = chalkboard,
+         .daysAgo = 33,
+         .state = State::canceled,
+         .note = "Cancelado a petición del local."},
+    Past{.daysAgo = 3, .state = State::cloud, .code = false, .name = "Bar. La Nube"},
+    Past{.daysAgo = 2, .state = State::cloud, .textile = 8},
+    Past{.daysAgo = 11, .state = State::delivered},
+    Past{.kind = beverage, .daysAgo = 5, .state = State::cloud, .style = false},
+    Past{.daysAgo = 14, .state = State::sent, .stock = false},
+    Past{.kind = flyer, .daysAgo = 3, .state = State::confirmed},
+    Past{.kind = digital, .daysAgo = 8, .state = State::cloud},
+    Past{.kind = wineOrder,
+         .daysAgo = 12,
+         .state = State::tradeAuthorization,
+         .note = "Pendiente del visto bueno de la delegación comercial."},
+    Past{.kind = video,
+         .daysAgo = 10,
+         .state = State::confirmSupport,
+         .note = "Soporte ha revisado los textos: falta que los confirmes.",
+         .pending = true},
+    Past{.kind = mantel, .daysAgo = 16, .state = State::delivered},
+    Past{.kind = encarte, .daysAgo = 18, .state = State::inProcess},
+    Past{.kind = digital, .daysAgo = 21, .state = State::delivered},
+    Past{.kind = pennant, .daysAgo = 25, .state = State::sent},
+    Past{.daysAgo = 5, .state = State::confirmed, .code = false, .name = "Chiringuito Las Dunas Quietas"},
+    Past{.kind = menu, .daysAgo = 13, .state = State::sent, .pointOfSale = false},
+    Past{.kind = wineA4, .daysAgo = 17, .state = State::deleted, .note = "Pedido duplicado.", .link = false},
+    Past{.daysAgo = 7, .state = State::sent, .textile = 8},
+    Past{
+        .daysAgo = 19, .state = State::incidence, .textile = 21, .note = "Falta la talla de dos delantales."},
+    Past{.daysAgo = 4, .state = State::cloud, .textile = 21},
+    Past{.daysAgo = 22,
+         .state = State::incidence,
+         .note =
+             "La imprenta avisa: el logotipo del local llega con poca resolución y en la portada se vería "
+             "borroso. Envíanos otro de al menos 1.000 píxeles de ancho o dinos si lo imprimimos sin él.",
+         .code = false,
+         .name = "Merendero El Vado"},
+    Past{.kind = wineOrder, .daysAgo = 24, .state = State::sent},
+    Past{.kind = beverage, .daysAgo = 27, .state = State::withoutConfirm, .link = false},
+    Past{.daysAgo = 29,
+         .state = State::incidence,
+         .note = "Resuelta: se repuso el material.",
+         .pending = false},
+    Past{.kind = chalkboard, .daysAgo = 31, .state = State::delivered},
+    Past{.kind = flyer, .daysAgo = 31, .state = State::confirmSupport, .code = false, .pointOfSale = false},
+    Past{.daysAgo = 41, .state = State::delivered, .stock = false},
+    Past{.kind = mantel, .daysAgo = 47, .state = State::tradeAuthorization},
+    Past{.kind = wineA4, .daysAgo = 15, .state = State::cloud, .stock = false},
+    Past{.kind = menu, .daysAgo = lastYear, .state = State::delivered},
+    Past{.daysAgo = lastYear + 9, .state = State::delivered},
+    Past{.kind = wineA4, .daysAgo = lastYear + 23, .state = State::delivered, .link = false},
+    Past{.daysAgo = lastYear + 31, .state = State::canceled, .code = false, .name = "Taberna Sin Rótulo"},
+    Past{.daysAgo = lastYear + 40, .state = State::delivered, .textile = 8},
+    Past{.kind = beverage, .daysAgo = lastYear + 58, .state = State::sent},
+};
+
+/// One more, of nothing special but its number; they reach three years back.
+Past madeUp(int number) {
+    constexpr std::array kinds = {beer, beverage, menu, wineA4, beer, flyer, chalkboard, wineOrder, mantel};
+    constexpr std::array states = {State::delivered, State::delivered, State::sent,
+                                   State::delivered, State::inProcess, State::withoutConfirm,
+                                   State::confirmed, State::canceled};
+    Dice dice{std::uint64_t(number) + 31};
+    Past past;
+    past.kind = kinds[size_t(dice.below(int(kinds.size())))];
+    past.daysAgo = 6 + dice.below(3 * lastYear);
+    past.state = past.daysAgo > 60 ? State::delivered : states[size_t(dice.below(int(states.size())))];
+    past.code = dice.below(12) != 0;
+    return past;
 }
 
-Json soldBrand(const Brand& brand, bool secondPrice, Dice& dice) {
-    Json item = {{"brand", brand.id}};
-    const auto add = [&item](const char* key, const std::optional<int>& value) {
-        if (value) {
-            item[key] = *value;
-        }
-    };
-    add("brand_segment", brand.segmentId);
-    add("brand_typology", brand.typologyId);
-    add("brand_taste", brand.tasteId);
-    add("brand_sub_typology", brand.subTypologyId);
-    add("brand_age", brand.ageId);
-    item["name"] = brand.name;
-    item["sub_items"] = Json::array();
-    for (const Format& format : brand.formats) {
-        if (format.onBrochures && item["sub_items"].size() < 3) {
-            item["sub_items"].push_back(soldFormat(format, secondPrice, dice));
-        }
+Bar barOfPast(const Past& past, int number) {
+    Bar bar = bars()[size_t(number) * 5 % bars().size()];
+    if (past.name) {
+        bar.name = past.name;
     }
-    return item;
+    if (!past.code) {
+        bar.code.clear();
+    }
+    return bar;
 }
 
-Json customerOf(const Bar& bar) {
-    Json customer = customerRecord(bar, std::nullopt);
-    for (auto entry = customer.begin(); entry != customer.end();) {
-        entry = entry->is_null() ? customer.erase(entry) : std::next(entry);
-    }
-    return customer;
+/// A brand, and a format of a brand, that no catalogue holds.
+void addWhatIsGone(Json& menu) {
+    Json& known = menu["items"].front();
+    Json format = known["sub_items"].front();
+    format["product"] = known["brand"].get<int>() * 10 + 9;
+    known["sub_items"].push_back(format);
+    Json brand = known;
+    constexpr int gone = 990001;
+    brand["brand"] = gone;
+    brand["name"] = "Torrealba de Ayer";
+    format["product"] = gone * 10 + 1;
+    brand["sub_items"] = Json::array({format});
+    menu["items"].push_back(std::move(brand));
 }
 
-const Style* styleOf(const Catalogue& catalogue, BrochureKind kind, int seed) {
-    std::vector<const Style*> offered;
-    for (const Style& style : catalogue.styles()) {
-        if (style.kind == kind) {
-            offered.push_back(&style);
-        }
+Json bodyOfPast(const Past& past, const Bar& bar, const Catalogue& catalogue, int number) {
+    if (past.textile > 0) {
+        return sampleTextileOrder(catalogue, bar, past.textile, number);
     }
-    return offered.empty() ? nullptr : offered[size_t(seed) % offered.size()];
+    Json body = sampleOrder(catalogue, bar, past.kind, number);
+    Json& content = body["menu"];
+    if (bar.code.empty()) {
+        content["customer"].erase("cod_tevo");
+        content["customer"].erase("id");
+    }
+    if (!past.stock) {
+        addWhatIsGone(content);
+    }
+    if (!past.style) {
+        content["style"] = 4711;
+    }
+    return body;
 }
 
-void addSpecials(Json& menu, const Catalogue& catalogue, BrochureKind kind) {
-    if (kind == BrochureKind::beer) {
-        for (const Json& item : menu["items"]) {
-            for (const Json& sold : item["sub_items"]) {
-                const Format* format = catalogue.format(sold["product"].get<int>());
-                if (format->highlightable && !menu.contains("product_featured_id")) {
-                    menu["product_featured_id"] = format->id;
-                }
-                if (format->onPennant && menu["product_pennant"].size() < 5) {
-                    menu["product_pennant"].push_back(
-                        {{"product_id", format->id}, {"position", int(menu["product_pennant"].size()) + 1}});
-                }
-            }
-        }
+/// Spread over the hours in which bars are visited; two of the chosen ones share a moment.
+std::int64_t momentOf(const Past& past, int number) {
+    constexpr std::int64_t day = 24 * 3600;
+    const int slot = number == 30 ? 29 : number;
+    return startOfDay(now() - past.daysAgo * day) + 10 * 3600 + slot * 53 % 600 * 60 + slot % 60;
+}
+
+Order orderOfPast(const Past& past, const Catalogue& catalogue, int number) {
+    const Bar bar = barOfPast(past, number);
+    Order order;
+    order.kind = past.textile > 0 ? "textile" : "brochure";
+    order.type = past.textile > 0 ? past.textile : int(past.kind);
+    order.created = momentOf(past, number);
+    order.filename = bar.name;
+    order.tevo = bar.code;
+    order.pdv = past.pointOfSale ? bar.name : "";
+    order.note = past.note;
+    order.pending = past.pending;
+    order.linked = past.link;
+    order.seeded = true;
+    order.body = bodyOfPast(past, bar, catalogue, number);
+    order.cloud = past.state == State::cloud;
+    if (order.cloud) {
+        order.body["save"] = 3;
+    } else {
+        order.fixedState = past.state;
     }
-    if (kind == BrochureKind::beverage || kind == BrochureKind::menu) {
-        menu["other_drinks"].push_back(
-            {{"category_id", 3},
-             {"category_position", 1},
-             {"description", "De la cocina a la barra"},
-             {"other_products",
-              {{{"product_format_id", 301},
-                {"product_format_position", 1},
-                {"description", ""},
-                {"sub_item_prices", {{{"price_type", 1}, {"price", 5.5}, {"format_name", "Ración"}}}}}}}});
-    }
+    return order;
 }
 
 } // namespace
 
-Json sampleOrder(const Catalogue& catalogue, const Bar& bar, BrochureKind kind, int seed) {
-    Dice dice{std::uint64_t(seed) + 99};
-    const Style* style = styleOf(catalogue, kind, seed);
-    const bool secondPrice = seed % 2 == 0;
-    Json menu = {{"order_type", int(kind)}};
-    menu["style"] = style ? style->id : 0;
-    menu["style_digital_id"] = 1001;
-    menu["style_pennant_id"] = 1011;
-    menu["language1_id"] = 1;
-    if (seed % 3 == 0) {
-        menu["language2_id"] = 3;
+void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account, int number) {
+    std::vector<Order> made;
+    for (int i = orders.seeds(account); i < number; ++i) {
+        made.push_back(orderOfPast(i < int(chosen.size()) ? chosen[size_t(i)] : madeUp(i), catalogue, i));
+        made.back().account = account;
     }
-    menu["customer"] = customerOf(bar);
-    if (style && style->logos.size() >= 3) {
-        menu["bottles"] = Json::array();
-        for (int i = 0; i < 3; ++i) {
-            menu["bottles"].push_back({{"id", style->logos[size_t(i)]}, {"position", i + 1}});
+    if (made.empty()) {
+        return;
+    }
+    std::ranges::sort(made, {}, &Order::created); // an earlier order has the smaller number
+    orders.database().together([&] {
+        for (Order& order : made) {
+            orders.add(order);
         }
-    }
-    menu["items"] = Json::array();
-    const size_t wanted = 4 + size_t(dice.below(5));
-    for (const Brand& brand : catalogue.brands()) {
-        if (brand.family == familyOfKind(int(kind)) && menu["items"].size() < wanted && dice.below(3) != 0) {
-            menu["items"].push_back(soldBrand(brand, secondPrice, dice));
-        }
-    }
-    menu["product_pennant"] = Json::array();
-    menu["other_drinks"] = Json::array();
-    menu["promotions"] = Json::array();
-    addSpecials(menu, catalogue, kind);
-    menu["brand_qr_id"] = 700 + 2;
-    menu["quantity_qr"] = 20;
-    menu["show_qr_other_menu"] = false;
-    menu["without_price_beer"] = false;
-    menu["without_price_pennant"] = false;
-
-    Json lines = Json::array();
-    lines.push_back({{"price", 1}, {"quantity", 50}});
-    if (secondPrice) {
-        lines.push_back({{"price", 2}, {"quantity", 20}});
-    }
-    Json order = {{"save", 1}, {"order_lines", std::move(lines)}, {"menu", std::move(menu)}};
-    order["name_archive_tablet"] = bar.name;
-    for (const char* flag : {"with_digital_menu", "with_digital_menu_print", "with_default_menu",
-                             "with_pennant", "includeDigitalBrochureTmp", "printDigitalBrochureTmp",
-                             "includePaperBrochureTmp", "withPennantTmp"}) {
-        order[flag] = true;
-    }
-    order["printed_myself"] = false;
-    return order;
-}
-
-void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account) {
-    for (const Order& order : orders.list(account, "brochure")) {
-        if (order.seeded) {
-            return;
-        }
-    }
-    struct Past {
-        BrochureKind kind;
-        int daysAgo;
-        OrderState state;
-        const char* note;
-    };
-    int seed = 0;
-    for (const Past& past :
-         {Past{BrochureKind::beer, 41, OrderState::delivered, ""},
-          Past{BrochureKind::chalkboard, 33, OrderState::canceled, "Cancelado a petición del local."},
-          Past{BrochureKind::wineA4, 20, OrderState::sent, ""},
-          Past{BrochureKind::beverage, 12, OrderState::incidence, "Falta confirmar la dirección."},
-          Past{BrochureKind::menu, 6, OrderState::inProcess, ""},
-          Past{BrochureKind::beer, 2, OrderState::cloud, ""}}) {
-        const Bar& bar = bars()[size_t(seed) * 5];
-        Order order;
-        order.account = account;
-        order.kind = "brochure";
-        order.type = int(past.kind);
-        order.body = sampleOrder(catalogue, bar, past.kind, seed);
-        order.created = now() - std::int64_t(past.daysAgo) * 24 * 3600;
-        order.filename = bar.name;
-        order.tevo = bar.code;
-        order.pdv = bar.name;
-        order.note = past.note;
-        order.seeded = true;
-        order.cloud = past.state == OrderState::cloud;
-        if (order.cloud) {
-            order.body["save"] = 3;
-        } else {
-            order.fixedState = past.state;
-        }
-        orders.add(order);
-        ++seed;
-    }
+        orders.setSeeds(account, number);
+    });
 }
 
 } // namespace kavor::demo

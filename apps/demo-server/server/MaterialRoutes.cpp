@@ -69,6 +69,8 @@ Answer DemoServer::saveTextile(const Call& call) {
         const auto earlier = orders_.find(call.account.id, body["id"].get<std::int64_t>(), "textile");
         if (earlier && earlier->cloud) {
             order = *earlier;
+            order.seeded = false; // what its user made of it
+            order.linked = true;
         }
     }
     const bool known = order.id != 0;
@@ -150,8 +152,7 @@ Answer DemoServer::deleteSheet(const Call& call) {
     if (!order || order->token != call.parameter("order_token")) {
         return Answer::message(404, "La hoja vendedora no existe.");
     }
-    order->fixedState = OrderState::deleted;
-    orders_.update(*order);
+    orders_.remove(*order);
     return Answer::message(200, "Hoja vendedora eliminada.");
 }
 

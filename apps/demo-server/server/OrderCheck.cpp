@@ -1,8 +1,12 @@
 #include "server/OrderCheck.h"
 
+#include "catalogue/BrochureTypes.h"
+#include "catalogue/Content.h"
+
 #include <algorithm>
 #include <functional>
 #include <set>
+#include <span>
 
 namespace kavor::demo {
 
@@ -294,6 +298,29 @@ void checkReference(const Json& holder, const char* key, const std::function<boo
     }
 }
 
+void checkQuantity(const char* member, std::int64_t quantity, bool ofThisType, std::span<const int> offered,
+                   Faults& faults) {
+    if (quantity == 0) {
+        return;
+    }
+    if (!ofThisType) {
+        faults[member].push_back("Esa cantidad no es del tipo de material QR elegido.");
+    } else if (std::ranges::find(offered, quantity) == offered.end()) {
+        faults[member].push_back("La cantidad " + std::to_string(quantity) +
+                                 " de material QR no está en el catálogo.");
+    }
+}
+
+QrMaterial qrOf(const Json& content) {
+    QrMaterial material;
+    material.brand = content["brand_qr_id"].get<std::int64_t>();
+    material.tables = content.value("quantity_qr", std::int64_t(0));
+    material.doors = content.value("quantity_qr_circular", std::int64_t(0));
+    material.blocks = content.value("quantity_qr_taco", std::int64_t(0));
+    material.type = material.blocks > 0 ? 2 : 1;
+    return material;
+}
+
 } // namespace
 
 Faults brochureFormFaults(const Json& order, bool raw) {
@@ -349,6 +376,34 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
         checkReference(
             content, key, [&](int id) { return catalogue.style(id) != nullptr; }, faults);
     }
+    if (content.contains("brand_qr_id")) {
+        for (auto& [member, sentences] :
+             qrFaults(qrOf(content), content["order_type"].get<int>(), catalogue)) {
+            faults["menu." + member] = std::move(sentences);
+        }
+    }
+    return faults;
+}
+
+Faults qrFaults(const QrMaterial& material, int kind, const Catalogue& catalogue) {
+    Faults faults;
+    const auto offered = qrBrands(catalogue.brands());
+    const auto brand =
+        std::ranges::find(offered, material.brand, [](const Brand* each) { return qrIdOf(each->id); });
+    if (brand == offered.end()) {
+        faults["brand_qr_id"].push_back("La marca del material QR ya no está en el catálogo.");
+    } else if ((*brand)->family != familyOfKind(kind)) {
+        faults["brand_qr_id"].push_back("La marca del material QR no es de la familia de este pedido.");
+    }
+    if (material.type != 1 && material.type != 2) {
+        faults["type"].push_back("El tipo de material QR no se conoce.");
+    } else if (material.type == 2 && !offersQrBlocks(BrochureKind(kind))) {
+        faults["type"].push_back("Este tipo de pedido no lleva tacos de madera.");
+    }
+    const bool blocks = material.type == 2;
+    checkQuantity("quantity_qr", material.tables, !blocks, qrTableQuantities, faults);
+    checkQuantity("quantity_qr_circular", material.doors, !blocks, qrDoorQuantities, faults);
+    checkQuantity("quantity_qr_taco", material.blocks, blocks, qrBlockQuantities, faults);
     return faults;
 }
 

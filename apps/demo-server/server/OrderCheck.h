@@ -21,7 +21,15 @@ Faults sellingSheetFormFaults(const Json& order);
 Faults activationFormFaults(const Json& order);
 
 /// What keeps a well-formed menu from being printed: no name of the bar, no brand, references that left the
-/// catalogue.
+/// catalogue, QR material that its kind does not have.
 Faults brochureContentFaults(const Json& order, const Catalogue& catalogue);
+
+/// QR material as it is asked for: of one brand, stickers (type 1) or wooden blocks (type 2).
+struct QrMaterial {
+    std::int64_t brand = 0, type = 1;
+    std::int64_t tables = 0, doors = 0, blocks = 0;
+};
+/// What is wrong with it for an order of a kind, by the members in which it travels.
+Faults qrFaults(const QrMaterial& material, int kind, const Catalogue& catalogue);
 
 } // namespace kavor::demo

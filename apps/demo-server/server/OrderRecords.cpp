@@ -171,20 +171,27 @@ std::string orderPdf(const Order& order, const std::string& baseUrl) {
     return baseUrl + "/pdf/" + order.token + ".pdf";
 }
 
+namespace {
+
+Json listedPage(const Order& order, const std::string& baseUrl) {
+    return order.cloud || !order.linked ? Json(nullptr) : Json(orderPage(order, baseUrl));
+}
+
+} // namespace
+
 bool canDemandQr(const Order& order, const Orders& orders) {
     const OrderState state = orders.stateOf(order);
-    return !order.qrAsked && order.kind == "brochure" && order.body["menu"].contains("brand_qr_id") &&
+    return !order.qrAsked && order.kind == "brochure" && order.qrBrand &&
            (state == OrderState::sent || state == OrderState::delivered);
 }
 
 Json brochureListEntry(const Order& order, const Orders& orders, const std::string& baseUrl) {
     const OrderState state = orders.stateOf(order);
-    const Json& menu = order.body["menu"];
     Json entry = {
         {"id", order.id}, {"fecha", wireDate(order.created)}, {"can_demand_qr", canDemandQr(order, orders)}};
-    copy(menu, entry, {{"brand_qr_id", "brand_qr_id"}});
-    if (menu.contains("brand_qr_id")) {
-        entry["brand_qr_type"] = menu.value("quantity_qr_taco", 0) > 0 ? 2 : 1;
+    if (order.qrBrand) {
+        entry["brand_qr_id"] = *order.qrBrand;
+        entry["brand_qr_type"] = order.qrBlocks ? 2 : 1;
     }
     entry["tipo"] = kindName(order.type);
     entry["tipoId"] = order.type;
@@ -192,9 +199,9 @@ Json brochureListEntry(const Order& order, const Orders& orders, const std::stri
     entry["pdv"] = textOrNull(order.pdv);
     entry["estado"] = stateName(state);
     entry["estadoId"] = int(state);
-    entry["nota"] = textOrNull(order.note);
-    entry["url"] = order.cloud ? Json(nullptr) : Json(orderPage(order, baseUrl));
-    entry["pendiente"] = state == OrderState::incidence;
+    entry["nota"] = textOrNull(orders.noteOf(order));
+    entry["url"] = listedPage(order, baseUrl);
+    entry["pendiente"] = orders.isPending(order);
     entry["name_archive_tablet"] = filenameOf(order);
     entry["token"] = order.token;
     return entry;
@@ -210,11 +217,11 @@ Json textileListEntry(const Order& order, const Orders& orders, const std::strin
             {"tevo", textOrNull(order.tevo)},
             {"estado", stateName(state)},
             {"estadoId", int(state)},
-            {"nota", textOrNull(order.note)},
-            {"url", order.cloud ? Json(nullptr) : Json(orderPage(order, baseUrl))},
-            {"pendiente", state == OrderState::incidence},
+            {"nota", textOrNull(orders.noteOf(order))},
+            {"url", listedPage(order, baseUrl)},
+            {"pendiente", orders.isPending(order)},
             {"name_archive_tablet", filenameOf(order)},
-            {"typography_id", order.body["order"].value("typography_id", 0)}};
+            {"typography_id", order.typography}};
 }
 
 Json retrievedBrochure(const Order& order, const Orders& orders, const Catalogue& catalogue) {
@@ -256,7 +263,7 @@ Json retrievedTextile(const Order& order, const Orders& orders, const std::strin
                    {"estadoId", int(state)},
                    {"estado", stateName(state)},
                    {"url", orderPage(order, baseUrl)},
-                   {"pendiente", state == OrderState::incidence},
+                   {"pendiente", orders.isPending(order)},
                    {"name_archive_tablet", filenameOf(order)}};
     copy(sent, record,
          {{"orderComment", "nota"},

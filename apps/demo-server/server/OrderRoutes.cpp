@@ -19,8 +19,17 @@ bool isOne(const std::string& text) {
     return text == "1" || text == "true";
 }
 
-bool contains(const std::string& text, const std::string& part) {
-    return part.empty() || sanitised(text).find(sanitised(part)) != std::string::npos;
+bool contains(const std::string& text, const std::string& sanitisedPart) {
+    return sanitisedPart.empty() || sanitised(text).find(sanitisedPart) != std::string::npos;
+}
+
+/// From now on time moves the order again.
+void setOut(Order& order, Road road, const char* note) {
+    order.fixedState.reset();
+    order.pending.reset();
+    order.road = road;
+    order.since = now();
+    order.note = note;
 }
 
 } // namespace
@@ -86,6 +95,8 @@ Answer DemoServer::storeBrochure(const Call& call, const Json& body, std::int64_
         const auto earlier = orders_.find(call.account.id, body["id"].get<std::int64_t>(), "brochure");
         if (earlier && earlier->cloud) {
             order = *earlier;
+            order.seeded = false; // what its user made of it
+            order.linked = true;
             known = true;
         }
     }
@@ -118,32 +129,44 @@ Answer DemoServer::storeBrochure(const Call& call, const Json& body, std::int64_
     return Answer::json(answer);
 }
 
-Answer DemoServer::orderList(const Call& call) {
-    const bool onlyUnconfirmed = isOne(call.parameter("sin_confirmar"));
-    const bool onlyIncomplete = isOne(call.parameter("sin_completar"));
-    const bool thisYear = isOne(call.parameter("current_year"));
-    const bool cloud = isOne(call.parameter("cloud"));
-    const auto isWanted = [&](const Order& order) {
-        const OrderState state = orders_.stateOf(order);
+/// What an order list may be narrowed to; a quick filter that is 0 or absent narrows nothing.
+struct DemoServer::ListFilter {
+    bool onlyUnconfirmed, onlyIncomplete, thisYear, cloud;
+    std::string id, code, pointOfSale;
+    int year = yearOf(now());
+
+    explicit ListFilter(const Call& call)
+        : onlyUnconfirmed(isOne(call.parameter("sin_confirmar")))
+        , onlyIncomplete(isOne(call.parameter("sin_completar")))
+        , thisYear(isOne(call.parameter("current_year")))
+        , cloud(isOne(call.parameter("cloud")))
+        , id(call.parameter("order_id"))
+        , code(sanitised(call.parameter("tevo")))
+        , pointOfSale(sanitised(call.parameter("pdv"))) {}
+
+    bool takes(const Order& order, OrderState state) const {
         return (cloud || !order.cloud) && (!onlyUnconfirmed || state == OrderState::withoutConfirm) &&
-               (!onlyIncomplete || order.tevo.empty()) &&
-               (!thisYear || yearOf(order.created) == yearOf(now())) &&
-               (call.parameter("order_id").empty() ||
-                std::to_string(order.id) == call.parameter("order_id")) &&
-               contains(order.tevo, call.parameter("tevo")) && contains(order.pdv, call.parameter("pdv"));
-    };
+               (!onlyIncomplete || order.tevo.empty()) && (!thisYear || yearOf(order.created) == year) &&
+               (id.empty() || std::to_string(order.id) == id) && contains(order.tevo, code) &&
+               contains(order.pdv, pointOfSale);
+    }
+};
+
+Answer DemoServer::orderList(const Call& call) {
+    const ListFilter filter(call);
     Json brochures = Json::array(), textiles = Json::array();
     int total = 0, unconfirmed = 0, incomplete = 0;
-    for (const Order& order : orders_.list(call.account.id, "brochure")) {
+    for (const Order& order : orders_.rows(call.account.id, "brochure")) {
+        const OrderState state = orders_.stateOf(order);
         total += !order.cloud;
-        unconfirmed += orders_.stateOf(order) == OrderState::withoutConfirm;
+        unconfirmed += state == OrderState::withoutConfirm;
         incomplete += !order.cloud && order.tevo.empty();
-        if (isWanted(order)) {
+        if (filter.takes(order, state)) {
             brochures.push_back(brochureListEntry(order, orders_, baseUrl_));
         }
     }
-    for (const Order& order : orders_.list(call.account.id, "textile")) {
-        if (isWanted(order)) {
+    for (const Order& order : orders_.rows(call.account.id, "textile")) {
+        if (filter.takes(order, orders_.stateOf(order))) {
             textiles.push_back(textileListEntry(order, orders_, baseUrl_));
         }
     }
@@ -172,9 +195,7 @@ Answer DemoServer::deleteOrder(const Call& call) {
     if (state != OrderState::cloud && state != OrderState::withoutConfirm) {
         return refusal({{"id", {"El pedido ya está en marcha y no se puede eliminar."}}});
     }
-    order->fixedState = OrderState::deleted;
-    order->cloud = false;
-    orders_.update(*order);
+    orders_.remove(*order);
     return Answer::message(200, "Pedido eliminado.");
 }
 
@@ -183,11 +204,15 @@ Answer DemoServer::claimOrder(const Call& call) {
     if (!order) {
         return Answer::message(404, "El pedido no existe.");
     }
-    if (call.parameter("comment").empty()) {
+    const std::string comment = call.parameter("comment");
+    if (comment.find_first_not_of(" \t\r\n") == std::string::npos) {
         return refusal({{"comment", {"Has de informar de un comentario."}}});
     }
-    order->fixedState = OrderState::incidence;
-    order->note = call.parameter("comment");
+    if (order->cloud) {
+        return refusal({{"order_id", {"El pedido está en la nube: aún no se ha pedido nada."}}});
+    }
+    orders_.addMessage(*order, "claim", {{"comment", comment}});
+    setOut(*order, Road::claimed, "Reclamación recibida: la estamos revisando.");
     orders_.update(*order);
     return Answer::message(200, "Hemos registrado tu reclamación sobre el pedido " +
                                     std::to_string(order->id) + ".");
@@ -211,7 +236,20 @@ Answer DemoServer::demandQr(const Call& call) {
     if (!faults.empty()) {
         return refusal(faults);
     }
+    const QrMaterial material{*call.number("brand_qr_id"), *call.number("type"), *call.number("quantity_qr"),
+                              *call.number("quantity_qr_circular"), *call.number("quantity_qr_taco")};
+    if (Faults wrong = qrFaults(material, order->type, catalogue_); !wrong.empty()) {
+        return refusal(wrong);
+    }
+    orders_.addMessage(*order, "qr",
+                       {{"brand_qr_id", material.brand},
+                        {"type", material.type},
+                        {"quantity_qr", material.tables},
+                        {"quantity_qr_circular", material.doors},
+                        {"quantity_qr_taco", material.blocks},
+                        {"comment", call.parameter("comment")}});
     order->qrAsked = true;
+    setOut(*order, Road::demanded, "Material QR pedido de nuevo: falta la autorización comercial.");
     orders_.update(*order);
     const OrderState state = orders_.stateOf(*order);
     return Answer::json({{"msg", "Volveremos a imprimir el material QR del pedido."},

@@ -39,14 +39,11 @@ void DemoServer::addSessionRoutes() {
         answer.body = catalogueText_;
         return answer;
     });
-    route("GET", "/api/profile", Access::bearer, [this](const Call& call) { return profile(call); });
     route("GET", "/api/customers", Access::bearer, [this](const Call& call) { return customers(call); });
     route("POST", "/api/places", Access::bearer, [](const Call& call) {
         return Answer::json({{"addresses", addressesFor(call.parameter("direction"))}});
     });
     route("POST", "/api/prices", Access::bearer, [this](const Call& call) { return prices(call); });
-    route("POST", "/api/suggestions", Access::bearerWrite,
-          [this](const Call& call) { return suggestion(call); });
 }
 
 Answer DemoServer::login(const Call& call) {
@@ -61,33 +58,6 @@ Answer DemoServer::login(const Call& call) {
         return refusal({{"login", {"El usuario o la contraseña no son correctos."}}});
     }
     return Answer::json(accounts_.answer(*account, accounts_.newToken(*account), catalogue_.notifications()));
-}
-
-Answer DemoServer::profile(const Call& call) {
-    const size_t menus = orders_.list(call.account.id, "brochure").size();
-    const size_t textile = orders_.list(call.account.id, "textile").size();
-    const auto euros = [](int amount) { return std::to_string(amount) + ",00 €"; };
-    const bool full = call.account.fullRights;
-    Json user = {{"name", full ? "Lucía Ferrandel" : "Nuño Casablana"},
-                 {"delegacion", full ? "Delegación Centro" : "Delegación Noroeste"},
-                 {"perfil", full ? "Representante" : "Ayudante"},
-                 {"type", full ? "Comercial" : "Apoyo"},
-                 {"zona", full ? "Zona 4" : "Zona 9"},
-                 {"email", call.account.login},
-                 {"telefono", "600123456"},
-                 {"direccion1", "Calle del Lúpulo, 12"},
-                 {"direccion2", nullptr},
-                 {"cp", "49001"},
-                 {"municipio", "Zamora"},
-                 {"provincia", "Zamora"},
-                 {"url", baseUrl_ + "/recuperar"},
-                 {"presupuesto", euros(2400)},
-                 {"disponible", euros(std::max(0, 2400 - int(menus) * 85))},
-                 {"cartas_realizadas", std::to_string(menus)},
-                 {"textil_presupuesto", euros(900)},
-                 {"textil_disponible", euros(std::max(0, 900 - int(textile) * 120))},
-                 {"textil_pedidos", std::to_string(textile)}};
-    return Answer::json({{"usuario", std::move(user)}});
 }
 
 Answer DemoServer::customers(const Call& call) {
@@ -109,23 +79,6 @@ Answer DemoServer::prices(const Call& call) {
     return Answer::json(recommendation(catalogue_.brandOfFormat(format->id)->name, format->icon,
                                        format->price.value_or(format->minimalPrice * 2),
                                        call.parameter("placePostalCode"), call.parameter("placeLocality")));
-}
-
-Answer DemoServer::suggestion(const Call& call) {
-    const std::optional<std::int64_t> category = call.number("category_id");
-    Faults faults;
-    if (!category || *category < 1 || *category > 4) {
-        faults["category_id"].push_back("Elige una categoría.");
-    }
-    if (call.parameter("body").empty()) {
-        faults["body"].push_back("Escribe tu sugerencia.");
-    }
-    if (!faults.empty()) {
-        return refusal(faults);
-    }
-    database_.run("INSERT INTO suggestions (account, category, body) VALUES (?, ?, ?)",
-                  {call.account.id, *category, call.parameter("body")});
-    return Answer::message(200, "Gracias, hemos recibido tu sugerencia.");
 }
 
 } // namespace kavor::demo

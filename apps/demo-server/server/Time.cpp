@@ -28,6 +28,15 @@ int yearOf(std::int64_t seconds) {
     return local.tm_year + 1900;
 }
 
+std::int64_t startOfDay(std::int64_t seconds) {
+    const std::time_t time = std::time_t(seconds);
+    std::tm local{};
+    localtime_r(&time, &local);
+    local.tm_hour = local.tm_min = local.tm_sec = 0;
+    local.tm_isdst = -1;
+    return std::mktime(&local);
+}
+
 std::string randomHex(int digits) {
     static constexpr std::string_view alphabet = "0123456789abcdef";
     std::random_device device;
