@@ -169,7 +169,8 @@ TEST(OrderListOfTheDemoServer, ObeysWhatATestSetsForAnOrderAndForTheNextAnswer) 
 TEST(OrderListOfTheDemoServer, ShowsACloudOrderOfTheHistoryAsItsUsersOnceItIsPrinted) {
     RunningServer server;
     server.login();
-    for (const Json& row : server.list().json["pedidos"]) {
+    const Json rows = server.list().json["pedidos"];
+    for (const Json& row : rows) {
         if (row["estadoId"] != 12 || row["tipoId"] != 1 || row["name_archive_tablet"] == "Bar. La Nube") {
             continue;
         }

@@ -248,6 +248,20 @@ bool offersQrBlocks(BrochureKind kind) {
     return found != allRules.end() && found->block;
 }
 
+KindLimits limitsOf(BrochureKind kind) {
+    KindLimits limits;
+    const auto found = std::ranges::find(allRules, kind, &Rules::kind);
+    if (found == allRules.end()) {
+        return limits;
+    }
+    limits.brands = std::min(limits.brands, found->maximum.value_or(limits.brands));
+    limits.formats = std::min(limits.formats, found->formatMaximum.value_or(limits.formats));
+    limits.leastQuantity = found->leastQuantity;
+    limits.greatestQuantity = found->greatestQuantity;
+    limits.secondPrice = found->secondPrice;
+    return limits;
+}
+
 Json brochureTypes() {
     Json types = Json::array();
     for (const Rules& rules : allRules) {

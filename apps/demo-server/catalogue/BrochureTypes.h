@@ -11,4 +11,12 @@ Json brochureTypes();
 /// Whether a kind has the QR material as wooden blocks too.
 bool offersQrBlocks(BrochureKind kind);
 
+/// How much of everything an order of a kind may hold.
+struct KindLimits {
+    int brands = 8, formats = 3; ///< formats of each brand
+    int leastQuantity = 1, greatestQuantity = 100;
+    bool secondPrice = false;
+};
+KindLimits limitsOf(BrochureKind kind);
+
 } // namespace kavor::demo

@@ -134,10 +134,10 @@ DemoServer::DemoServer(const Options& options)
         return servedWithoutBody(request, response) ? httplib::Server::HandlerResponse::Handled
                                                     : httplib::Server::HandlerResponse::Unhandled;
     });
-    http_->set_error_handler(httplib::Server::HandlerWithResponse(
-        [this](const httplib::Request& request, httplib::Response& response) {
-            explainRefusal(request, response);
-            return httplib::Server::HandlerResponse::Unhandled;
+    http_->set_error_handler(
+        httplib::Server::HandlerWithResponse([](const httplib::Request&, httplib::Response& response) {
+            return explainRefusal(response) ? httplib::Server::HandlerResponse::Handled
+                                            : httplib::Server::HandlerResponse::Unhandled;
         }));
     addSessionRoutes();
     addAccountRoutes();
@@ -222,18 +222,16 @@ void DemoServer::route(const std::string& method, const std::string& pattern, Ac
     routes_.push_back({method, std::regex(pattern), run});
 }
 
-void DemoServer::explainRefusal(const httplib::Request& request, httplib::Response& response) {
-    constexpr int targetTooLong = 414; // the library knows no route yet
+bool DemoServer::explainRefusal(httplib::Response& response) {
+    constexpr int targetTooLong = 414; // nothing of the request has been read, so it is not logged either
     if (response.status != targetTooLong) {
-        return;
+        return false;
     }
     const Answer answer =
         refusal({{"query", {"El texto es demasiado largo. Acórtalo y vuelve a enviarlo."}}});
     response.status = answer.status;
     response.set_content(*answer.body, answer.type);
-    if (request.path.starts_with("/api/")) {
-        log_.setStatus(log_.add(logEntry(request)), answer.status);
-    }
+    return true;
 }
 
 /// The library would wait for a body until the connection ends.

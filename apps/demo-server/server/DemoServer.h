@@ -60,8 +60,8 @@ private:
 
     /// Serves requests that have a method with a body but neither a body nor its length.
     bool servedWithoutBody(const httplib::Request& request, httplib::Response& response) const;
-    /// Requests that the library itself refuses are told in the server's own form.
-    void explainRefusal(const httplib::Request& request, httplib::Response& response);
+    /// A request that the library itself refuses as too long gets a message; answers whether it was one.
+    static bool explainRefusal(httplib::Response& response);
     void route(const std::string& method, const std::string& pattern, Access access, Handler handler);
     Answer answerFor(const httplib::Request& request, Access access, const Handler& handler);
     Answer guarded(const httplib::Request& request, Access access, const Handler& handler);

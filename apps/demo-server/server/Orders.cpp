@@ -118,11 +118,16 @@ std::string stateName(OrderState state) {
 }
 
 void Order::takeFromBody() {
-    const Json menu = body.value("menu", Json::object());
-    qrBrand =
-        menu.contains("brand_qr_id") ? std::optional(menu["brand_qr_id"].get<std::int64_t>()) : std::nullopt;
-    qrBlocks = menu.value("quantity_qr_taco", 0) > 0;
-    typography = body.value("order", Json::object()).value("typography_id", std::int64_t(0));
+    qrBrand.reset();
+    qrBlocks = false;
+    if (const auto menu = body.find("menu"); menu != body.end()) {
+        if (const auto brand = menu->find("brand_qr_id"); brand != menu->end()) {
+            qrBrand = brand->get<std::int64_t>();
+        }
+        qrBlocks = menu->value("quantity_qr_taco", 0) > 0;
+    }
+    const auto order = body.find("order");
+    typography = order == body.end() ? 0 : order->value("typography_id", std::int64_t(0));
 }
 
 void Orders::add(Order& order) {

@@ -4,6 +4,9 @@
 #include "catalogue/Content.h"
 #include "catalogue/Dice.h"
 
+#include <algorithm>
+#include <array>
+
 namespace kavor::demo {
 
 namespace {
@@ -23,7 +26,7 @@ Json soldFormat(const Format& format, bool secondPrice, Dice& dice) {
     return sold;
 }
 
-Json soldBrand(const Brand& brand, bool secondPrice, Dice& dice) {
+Json soldBrand(const Brand& brand, const KindLimits& limits, bool secondPrice, Dice& dice) {
     Json item = {{"brand", brand.id}};
     const auto add = [&item](const char* key, const std::optional<int>& value) {
         if (value) {
@@ -38,7 +41,7 @@ Json soldBrand(const Brand& brand, bool secondPrice, Dice& dice) {
     item["name"] = brand.name;
     item["sub_items"] = Json::array();
     for (const Format& format : brand.formats) {
-        if (format.onBrochures && item["sub_items"].size() < 3) {
+        if (format.onBrochures && item["sub_items"].size() < size_t(limits.formats)) {
             item["sub_items"].push_back(soldFormat(format, secondPrice, dice));
         }
     }
@@ -122,7 +125,8 @@ void addQr(Json& menu, const Catalogue& catalogue, BrochureKind kind, int seed) 
 Json sampleOrder(const Catalogue& catalogue, const Bar& bar, BrochureKind kind, int seed) {
     Dice dice{std::uint64_t(seed) + 99};
     const Style* style = styleOf(catalogue, kind, seed);
-    const bool secondPrice = seed % 2 == 0;
+    const KindLimits limits = limitsOf(kind);
+    const bool secondPrice = limits.secondPrice && seed % 2 == 0;
     Json menu = {{"order_type", int(kind)}};
     menu["style"] = style ? style->id : 0;
     menu["style_digital_id"] = 1001;
@@ -139,13 +143,15 @@ Json sampleOrder(const Catalogue& catalogue, const Bar& bar, BrochureKind kind, 
         }
     }
     menu["items"] = Json::array();
-    const size_t wanted = 4 + size_t(dice.below(5));
+    // A chalkboard has places for a fixed number of brands, and every format of it one for four.
+    const auto wanted =
+        size_t(kind == BrochureKind::chalkboard ? 4 : std::min(limits.brands, 4 + dice.below(5)));
     for (const Brand& brand : catalogue.brands()) {
         if (menu["items"].size() == wanted) {
             break;
         }
         if (brand.family == familyOfKind(int(kind)) && dice.below(3) != 0) {
-            menu["items"].push_back(soldBrand(brand, secondPrice, dice));
+            menu["items"].push_back(soldBrand(brand, limits, secondPrice, dice));
         }
     }
     menu["product_pennant"] = Json::array();
@@ -158,9 +164,12 @@ Json sampleOrder(const Catalogue& catalogue, const Bar& bar, BrochureKind kind, 
     menu["without_price_pennant"] = false;
 
     Json lines = Json::array();
-    lines.push_back({{"price", 1}, {"quantity", 50}});
+    const auto quantity = [&limits](int usual) {
+        return std::clamp(usual, limits.leastQuantity, limits.greatestQuantity);
+    };
+    lines.push_back({{"price", 1}, {"quantity", quantity(50)}});
     if (secondPrice) {
-        lines.push_back({{"price", 2}, {"quantity", 20}});
+        lines.push_back({{"price", 2}, {"quantity", quantity(20)}});
     }
     Json order = {{"save", 1}, {"order_lines", std::move(lines)}, {"menu", std::move(menu)}};
     order["name_archive_tablet"] = bar.name;
