@@ -109,8 +109,9 @@ private:
     Answer sendActivation(const Call& call);
     int activationsMade(const Account& account, int activationId);
 
-    // Pictures, fonts, PDFs, pages.
+    // Pictures, fonts, PDFs, pages, films.
     void addFileRoutes();
+    void addTutorialRoutes();
     Answer pdf(const std::string& name);
     Answer madePdf(const std::string& file, const std::function<QByteArray()>& make);
 

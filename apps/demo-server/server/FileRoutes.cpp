@@ -64,6 +64,17 @@ void DemoServer::addFileRoutes() {
                    : Answer::page(
                          plainHtml("Carta de muestra", {"Aquí se verá la carta del local cuando se pida."}));
     });
+    addTutorialRoutes();
+    const auto plainPage = [this](const char* path, const char* title, const char* sentence) {
+        route("GET", path, Access::open,
+              [title, sentence](const Call&) { return Answer::page(plainHtml(title, {sentence})); });
+    };
+    plainPage("/recuperar", "Recuperar la contraseña", "Escribe a soporte@kavor.example y te daremos otra.");
+    plainPage("/primera-vez", "Activar tu usuario", "Escribe a soporte@kavor.example para activarlo.");
+    plainPage("/actualizar", "Actualizar la aplicación", "Instala la última versión para seguir trabajando.");
+}
+
+void DemoServer::addTutorialRoutes() {
     route("GET", R"(/tutoriales/(\d{1,3})\.mp4)", Access::open, [](const Call& call) {
         QFile film(":/films/" + QString::fromStdString(call.part(1)) + ".mp4");
         if (!film.open(QIODevice::ReadOnly)) {
@@ -87,13 +98,6 @@ void DemoServer::addFileRoutes() {
     route("GET", R"(/tutoriales/(\d{1,3})/token)", Access::open, [](const Call& call) {
         return Answer::text("tutorial-" + call.part(1), "text/plain; charset=utf-8");
     });
-    const auto plainPage = [this](const char* path, const char* title, const char* sentence) {
-        route("GET", path, Access::open,
-              [title, sentence](const Call&) { return Answer::page(plainHtml(title, {sentence})); });
-    };
-    plainPage("/recuperar", "Recuperar la contraseña", "Escribe a soporte@kavor.example y te daremos otra.");
-    plainPage("/primera-vez", "Activar tu usuario", "Escribe a soporte@kavor.example para activarlo.");
-    plainPage("/actualizar", "Actualizar la aplicación", "Instala la última versión para seguir trabajando.");
 }
 
 /// A document's PDF is made once and kept in the data folder.

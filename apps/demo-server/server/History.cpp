@@ -157,9 +157,9 @@ Json bodyOfPast(const Past& past, const Bar& bar, const Catalogue& catalogue, in
 
 /// Spread over the hours in which bars are visited; two of the chosen ones share a moment.
 std::int64_t momentOf(const Past& past, int number) {
-    constexpr std::int64_t day = 24 * 3600;
+    constexpr std::int64_t minute = 60, hour = 60 * minute, day = 24 * hour;
     const int slot = number == 30 ? 29 : number;
-    return startOfDay(now() - past.daysAgo * day) + 10 * 3600 + slot * 53 % 600 * 60 + slot % 60;
+    return startOfDay(now() - past.daysAgo * day) + 10 * hour + slot * 53 % 600 * minute + slot % 60;
 }
 
 Order orderOfPast(const Past& past, const Catalogue& catalogue, int number) {

@@ -388,11 +388,11 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
 Faults qrFaults(const QrMaterial& material, int kind, const Catalogue& catalogue) {
     Faults faults;
     const auto offered = qrBrands(catalogue.brands());
-    const auto brand =
+    const auto wanted =
         std::ranges::find(offered, material.brand, [](const Brand* each) { return qrIdOf(each->id); });
-    if (brand == offered.end()) {
+    if (wanted == offered.end()) {
         faults["brand_qr_id"].push_back("La marca del material QR ya no está en el catálogo.");
-    } else if ((*brand)->family != familyOfKind(kind)) {
+    } else if ((*wanted)->family != familyOfKind(kind)) {
         faults["brand_qr_id"].push_back("La marca del material QR no es de la familia de este pedido.");
     }
     if (material.type != 1 && material.type != 2) {
