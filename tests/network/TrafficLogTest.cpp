@@ -30,6 +30,7 @@ TEST(TrafficLog, TakesSecretsOutOfEveryKindOfText) {
         {R"({"url":"https:\/\/a.es\/p.pdf?order_token=T"})",
          R"({"url":"https:\/\/a.es\/p.pdf?order_token=***"})"},
         {"terminal_code=T", "terminal_code=***"},
+        {"Firebase registration token: T:T-t_4", "Firebase registration token: ***"},
     };
     for (const auto& row : table)
         EXPECT_EQ(redacted(row.text), row.shown);
