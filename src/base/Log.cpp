@@ -40,8 +40,8 @@ std::string_view subsystemOf(std::string_view file) {
 
 } // namespace
 
-void logLine(std::string_view text, LogLevel level, const std::source_location& caller) {
-    logEntry({level, subsystemOf(caller.file_name()), text});
+void logLine(std::string_view text, LogLevel level, const char* callersFile) {
+    logEntry({level, subsystemOf(callersFile), text});
 }
 
 void logEntry(const LogEntry& entry) {

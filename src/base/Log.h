@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <source_location>
 #include <string_view>
 
 namespace kavor {
@@ -23,7 +22,7 @@ using LogSink = std::function<void(const LogEntry&)>;
 // Writes a line to the log: its text to stderr, unless a sink was set. Secrets never go here. The category is
 // the subsystem of whoever calls.
 void logLine(std::string_view text, LogLevel level = LogLevel::Warning,
-             const std::source_location& caller = std::source_location::current());
+             const char* callersFile = __builtin_FILE());
 // The same for who names a category.
 void logEntry(const LogEntry& entry);
 

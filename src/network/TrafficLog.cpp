@@ -95,11 +95,13 @@ private:
     QByteArray out_;
 };
 
-// name=value pairs of forms and queries, wherever they stand, and bearer tokens.
+// name=value pairs of forms and queries, wherever they stand, bearer tokens, and what a device is registered
+// with.
 QByteArray withoutPlainSecrets(const QByteArray& text) {
     static const QRegularExpression secret(
         QStringLiteral(
-            "((?:password|token|authorization|cookie|terminal_code|secret)\\w*=|bearer\\s+)[^&\\s\"'<>]+"),
+            "((?:password|token|authorization|cookie|terminal_code|secret)\\w*=|bearer\\s+|registration "
+            "token:\\s*)[^&\\s\"'<>]+"),
         QRegularExpression::CaseInsensitiveOption);
     return QString::fromUtf8(text).replace(secret, QStringLiteral("\\1***")).toUtf8();
 }

@@ -1,5 +1,6 @@
 #include "screens/AttributeTableModel.h"
 
+#include "device/Background.h"
 #include "device/PhotoPicker.h"
 #include "interaction/QtText.h"
 #include "screens/PictureText.h"
@@ -62,7 +63,8 @@ AttributeTableModel::AttributeTableModel(PhotoPicker& photos, Logo logo, QObject
 void AttributeTableModel::ask(Int ownerId, const std::vector<Attribute>& attributes,
                               const std::vector<AttributeRow::Type>& types,
                               const std::vector<AttributeValue>& values) {
-    ownerId_ = ownerId;
+    if (std::exchange(ownerId_, ownerId) != ownerId)
+        photosInTheMaking_.clear();
     std::vector<AttributeRow> wanted;
     for (const Attribute& attribute : attributes) {
         AttributeRow row{ownerId, attribute, std::nullopt, {attribute.id, std::nullopt, std::nullopt}};
@@ -110,19 +112,37 @@ void AttributeTableModel::choose(int row, int choice) {
 }
 
 void AttributeTableModel::switchImage(int row, bool on) {
-    if (!rows_.at(row))
+    const AttributeRow* content = rows_.at(row);
+    if (!content)
         return;
     if (!on)
         return setImage(row, {});
     if (const std::string logo = logo_(); !logo.empty())
         return setImage(row, logo);
-    photos_.pick(this, [this, owner = ownerId_, row](const std::optional<QImage>& image) {
-        if (image && owner == ownerId_ && rows_.at(row))
-            setImage(row, picture_text::of(*image, longestImageSide));
+    photos_.pick(this, [this, owner = ownerId_,
+                        attribute = content->attribute.id](const std::optional<QImage>& photo) {
+        if (photo && owner == ownerId_)
+            takePhoto(attribute, *photo);
     });
 }
 
+void AttributeTableModel::takePhoto(Int attribute, const QImage& photo) {
+    runInBackground(
+        photosInTheMaking_[attribute].begin(), [photo] { return picture_text::of(photo, longestImageSide); },
+        [this, attribute](const std::string& picture) {
+            if (const int row = rowOf(attribute); row >= 0)
+                setImage(row, picture);
+        });
+}
+
+int AttributeTableModel::rowOf(Int attribute) const {
+    const auto found =
+        std::ranges::find(rows_.all(), attribute, [](const AttributeRow& row) { return row.attribute.id; });
+    return found == rows_.all().end() ? -1 : int(found - rows_.all().begin());
+}
+
 void AttributeTableModel::setImage(int row, const std::string& picture) {
+    photosInTheMaking_.erase(rows_.at(row)->attribute.id);
     setValue(row, picture.empty() ? std::nullopt : std::optional(picture), rows_.at(row)->given.valueListId);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "catalogue/ApplicationInformation.h"
+#include "interaction/PendingRun.h"
 #include "screens/RowListModel.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -81,12 +83,18 @@ signals:
     void edited();
 
 private:
+    // The row of an attribute; -1 when nobody asks for it.
+    [[nodiscard]] int rowOf(Int attribute) const;
+    // Shows a photo once it is made small enough to travel.
+    void takePhoto(Int attribute, const QImage& photo);
     void setImage(int row, const std::string& picture);
     void setValue(int row, std::optional<std::string> value, std::optional<Int> choice);
 
     PhotoPicker& photos_;
     Logo logo_;
     Int ownerId_ = 0;
+    std::map<Int, PendingRun>
+        photosInTheMaking_; // by attribute; another picture for it, or none, ends its run
     RowList<AttributeRow, AttributeRow::Key> rows_{*this};
 };
 

@@ -24,8 +24,10 @@ void ScreenStack::close(const QObject* controller) {
         emit rootClosed();
         return;
     }
+    const int before = rowCount();
     remove(controller);
-    appear();
+    if (rowCount() < before) // a second tap closes nothing more
+        appear();
 }
 
 void ScreenStack::appear() {

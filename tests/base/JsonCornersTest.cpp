@@ -38,7 +38,6 @@ struct Long {
     Int sixteen = 0;
     Int alike = 0;
     Int other = 0;
-    std::vector<Long> more;
 };
 
 } // namespace
@@ -51,8 +50,7 @@ struct Table<Long> {
                                               required("lettersAB", &Long::nine),
                                               required("lettersABletters", &Long::sixteen),
                                               required("lettersAB1lettersAB", &Long::alike),
-                                              required("lettersAB2lettersAB", &Long::other),
-                                              required("more", &Long::more)};
+                                              required("lettersAB2lettersAB", &Long::other)};
 };
 template <>
 struct Table<Corner::Inner> {
@@ -82,48 +80,18 @@ std::string reading(const std::string& document) {
     return value ? json::encode(*value).value() : value.error().text();
 }
 
-bool isRefused(const std::string& document) {
-    return !json::isWellFormed(document);
-}
-
-const std::string wellFormed[] = {"[]",
-                                  "{}",
-                                  " \t\r\n[ 1 , 2 ]\n",
-                                  "null",
-                                  "true",
-                                  "1",
-                                  "\"x\"",
-                                  "[[]   ]",
-                                  "{\"\":0}",
-                                  "{\"a\":1,\"a\":2}",
-                                  "[-0]",
-                                  "[0e1]",
-                                  "[1E+2]",
-                                  "[123e45]",
-                                  "[20e-1]",
-                                  "[-1]",
-                                  "[0.1]",
-                                  "[1.5e-7]",
-                                  "[123.456789]",
-                                  "[0e+1]",
-                                  "[1e-400]",
-                                  "[9223372036854775807]",
-                                  "[-9223372036854775808]",
-                                  "[18446744073709551615]",
-                                  "[18446744073709551616]",
-                                  "[-9223372036854775809]",
-                                  "[1e400]",
-                                  "[-1e400]",
-                                  "-123456789012345678901234567890",
-                                  R"(["\"\\\/\b\f\n\r\t"])",
-                                  R"(["\u0000"])",
-                                  R"(["\uD83C\uDF7A"])",
-                                  R"(["\u00e1\u20AC"])",
-                                  "[\"\x7f\"]",
-                                  "[\"\u2028\"]",
-                                  "[\"\xF4\x8F\xBF\xBF\"]",
-                                  "[\"new\u00a0line\"]",
-                                  "{\"\\u0061\":[]}"};
+const std::string wellFormed[] = {
+    // structure
+    "[]", "{}", " \t\r\n[ 1 , 2 ]\n", "null", "true", "1", "\"x\"", "[[]   ]", "{\"\":0}",
+    "{\"a\":1,\"a\":2}", "{\"\\u0061\":[]}",
+    // numbers
+    "[-0]", "[0e1]", "[1E+2]", "[123e45]", "[20e-1]", "[-1]", "[0.1]", "[1.5e-7]", "[123.456789]", "[0e+1]",
+    "[1e-400]", "[9223372036854775807]", "[-9223372036854775808]", "[18446744073709551615]",
+    "[18446744073709551616]", "[-9223372036854775809]", "[1e400]", "[-1e400]",
+    "-123456789012345678901234567890",
+    // texts
+    R"(["\"\\\/\b\f\n\r\t"])", R"(["\u0000"])", R"(["\uD83C\uDF7A"])", R"(["\u00e1\u20AC"])", "[\"\x7f\"]",
+    "[\"\u2028\"]", "[\"\xF4\x8F\xBF\xBF\"]", "[\"new\u00a0line\"]"};
 
 const std::string malformed[] = {
     // structure
@@ -143,18 +111,8 @@ const std::string malformed[] = {
     "[\"\xFF\"]", "[\"\xC0\x80\"]", "[\"\xE0\x80\x80\"]", "[\"\xED\xA0\x80\"]", "[\"\xF4\x90\x80\x80\"]",
     "[\"\xE2\x82\"]", "[\"\x80\"]", "[\"\xF8\x88\x80\x80\x80\"]", "\xFE\xFF[]", "[\xC3\xA9]"};
 
-TEST(JsonCorners, WellFormedTextsAreTaken) {
-    for (const auto& text : wellFormed)
-        EXPECT_TRUE(json::isWellFormed(text)) << text;
-}
-
-TEST(JsonCorners, AnythingElseIsRefused) {
-    for (const auto& text : malformed)
-        EXPECT_TRUE(isRefused(text)) << text;
-}
-
 // Values that no member takes are checked as they are passed over, and no less strictly than the rest.
-TEST(JsonCorners, WhatIsPassedOverIsCheckedLikeAWholeDocument) {
+TEST(JsonCorners, OnlyWellFormedTextsAreTakenAlsoWhereTheyArePassedOver) {
     const auto agree = [](const std::string& value) {
         for (const std::string& text :
              {R"({"id":7,"unknown":)" + value + "}", R"({"id":7,"unknown":[)" + value + "],\"note\":null}",
@@ -162,10 +120,14 @@ TEST(JsonCorners, WhatIsPassedOverIsCheckedLikeAWholeDocument) {
             EXPECT_EQ(json::decode<Corner>(text).has_value(), json::isWellFormed(text))
                 << text.substr(0, 200);
     };
-    for (const auto& text : wellFormed)
+    for (const auto& text : wellFormed) {
+        EXPECT_TRUE(json::isWellFormed(text)) << text;
         agree(text);
-    for (const auto& text : malformed)
+    }
+    for (const auto& text : malformed) {
+        EXPECT_FALSE(json::isWellFormed(text)) << text;
         agree(text);
+    }
     for (std::size_t depth = 1015; depth < 1030; ++depth)
         agree(std::string(depth, '[') + std::string(depth, ']'));
 }
@@ -244,23 +206,21 @@ TEST(JsonCorners, WhatMustBeEscapedIsFoundAtEveryPlace) {
 TEST(JsonCorners, DepthCostsAnErrorAndNoMemory) {
     const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
     EXPECT_TRUE(json::isWellFormed(nested(1000)));
-    EXPECT_TRUE(isRefused(nested(2000)));
-    EXPECT_TRUE(isRefused(nested(5'000'000)));
-    EXPECT_TRUE(isRefused(std::string(5'000'000, '[')));
+    EXPECT_FALSE(json::isWellFormed(nested(2000)));
+    EXPECT_FALSE(json::isWellFormed(nested(5'000'000)));
+    EXPECT_FALSE(json::isWellFormed(std::string(5'000'000, '[')));
     std::string objects;
     for (int i = 0; i < 100'000; ++i)
         objects += "{\"a\":";
-    EXPECT_TRUE(isRefused(objects));
+    EXPECT_FALSE(json::isWellFormed(objects));
     EXPECT_FALSE(json::decode<Corner>("{\"id\":1,\"unknown\":" + nested(2000) + "}"));
 }
 
-TEST(JsonCorners, WhatIsPassedOverMustBeJsonToo) {
+TEST(JsonCorners, NearlyAKeyIsNone) {
     EXPECT_EQ(reading<Corner>(
                   R"({"x":{"id":"no"},"id ":2,"":3,"\u0069d":7,"y":[[{}]],"n\u006Fte":"escaped keys"})"),
               R"({"id":7,"note":"escaped keys"})");
     EXPECT_EQ(reading<Corner>(R"({"id":7,"inner":{"b":2}})"), "inner.a: missing");
-    for (const char* ignored : {"[1,]", "{\"a\"}", "nul", "\"\\x\"", "1.", "[[]"})
-        EXPECT_FALSE(json::decode<Corner>(std::string(R"({"id":7,"unknown":)") + ignored + "}")) << ignored;
 }
 
 TEST(JsonCorners, KeysAreFoundInEveryOrderAndSpelling) {
@@ -296,15 +256,13 @@ TEST(JsonCorners, KeysAreFoundInEveryOrderAndSpelling) {
 
 TEST(JsonCorners, LongKeysAreToldApartByEveryLetter) {
     std::mt19937 dice(12);
-    const std::function<std::string(int)> record = [&](int depth) {
-        std::vector<std::string> fields{
-            R"("letters":7)",
-            R"("lettersA":8)",
-            R"("lettersAB":9)",
-            R"("lettersABletters":16)",
-            R"("lettersAB1lettersAB":1)",
-            R"("lettersAB2lettersAB":2)",
-            R"("more":[)" + (depth > 0 ? record(depth - 1) + "," + record(depth - 1) : "") + "]"};
+    for (int i = 0; i < 500; ++i) {
+        std::vector<std::string> fields{R"("letters":7)",
+                                        R"("lettersA":8)",
+                                        R"("lettersAB":9)",
+                                        R"("lettersABletters":16)",
+                                        R"("lettersAB1lettersAB":1)",
+                                        R"("lettersAB2lettersAB":2)"};
         for (auto& field : fields) {
             if (dice() % 3 == 0)
                 field.replace(field.find('e'), 1, "\\u0065");
@@ -316,23 +274,13 @@ TEST(JsonCorners, LongKeysAreToldApartByEveryLetter) {
                 fields.emplace_back(other);
         }
         std::ranges::shuffle(fields, dice);
-        std::string text = "{";
+        std::string document;
         for (const auto& field : fields)
-            text += (text.size() > 1 ? "," : "") + field;
-        return text + "}";
-    };
-    const std::function<void(const Long&, int)> check = [&](const Long& read, int depth) {
-        EXPECT_EQ((std::array{read.seven, read.eight, read.nine, read.sixteen, read.alike, read.other}),
-                  (std::array<Int, 6>{7, 8, 9, 16, 1, 2}));
-        ASSERT_EQ(read.more.size(), depth > 0 ? 2U : 0U);
-        for (const auto& each : read.more)
-            check(each, depth - 1);
-    };
-    for (int i = 0; i < 100; ++i) {
-        const auto document = record(3);
-        const auto read = json::decode<Long>(document);
-        ASSERT_TRUE(read) << read.error().text() << document;
-        check(*read, 3);
+            document += (document.empty() ? "{" : ",") + field;
+        EXPECT_EQ(
+            reading<Long>(document + "}"),
+            R"({"letters":7,"lettersA":8,"lettersAB":9,"lettersABletters":16,"lettersAB1lettersAB":1,"lettersAB2lettersAB":2})")
+            << document;
     }
 }
 
@@ -342,6 +290,8 @@ TEST(JsonCorners, OfARepeatedKeyTheLastCountsAndNothingOfTheOthers) {
             R"({"id":1,"prices":[1],"inner":{"a":1,"b":2},"note":"x","id":2,"prices":[2,3],"inner":{"a":3},"note":null})"),
         R"({"id":2,"prices":[2.0,3.0],"inner":{"a":3}})");
     EXPECT_EQ(reading<Nest>(R"({"inner":{"a":1,"b":2},"inner":{"a":3}})"), R"({"inner":{"a":3}})");
+    EXPECT_EQ(reading<Nest>(R"({"inner":{"a":"x"},"inner":{"a":3}})"),
+              "inner.a: expected integer, found string");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "catalogue/Catalogue.h"
 
 #include "base/StopProcess.h"
-#include "catalogue/URLParser.h"
 #include "support/CatalogueBuilder.h"
 
 #include <gtest/gtest.h>
@@ -54,22 +53,6 @@ TEST(Catalogue, AddingAndRemovingBrandsKeepsTheIndexesAndOlderCopies) {
                 testing::ExitedWithCode(stoppedExitStatus), "category of product 11");
     EXPECT_EXIT(static_cast<void>(Catalogue(ApplicationInformation()).brochures()),
                 testing::ExitedWithCode(stoppedExitStatus), "brochure catalogue");
-}
-
-TEST(Catalogue, KindsHaveTheirTitles) {
-    EXPECT_EQ(label(BrochureType::wineA4), "Carta de vinos");
-    EXPECT_EQ(label(ApplicationType::orderWineA4), "Carta de Vinos A4");
-    EXPECT_EQ(label(ApplicationType::mercado), "");
-    EXPECT_EQ(label(BrochureType::pennant), "Banderines");
-}
-
-TEST(URLParser, TakesTheVariablesOfTheQueryAsTheyStand) {
-    const URLParser parser("kavor://open?login=ana%40x&token=&token=t1&flag#end");
-    EXPECT_EQ(parser.value("login"), "ana%40x");
-    EXPECT_EQ(parser.value("token"), "t1");
-    EXPECT_EQ(parser.value("flag"), std::nullopt);
-    EXPECT_EQ(parser.value("absent"), std::nullopt);
-    EXPECT_EQ(URLParser("kavor://open").variables(), std::nullopt);
 }
 
 } // namespace

@@ -13,25 +13,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(ManualClock, StandsStillUntilItIsTurnedAndSaysWhatWaits) {
-    ManualClock clock;
-    auto context = std::make_unique<QObject>();
-    int ran = 0;
-    clock.after(300ms, nullptr, [&] { ++ran; });
-    clock.after(200ms, context.get(), [&] { ++ran; });
-    EXPECT_EQ(clock.pending(), 2);
-    EXPECT_EQ(clock.untilNext(), 200ms);
-    context.reset();
-    EXPECT_EQ(clock.pending(), 1);
-    clock.advance(299ms);
-    EXPECT_EQ(ran, 0);
-    EXPECT_EQ(clock.untilNext(), 1ms);
-    clock.advance(1ms);
-    EXPECT_EQ(ran, 1);
-    EXPECT_EQ(clock.pending(), 0);
-    EXPECT_EQ(clock.untilNext(), 0ms);
-}
-
 class TimerBackgroundTasksTest : public testing::Test {
 protected:
     TimerBackgroundTasksTest() {

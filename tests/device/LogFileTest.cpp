@@ -66,12 +66,12 @@ TEST_F(LogFileTest, HoldsALineForEachEntryAndForEachMessageOfQtFromTheStartOnAsS
 }
 
 TEST_F(LogFileTest, KeepsTheLastLinesInTwoFilesOfALimitedSizeThroughManyStarts) {
-    constexpr int starts = 10;
+    constexpr std::size_t starts = 10;
     stderrOf([&] {
-        for (int start = 0; start < starts; ++start) {
+        for (std::size_t start = 0; start < starts; ++start) {
             LogFile log(2000);
             log.open(logs);
-            for (int i = 0; i < 100; ++i)
+            for (std::size_t i = 0; i < 100; ++i)
                 logLine("line " + std::to_string(start * 100 + i));
         }
     });

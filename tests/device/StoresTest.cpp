@@ -57,15 +57,6 @@ TEST(FileStores, WriteOverNothingThatTheyCannotRead) {
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "loop"));
 }
 
-TEST(MakeKeychain, TakesTheFileWhenAskedTo) {
-    const TemporaryFolder folder;
-    qputenv("KAVOR_KEYCHAIN", "file");
-    const auto store = makeKeychain(folder.path());
-    qunsetenv("KAVOR_KEYCHAIN");
-    EXPECT_EQ(store->add({key, "ana", "x"}), KeychainStatus::Success);
-    EXPECT_FALSE(contentOf(folder / ".keychain/items").empty());
-}
-
 TEST(FileUserDefaults, LivesOnInMemoryWhenNothingCanBeReadOrWritten) {
     const TemporaryFolder folder;
     put(folder / "defaults.json", "{\"flag\": tru");

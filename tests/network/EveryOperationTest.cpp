@@ -80,20 +80,6 @@ const std::vector<Fault>& everyFault() {
          Ending::Success},
         {"WholeGzip", [](const QByteArray& good) { return gzip(good, A::Framing::ContentLength, false); },
          Ending::Success},
-        {"WholeUntilClose",
-         [](const QByteArray& good) {
-             A answer = A::json(good);
-             answer.framing = A::Framing::UntilClose;
-             return answer;
-         },
-         Ending::Success},
-        {"WholeAndClosed",
-         [](const QByteArray& good) {
-             A answer = A::json(good);
-             answer.closeAfterwards = true;
-             return answer;
-         },
-         Ending::Success},
         {"CutLength", cut(A::Framing::ContentLength), Ending::Failure, Kind::Transport},
         {"CutChunks", cut(A::Framing::Chunked), Ending::Failure, std::nullopt},
         {"CutUntilClose", cut(A::Framing::UntilClose), Ending::Failure, Kind::Decoding},
@@ -115,7 +101,6 @@ const std::vector<Fault>& everyFault() {
         {"Status204", always(A::empty(204))},
         {"Redirect", always(A::redirect(elsewhere, 302))},
         {"RedirectKeepingTheMethod", always(A::redirect(elsewhere, 307))},
-        {"RedirectToNowhere", always(A::empty(303))},
         {"Unauthorised", always(A::empty(401)), Ending::Never},
         {"UnauthorisedWithCredential", always(challenge()), Ending::Success, Kind::Status, nullptr, true},
         {"Expired419", always(A::empty(419)), Ending::Success, Kind::Status, nullptr, false,
@@ -224,8 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Faults, EveryOperation,
                          testing::Combine(testing::ValuesIn(everyOperation()),
                                           testing::ValuesIn(everyFault())),
                          [](const auto& each) {
-                             return std::string(std::get<0>(each.param).name) + "_" +
-                                    std::get<1>(each.param).name;
+                             return std::get<0>(each.param).name() + "_" + std::get<1>(each.param).name;
                          });
 
 } // namespace

@@ -56,19 +56,6 @@ TEST(FailureMapping, GivesEachSituationItsErrorAndMessages) {
     }
 }
 
-TEST(FailureMapping, TurnsA505WithALinkIntoAnUpdateWithoutMessages) {
-    const RequestFailure failure =
-        mapFailure({Fault::None,
-                    505,
-                    {},
-                    R"({"msg": "Hay una versión nueva", "update_link": "https://a.es/app?v=2"})",
-                    {}});
-    ASSERT_TRUE(failure.error.updateNeeded);
-    EXPECT_EQ(failure.error.updateNeeded->errorMessage, "Hay una versión nueva");
-    EXPECT_EQ(failure.error.updateNeeded->updateLink, QUrl("https://a.es/app?v=2"));
-    EXPECT_FALSE(failure.messages);
-}
-
 struct Shown {
     AlertPresenter alerts;
     RecordingUrlOpener urls;

@@ -129,20 +129,6 @@ TEST(HttpSession, EndsARequestAfter120SecondsHoweverBusyItIs) {
     EXPECT_EQ(rig.clock.pending(), 0);
 }
 
-TEST(HttpSession, SaysTooMuchTimeWhenPartOfAnAnswerHadCome) {
-    Rig rig;
-    rig.server.then(infoPath, A::slow(goodLogin, 10, 1'000'000));
-    const Outcome& outcome = rig.start();
-    bool hasPart = false;
-    QObject::connect(rig.manager.findChild<QNetworkReply*>(), &QNetworkReply::readyRead, &rig.manager,
-                     [&] { hasPart = true; });
-    ASSERT_TRUE(waitFor([&] { return hasPart; }));
-    rig.clock.advance(120s);
-    ASSERT_TRUE(outcome.ended());
-    EXPECT_EQ(outcome.failure->messages->first(),
-              "No podemos procesar su petición por exceso de tiempo. Inténtelo más tarde.");
-}
-
 TEST(HttpSession, TakesAPackedAnswerAndRefusesOneThatUnpacksBeyondTheLimit) {
     Rig rig;
     SessionConfiguration configuration = NetworkManager::defaultConfiguration();

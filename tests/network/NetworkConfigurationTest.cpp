@@ -1,5 +1,6 @@
 #include "network/records/NetworkConfiguration.h"
 
+#include "NetworkFixture.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -10,47 +11,11 @@
 namespace kavor {
 namespace {
 
-const char* const keys[] = {"baseURLDev",
-                            "baseURLPro",
-                            "firstTimeUserURL",
-                            "forgotPasswordURL",
-                            "loginURL",
-                            "getCustomerDataFromTevoCodeURL",
-                            "appInformationURL",
-                            "priceRecommendationURL",
-                            "searchMapsURL",
-                            "profileInformationURL",
-                            "sellingSheetOrderListURL",
-                            "sellingSheetOrderSendURL",
-                            "sellingSheetOrderDeleteURL",
-                            "promotionOrderSendURL",
-                            "saveOrderURL",
-                            "retrieveBrochureOrderListURL",
-                            "retrieveBrochureOrderURL",
-                            "activationOrderURL",
-                            "activationUserQuota",
-                            "sendRawOrder",
-                            "createTextileOrder",
-                            "retrieveTextileOrder",
-                            "deleteOrder",
-                            "userInformation",
-                            "menuMantelOnline",
-                            "claimOrder",
-                            "demandBrandQr",
-                            "suggestionMailboxAdd"};
-
 // A whole property list, with one key left out or with another value for it.
 std::string list(const std::string& key = {}, const std::string& value = {}) {
-    std::string text =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>urls</key><dict>"
-        "<key>unknown</key><integer>1</integer>";
-    for (const char* each : keys) {
-        if (key != each)
-            text += std::string("<key>") + each + "</key><string>/v1/" + each + "?a=1&amp;b=ñ</string>";
-        else if (!value.empty())
-            text += std::string("<key>") + each + "</key>" + value;
-    }
-    return text + "</dict></dict></plist>";
+    return configurationDocument([&](const std::string& each) {
+        return each == key ? value : "<string>/v1/" + each + "?a=1&amp;b=ñ</string>";
+    });
 }
 
 std::string binaryForm(const std::string& xml) {
@@ -79,8 +44,8 @@ TEST(NetworkConfiguration, ReadsTheXmlAndTheBinaryForm) {
 }
 
 TEST(NetworkConfiguration, NamesFileAndKeyOfEveryFault) {
-    for (const char* key : keys) {
-        const std::string place = std::string("F: key \"urls.") + key + "\": ";
+    for (const std::string& key : configurationKeys()) {
+        const std::string place = "F: key \"urls." + key + "\": ";
         EXPECT_EQ(NetworkConfiguration::decode(list(key), "F").error(), place + "missing");
         EXPECT_EQ(NetworkConfiguration::decode(list(key, "<integer>3</integer>"), "F").error(),
                   place + "expected string, found integer");

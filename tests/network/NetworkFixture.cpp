@@ -1,39 +1,40 @@
 #include "NetworkFixture.h"
 
 #include "session/LoginResult.h"
+#include "support/TemporaryFolder.h"
+
+#include <regex>
 
 namespace kavor {
 
+std::vector<std::string> configurationKeys() {
+    static const std::string shipped =
+        contentOf(KAVOR_TEST_DATA "/../../apps/kavor/NetworkConfiguration.plist");
+    static const std::regex entry("<key>(\\w+)</key>\\s*<string>");
+    std::vector<std::string> keys;
+    for (std::sregex_iterator found(shipped.begin(), shipped.end(), entry), end; found != end; ++found)
+        keys.push_back((*found)[1]);
+    return keys;
+}
+
+std::string configurationDocument(const std::function<std::string(const std::string& key)>& value) {
+    std::string text = "<plist version=\"1.0\"><dict><key>urls</key><dict>"
+                       "<key>unknown</key><integer>1</integer>";
+    for (const std::string& key : configurationKeys()) {
+        if (const std::string element = value(key); !element.empty())
+            text += "<key>" + key + "</key>" + element;
+    }
+    return text + "</dict></dict></plist>";
+}
+
 NetworkConfiguration configurationFor(const QString& base) {
-    const std::string path = "/";
-    return {{"",
-             base.toStdString(),
-             path + "first",
-             path + "forgot",
-             path + "loginURL",
-             path + "getCustomerDataFromTevoCodeURL",
-             path + "appInformationURL",
-             path + "priceRecommendationURL",
-             path + "searchMapsURL",
-             path + "profileInformationURL",
-             path + "sellingSheetOrderListURL",
-             path + "sellingSheetOrderSendURL",
-             path + "sellingSheetOrderDeleteURL",
-             path + "promotionOrderSendURL",
-             path + "saveOrderURL",
-             path + "retrieveBrochureOrderListURL",
-             path + "retrieveBrochureOrderURL",
-             path + "activationOrderURL",
-             path + "activationUserQuota",
-             path + "sendRawOrder",
-             path + "createTextileOrder",
-             path + "retrieveTextileOrder",
-             path + "deleteOrder",
-             path + "userInformation",
-             path + "menuMantelOnline",
-             path + "claimOrder",
-             path + "demandBrandQr",
-             path + "suggestionMailboxAdd"}};
+    return NetworkConfiguration::decode(configurationDocument([&](const std::string& key) {
+                                            const bool isBase = key == "baseURLPro";
+                                            return "<string>" + (isBase ? base.toStdString() : "/" + key) +
+                                                   "</string>";
+                                        }),
+                                        "the tests' own")
+        .value();
 }
 
 namespace {

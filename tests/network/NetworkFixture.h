@@ -10,9 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kavor {
 
@@ -37,6 +39,10 @@ struct Outcome {
 inline const char* genericText =
     "Se ha producido una incidencia. Por favor, póngase en contacto con el equipo de soporte.";
 
+// The keys of the configuration that the client is shipped with.
+std::vector<std::string> configurationKeys();
+// A configuration file with an element for each of them; an empty text leaves the key out.
+std::string configurationDocument(const std::function<std::string(const std::string& key)>& value);
 // A configuration whose paths are "/" and the key, below the given base address.
 NetworkConfiguration configurationFor(const QString& base);
 

@@ -42,7 +42,7 @@ TEST_P(EachOperation, SendsItsMethodPathAndParametersAndTakesItsAnswer) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Operations, EachOperation, testing::ValuesIn(everyOperation()),
-                         [](const auto& each) { return std::string(each.param.name); });
+                         [](const auto& each) { return each.param.name(); });
 
 TEST(Operations, LogInWithATokenWithoutAPasswordAndSayTheirTerminalWhenItIsKnown) {
     Rig rig;

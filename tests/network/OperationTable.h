@@ -12,18 +12,22 @@ namespace kavor {
 
 // One operation of the backend: how it is called, what it sends, and an answer that it takes.
 struct OperationCase {
-    const char* name;
     QByteArray method;
-    QByteArray target; // path and query behind "/api"
+    QByteArray target; // path and query behind "/api"; its first part is the operation's name
     QByteArray form;   // the body when it is a form
     QByteArray answer;
     std::function<void(NetworkManager&, Outcome&)> start;
     bool changesServer = false;
-    bool takesAnyDocument = false;
     std::vector<QByteArray> bodyHas = {}; // pieces of a JSON body
+    bool takesAnyDocument = false;
 
+    [[nodiscard]] std::string name() const {
+        return target.mid(1).split('?').first().split('/').first().toStdString();
+    }
     [[nodiscard]] QByteArray path() const { return "/api" + target.split('?').first(); }
-    friend std::ostream& operator<<(std::ostream& out, const OperationCase& each) { return out << each.name; }
+    friend std::ostream& operator<<(std::ostream& out, const OperationCase& each) {
+        return out << each.name();
+    }
 };
 
 const std::vector<OperationCase>& everyOperation();

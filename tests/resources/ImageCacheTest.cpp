@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 
 namespace kavor {
@@ -118,38 +117,6 @@ TEST_F(ImageCacheTest, ForgetsAScreenThatIsGone) {
     EXPECT_FALSE(called);
 }
 
-TEST_F(ImageCacheTest, PrefetchesWithALimitAndSortsTheOutcomes) {
-    server.setHandler([](const ScriptedRequest& request) {
-        return request.path == "/5" ? ScriptedAnswer::empty(500)
-                                    : ScriptedAnswer::bytes(request.path, "video/mp4");
-    });
-    load(resource("0", "/0"));
-    Prefetcher::Resources resources;
-    for (int i = 0; i < 20; ++i)
-        resources.push_back(resource(QString::number(i), QStringLiteral("/%1").arg(i)));
-    std::vector<std::size_t> counts;
-    std::array<std::size_t, 3> outcome{};
-    server.hold();
-    Prefetcher prefetcher(
-        cache, resources,
-        [&](const auto& skipped, const auto& failed, const auto& completed) {
-            counts.push_back(skipped.size() + failed.size() + completed.size());
-        },
-        [&](const auto& skipped, const auto& failed, const auto& completed) {
-            outcome = {skipped.size(), failed.size(), completed.size()};
-        });
-    prefetcher.setMaxConcurrentDownloads(5);
-    prefetcher.start();
-    ASSERT_TRUE(waitFor([&] { return server.waiting() == 5; }));
-    server.release();
-    ASSERT_TRUE(waitFor([&] { return prefetcher.isFinished(); }));
-    EXPECT_EQ(outcome, (std::array<std::size_t, 3>{1, 1, 18}));
-    EXPECT_EQ(server.mostInFlight(), 5);
-    ASSERT_EQ(counts.size(), 20U);
-    for (std::size_t i = 0; i < counts.size(); ++i)
-        EXPECT_EQ(counts[i], i + 1);
-}
-
 TEST_F(ImageCacheTest, ShowsAtOnceWhatIsStillToBeFetchedInTheBackgroundAndFetchesItOnce) {
     server.setHandler([](const ScriptedRequest& request) {
         return request.path.startsWith("/slow") ? ScriptedAnswer::of(ScriptedAnswer::Kind::Silence)
@@ -173,30 +140,6 @@ TEST_F(ImageCacheTest, ShowsAtOnceWhatIsStillToBeFetchedInTheBackgroundAndFetche
         EXPECT_EQ(load(resource(key, QLatin1Char('/') + QString(key))).size(), QSize(8, 4)) << key;
     EXPECT_TRUE(waitFor([&] { return second.isFinished(); }));
     EXPECT_EQ(server.requests().size(), 7);
-}
-
-TEST_F(ImageCacheTest, SaysWhyAResourceCouldNotBeHad) {
-    server.answer("/404", ScriptedAnswer::bytes("no", "image/png", 404));
-    server.answer("/close", ScriptedAnswer::cut(picture(80, 40), 60, ScriptedAnswer::Framing::UntilClose));
-    QMap<QString, QString> reasons;
-    QObject::connect(&cache, &ImageCache::fetchFailed, &server,
-                     [&](const QUrl& url, const QString& reason) { reasons[url.path()] = reason; });
-    load(resource("a", "/404"));
-    load(resource("b", "/close"));
-    EXPECT_EQ(reasons,
-              (QMap<QString, QString>{{"/404", "HTTP 404"}, {"/close", "the picture was cut short"}}));
-}
-
-TEST_F(ImageCacheTest, CompletesAnEmptyPrefetchWithoutProgress) {
-    int progress = 0;
-    int completions = 0;
-    Prefetcher prefetcher(
-        cache, {}, [&](const auto&, const auto&, const auto&) { ++progress; },
-        [&](const auto&, const auto&, const auto&) { ++completions; });
-    prefetcher.start();
-    prefetcher.start();
-    EXPECT_TRUE(waitFor([&] { return completions == 1; }));
-    EXPECT_EQ(progress, 0);
 }
 
 } // namespace

@@ -102,12 +102,6 @@ TEST_F(ResourceUpdateTest, LogsAFontThatCannotBeStored) {
     EXPECT_EQ(log.startingWith("Failure on storing font: Blocked with error: "), 1);
 }
 
-TEST_F(ResourceUpdateTest, EndsTheProcessWhenTheFontsFolderCannotBeMade) {
-    put(caches / "ApplicationFonts", "a file");
-    GTEST_FLAG_SET(death_test_style, "threadsafe"); // the downloader has threads
-    EXPECT_EXIT(updater.update({}, {}), testing::ExitedWithCode(70), "the fonts' folder");
-}
-
 class ResourceUpdateRunTest : public ResourceUpdateTest {
 protected:
     ResourceUpdateRunTest() {
@@ -193,13 +187,6 @@ TEST_F(ResourceUpdateRunTest, HoldsFiveOfEachClassAndLetsTheBackgroundHoldUpNobo
     EXPECT_EQ(ends, 1) << "who was replaced tells no end";
     server.shutDown();
     EXPECT_TRUE(waitFor([&] { return picturesEnded == 1; }));
-}
-
-TEST(ResourceUpdateRun, ShowsHowFarItIs) {
-    EXPECT_EQ(ResourceUpdateRun::label(3, 12), "Actualizando imágenes 3/12");
-    EXPECT_NEAR(ResourceUpdateRun::fraction(0, 12), 2.0 / 3, 1e-9);
-    EXPECT_NEAR(ResourceUpdateRun::fraction(12, 12), 1.0, 1e-9);
-    EXPECT_NEAR(ResourceUpdateRun::fraction(0, 0), 2.0 / 3, 1e-9);
 }
 
 } // namespace

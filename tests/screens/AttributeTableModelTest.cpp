@@ -3,6 +3,9 @@
 #include "screens/PictureText.h"
 #include "support/DeviceFakes.h"
 
+#include <QCoreApplication>
+#include <QThreadPool>
+
 #include <gtest/gtest.h>
 
 namespace kavor {
@@ -18,6 +21,11 @@ public:
         return true;
     }
 };
+
+void finishPhotos() {
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+}
 
 const std::vector<AttributeRow::Type> types{{1, "texto", std::nullopt, std::nullopt, std::nullopt},
                                             {2, "imagen", std::nullopt, std::nullopt, "image"},
@@ -40,6 +48,8 @@ TEST(AttributeTableModel, AnswersWhatWasGivenInTheOrderOfTheRowsWithoutTheEmptyO
     photos.photo = QImage(1600, 400, QImage::Format_RGB32);
     table.switchImage(2, true);
     table.type(7, QStringLiteral("out of the list"));
+    EXPECT_EQ(edits, 2) << "a photo is made small beside the window's thread";
+    finishPhotos();
     EXPECT_EQ(edits, 3);
     const auto given = table.values();
     ASSERT_EQ(given.size(), 3U);
@@ -65,7 +75,36 @@ TEST(AttributeTableModel, APictureThatComesWhenSomethingElseAsksChangesNothing) 
     table.switchImage(2, true);
     table.ask(41, asked, types, {});
     photos.answer(QImage(4, 4, QImage::Format_RGB32));
+    finishPhotos();
     EXPECT_TRUE(table.values().empty());
+}
+
+TEST(AttributeTableModel, OfPicturesInTheMakingTheUsersLastWordCounts) {
+    FakePhotoPicker photos;
+    const auto pick = [&](AttributeTableModel& table, int side) {
+        photos.photo = QImage(side, side, QImage::Format_RGB32);
+        table.switchImage(2, true);
+    };
+    {
+        AttributeTableModel gone(
+            photos, [] { return std::string(); }, nullptr);
+        gone.ask(40, asked, types, {});
+        pick(gone, 2000);
+    }
+    AttributeTableModel table(
+        photos, [] { return std::string(); }, nullptr);
+    table.ask(40, asked, types, {});
+    pick(table, 2000); // takes longer than the next one
+    pick(table, 3);
+    finishPhotos();
+    ASSERT_EQ(table.values().size(), 1U);
+    EXPECT_EQ(table.values()[0].value, picture_text::of(*photos.photo));
+    for (const bool isRemoved : {true, false}) {
+        pick(table, 5);
+        isRemoved ? table.switchImage(2, false) : table.ask(41, asked, types, {});
+        finishPhotos();
+        EXPECT_TRUE(table.values().empty()) << isRemoved;
+    }
 }
 
 TEST(PictureText, APictureOfAnyKindBecomesAPngAndWhatIsNoneBecomesNothing) {

@@ -54,6 +54,12 @@ TEST_F(PointOfSaleFormTest, ASectionHasItsOwnFieldsAndWords) {
     form.searchTEVOCodeAction();
     request.fail(failureWith({"motivo"}));
     EXPECT_EQ(alert(), "Error al recuperar cliente | motivo");
+    EXPECT_EQ(form.fieldText("tevoTextField"), "B0001");
+    alerts.answerButton(0);
+    network.reachable = false;
+    form.searchTEVOCodeAction();
+    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
+    EXPECT_EQ(request.calls.size(), 2U);
 }
 
 TEST_F(PointOfSaleFormTest, OfSeveralCustomersTheFirstOneIsTaken) {

@@ -1,7 +1,5 @@
 #include "session/UnfinishedWork.h"
 
-#include "sellingsheets/SellingSheetOrder.h"
-#include "support/LogCapture.h"
 #include "support/TemporaryFolder.h"
 #include "textile/SaveTextileOrder.h"
 
@@ -10,8 +8,6 @@
 namespace kavor {
 
 namespace {
-
-using Names = std::set<std::string>;
 
 // A section whose draft is its record, all of one kind.
 class UnfinishedClothing : public UnfinishedWork<SaveTextileOrder> {
@@ -43,40 +39,6 @@ protected:
     std::string broughtBack() const override { return "Se ha recuperado el pedido en curso"; }
 };
 
-// A section whose form is more than its record, with a kind for each style of sheet.
-struct SheetForm {
-    SellingSheetOrder sheet;
-    bool scrolledDown = true;
-};
-class UnfinishedSheets : public UnfinishedWork<SellingSheetOrder, SheetForm> {
-public:
-    UnfinishedSheets()
-        : UnfinishedWork("sheet") {}
-
-    // The title of the sheet that comes back in the section of a style.
-    std::string open(Int style) {
-        form = std::make_shared<SheetForm>();
-        form->sheet.styleIdentifier = style;
-        bringBack(kindOf(form->sheet), [this](const SellingSheetOrder& sheet) {
-            form->sheet = sheet;
-            return true;
-        });
-        return form->sheet.title;
-    }
-    std::shared_ptr<SheetForm> form = std::make_shared<SheetForm>();
-
-protected:
-    std::shared_ptr<const SheetForm> current() const override { return form; }
-    std::optional<SellingSheetOrder> recordOf(const SheetForm& each) const override { return each.sheet; }
-    std::string kindOf(const SellingSheetOrder& sheet) const override {
-        return "style" + std::to_string(sheet.styleIdentifier);
-    }
-    std::string faultOf(const SellingSheetOrder& sheet) const override {
-        return sheet.items.empty() ? "" : "a module of a catalogue that is gone";
-    }
-    std::string broughtBack() const override { return "Se ha recuperado la hoja en curso"; }
-};
-
 class UnfinishedWorkTest : public testing::Test {
 public:
     UnfinishedWorkTest() { AppSingleton::shared().setFolders(folder.path(), folder.path()); }
@@ -87,7 +49,6 @@ public:
 
     TemporaryFolder folder;
     UnfinishedClothing clothing;
-    UnfinishedSheets sheets;
 };
 
 TEST_F(UnfinishedWorkTest, WorkComesBackWithAWordSaidOnceAndIsGoneWhenItWasSent) {
@@ -121,34 +82,6 @@ TEST_F(UnfinishedWorkTest, ADraftThatIsNoLongerTheCurrentOneWritesNothingOverIt)
     former->orderInformation.message = "una respuesta tardía";
     clothing.write(*former);
     EXPECT_EQ(clothing.open().orderInformation.message, "El bar");
-}
-
-TEST_F(UnfinishedWorkTest, SectionsAndTheirKindsDoNotMix) {
-    clothing.draft->orderInformation.message = "Fiestas";
-    clothing.write(*clothing.draft);
-    for (const Int style : {1, 2}) {
-        EXPECT_EQ(sheets.open(style), "");
-        sheets.form->sheet.title = "Hoja " + std::to_string(style);
-        sheets.write(*sheets.form);
-    }
-    EXPECT_EQ(sheets.open(1), "Hoja 1");
-    EXPECT_EQ(folder.names(), (Names{"clothing", "sheet.recovery", "sheet.style2"}));
-    sheets.removeAll();
-    EXPECT_EQ(sheets.open(1), "");
-    EXPECT_EQ(sheets.open(2), "Hoja 2");
-    EXPECT_EQ(clothing.open().orderInformation.message, "Fiestas");
-}
-
-TEST_F(UnfinishedWorkTest, WhatCantBeReadOrLoadedIsSetAsideAndNamed) {
-    const LogCapture log;
-    folder.put("clothing", R"({"save":true,"order":{"message":7}})");
-    EXPECT_TRUE(clothing.open().orderInformation.message.empty());
-    sheets.form->sheet.items.emplace_back();
-    sheets.write(*sheets.form);
-    EXPECT_EQ(sheets.open(0), "");
-    EXPECT_EQ(folder.names(), (Names{"clothing.unreadable", "sheet.unreadable"}));
-    EXPECT_EQ(log.startingWith("clothing: order."), 1);
-    EXPECT_TRUE(log.contains("sheet: a module of a catalogue that is gone"));
 }
 
 } // namespace

@@ -122,20 +122,6 @@ TEST(Veil, BlocksTapsAndKeysWhileItIsShown) {
     EXPECT_EQ(scene.log(), QStringList({"tap"}));
 }
 
-TEST(BannerHost, ShowsOneMessageAfterTheOther) {
-    UiScene scene("BannerHost { objectName: \"host\"; duration: 60000 }");
-    QQuickItem* host = scene.item("host");
-    for (const char* title : {"Uno", "Dos"})
-        QMetaObject::invokeMethod(host, "show", Q_ARG(QString, title), Q_ARG(QString, "texto"));
-    EXPECT_EQ(host->property("title").toString(), "Uno");
-    const auto arrived = [&] { return scene.item("banner")->y() >= 11; };
-    ASSERT_TRUE(UiScene::waitFor(arrived));
-    scene.click("banner");
-    EXPECT_EQ(host->property("title").toString(), "Dos");
-    scene.click("banner");
-    EXPECT_FALSE(host->property("shown").toBool());
-}
-
 TEST(Veil, OffersAWayOutByTapAndKeyboardWhenItStandsTooLong) {
     UiScene scene(R"(
         Veil { shown: true; leavable: true; text: "Enviando…"; onAbandoned: window.log = window.log.concat("left") }

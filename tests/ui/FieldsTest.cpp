@@ -21,21 +21,6 @@ QString fieldText(const UiScene& scene, const QString& name) {
 
 } // namespace
 
-TEST(PriceField, TakesCommaAndPointAsTheDecimalSign) {
-    struct Case {
-        const char* typed;
-        const char* wanted;
-    };
-    for (const Case& c :
-         {Case{"3.4", "3,4"}, Case{"3,4", "3,4"}, Case{"12.345", "12,34"}, Case{"1.2.3", "1,23"},
-          Case{"1,2.3", "1,23"}, Case{"2x5", "25"}, Case{".5", ",5"}, Case{"7", "7"}}) {
-        UiScene scene(QString::fromUtf8(kPrice));
-        scene.click("price");
-        scene.type(c.typed);
-        EXPECT_EQ(fieldText(scene, "price"), c.wanted) << c.typed;
-    }
-}
-
 TEST(PriceField, ShowsCurrencyAtRestAndThePlainNumberWhileEdited) {
     UiScene scene(QString::fromUtf8(kPrice));
     EXPECT_EQ(fieldText(scene, "price"), "2,50 €");
@@ -92,17 +77,6 @@ TEST(QuantityField, AsksOnlyForValuesWithinItsLimits) {
     EXPECT_EQ(scene.value("copies", "mark"), "De 1 a 3.") << "3 is not what was typed";
     scene.click("copiesMinus");
     EXPECT_EQ(scene.value("copies", "mark"), "");
-}
-
-TEST(SwitchRow, AsksByTapAndBySpaceAndShowsWhatItsOwnerSays) {
-    UiScene scene(R"(
-        SwitchRow { objectName: "qr"; x: 20; y: 20; width: 300; label: "QR"
-            onToggled: (on) => window.log = window.log.concat(String(on)) }
-    )");
-    scene.click("qr");
-    scene.key(Qt::Key_Space);
-    EXPECT_EQ(scene.log(), QStringList({"true", "true"}));
-    EXPECT_FALSE(scene.value("qr", "checked").toBool());
 }
 
 TEST(FormPage, KeepsTheFieldBeingTypedIntoAboveTheKeyboard) {

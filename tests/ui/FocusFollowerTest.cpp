@@ -56,23 +56,6 @@ TEST(FocusFollower, TabGoesThroughALongListInTheOrderOfTheScreenAndTheListFollow
     EXPECT_TRUE(scene.warnings().isEmpty());
 }
 
-TEST(FocusFollower, AFormThatScrollsFollowsToo) {
-    UiScene scene(R"(
-        Flickable {
-            id: page
-            width: 300; height: 200; contentHeight: column.height; clip: true
-            FocusFollower { view: page }
-            Column { id: column; spacing: 60; Repeater { model: 8; AppButton { objectName: "button" + index; text: "x" } } }
-        }
-    )");
-    for (int i = 0; i < 8; ++i) {
-        scene.key(Qt::Key_Tab);
-        ASSERT_EQ(scene.focusName(), QStringLiteral("button%1").arg(i));
-        const QQuickItem* item = scene.window()->activeFocusItem();
-        EXPECT_TRUE(QRectF(0, 0, 300, 200).contains(item->mapRectToScene(item->boundingRect()))) << i;
-    }
-}
-
 TEST(FocusFollower, WhatHasTheFocusStaysInSightWhenTheWindowTurns) {
     UiScene scene(R"(
         Flickable {

@@ -70,18 +70,6 @@ TEST(PdfPages, TellsThePagesOfADocumentAndFailsOnABrokenOne) {
     EXPECT_NEAR(pages.index(2).data(PdfPages::RatioRole).toReal(), 2.0, 0.02);
 }
 
-TEST(PdfPages, ReadsTheFileAgainWhenAskedTo) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("menu.pdf");
-    PdfPages pages;
-    pages.setSource(QUrl::fromLocalFile(path));
-    EXPECT_TRUE(reaches(pages, PdfPages::Failed)) << "the file is not there yet";
-    write(path, makePdf(2));
-    pages.reload();
-    EXPECT_TRUE(reaches(pages, PdfPages::Ready));
-    EXPECT_EQ(pages.count(), 2);
-}
-
 TEST(PdfPages, ShowsTheNewestDocumentAndMayGoWhileOneLoads) {
     PdfPages pages;
     {

@@ -31,49 +31,42 @@ int inputMethodHints(CustomerFieldKeys keys) {
 } // namespace
 
 CustomerFieldModel::CustomerFieldModel(const CustomerForm& form, QObject* parent)
-    : QAbstractListModel(parent)
+    : RowListModel(parent)
     , form_(form) {}
 
 void CustomerFieldModel::show(std::vector<CustomerField> fields, const Validations& validations) {
-    beginResetModel(); // the form is another one
-    rows_ = std::move(fields);
     validations_ = &validations;
-    endResetModel();
+    rows_.show(std::move(fields));
 }
 
 void CustomerFieldModel::textChanged(std::string_view name) {
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        if (rows_[row].name == name)
-            emit dataChanged(index(int(row)), index(int(row)), {TextRole, ErrorRole});
+    for (int row = 0; row < count(); ++row) {
+        if (rows_.at(row)->name == name)
+            emit dataChanged(index(row), index(row), {TextRole, ErrorRole});
     }
 }
 
 void CustomerFieldModel::allTextsChanged() {
-    if (!rows_.empty())
-        emit dataChanged(index(0), index(int(rows_.size()) - 1), {TextRole, ErrorRole});
-}
-
-int CustomerFieldModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(rows_.size());
+    rows_.repaint({TextRole, ErrorRole});
 }
 
 QVariant CustomerFieldModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    const CustomerField* field = rows_.at(index);
+    if (!field)
         return {};
-    const CustomerField& field = rows_[std::size_t(index.row())];
     switch (role) {
     case NameRole:
-        return fromUtf8(field.name);
+        return fromUtf8(field->name);
     case LabelRole:
-        return fromUtf8(field.label);
+        return fromUtf8(field->label);
     case TextRole:
-        return fromUtf8(form_.text(field.name));
+        return fromUtf8(form_.text(field->name));
     case ErrorRole:
-        return errorOf(field);
+        return errorOf(*field);
     case IconRole:
-        return fromUtf8(field.icon);
+        return fromUtf8(field->icon);
     case HintsRole:
-        return inputMethodHints(field.keys);
+        return inputMethodHints(field->keys);
     default:
         return {};
     }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "pointofsale/CustomerForm.h"
-
-#include <QAbstractListModel>
+#include "screens/RowListModel.h"
 
 #include <vector>
 
@@ -10,7 +9,7 @@ namespace kavor {
 
 // Text fields of the form of the point of sale, for a view: a row each with the roles "name" (the outlet's),
 // "label", "text", "error" (empty while the text is not too long), "icon" and "hints" (input method).
-class CustomerFieldModel : public QAbstractListModel {
+class CustomerFieldModel : public RowListModel {
     Q_OBJECT
 public:
     enum Role { NameRole = Qt::UserRole + 1, LabelRole, TextRole, ErrorRole, IconRole, HintsRole };
@@ -24,16 +23,18 @@ public:
     void textChanged(std::string_view name);
     void allTextsChanged();
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
 private:
+    struct Key {
+        std::string_view operator()(const CustomerField& field) const { return field.name; }
+    };
     [[nodiscard]] QString errorOf(const CustomerField& field) const;
 
     const CustomerForm& form_;
     const Validations* validations_ = nullptr;
-    std::vector<CustomerField> rows_;
+    RowList<CustomerField, Key> rows_{*this};
 };
 
 } // namespace kavor

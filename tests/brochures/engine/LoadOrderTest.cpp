@@ -35,9 +35,6 @@ TEST_F(LoadOrder, TheReaderOfFilesTakesOlderFormsAndNoOthers) {
     EXPECT_EQ(read(with("save", "2")).save, OrderRequestType::sendPreview);
     EXPECT_EQ(problem(with("save", "4")), "save: expected one of 1, 2, 3, found 4");
     EXPECT_EQ(problem(with("save", "\"1\"")), "save: expected integer, found string");
-    EXPECT_EQ(problem(without("save")), "save: missing");
-    EXPECT_EQ(problem(without("menu")), "menu: missing");
-    EXPECT_EQ(problem(without("order_lines")), "order_lines: missing");
     EXPECT_EQ(problem(with("order_lines.1.price", "4")),
               "order_lines[1].price: expected one of 1, 2, 3, 5, found 4");
     EXPECT_EQ(problem(with("menu.order_type", "8")).substr(0, 32), "menu.order_type: expected one of");
@@ -55,11 +52,6 @@ TEST_F(LoadOrder, TheReaderOfFilesTakesOlderFormsAndNoOthers) {
           "menu.items.0.description", "menu.promotions.0.id", "menu.promotions.0.brand_name",
           "name_archive_tablet", "id", "order_copy", "menu.other_drinks", "menu.bottles"})
         EXPECT_EQ(problem(without(path)), "") << path;
-    for (const auto* path :
-         {"menu.items.0.sub_items", "menu.items.0.sub_items.0.product_type",
-          "menu.items.0.sub_items.0.sub_item_prices.0.price", "menu.promotions.0.promotion_id",
-          "menu.customer.name", "menu.language1_id", "menu.bottles.0.id"})
-        EXPECT_TRUE(problem(without(path)).ends_with(": missing")) << path;
     EXPECT_EQ(read(with("menu.items.0.sub_items.0.sub_item_prices.0.price_type", "4")).menu.beerBrands.size(),
               2U);
 }
@@ -210,13 +202,6 @@ TEST_F(LoadOrder, WhoPrintsIsAskedAnewAndTheFileNameIsTheCallers) {
     EXPECT_EQ(draft().sourceIdentifier, 7);
     EXPECT_EQ(draft().orderIdentifier, 8);
     EXPECT_FALSE(draft().withPennantTmp || draft().printDigitalBrochure);
-}
-
-TEST_F(LoadOrder, StopsForABrandOrFormatWithoutNumber) {
-    EXPECT_EXIT(load(document().remove("menu.items.1.brand")), testing::ExitedWithCode(stoppedExitStatus),
-                "\"brand\"");
-    EXPECT_EXIT(load(document().remove("menu.items.0.sub_items.1.product")),
-                testing::ExitedWithCode(stoppedExitStatus), "brand 10");
 }
 
 class OwnBrands : public LoadOrder {
@@ -375,24 +360,13 @@ TEST_F(RetrievedOrder, BecomesTheOrderDocumentWithItsCrossingsAndLosses) {
     EXPECT_EQ(documentOf(orderOf(41, answer())), expected.text(true));
 }
 
-TEST_F(RetrievedOrder, ReadsTheAnswerStrictly) {
-    const auto fails = [](const JsonData& data) {
-        const auto read = json::decode<RetrieveBrochureOrderListResponse>(data.text());
-        return read ? std::string() : read.error().text();
-    };
-    const auto with = [](const char* path, const char* value) { return answerDocument().set(path, value); };
-    EXPECT_EQ(fails(with("order.beer.showQr", "1")), "order.beer.showQr: expected boolean, found integer");
-    EXPECT_EQ(fails(with("order.tipoId", "15")).substr(0, 30), "order.tipoId: expected one of ");
-    EXPECT_EQ(fails(with("order.orderLines.0.priceId", "4")).substr(0, 34),
-              "order.orderLines[0].priceId: expec");
-    EXPECT_EQ(fails(with("order.beer.brands.0.products.0.prices.0.id", "6")).substr(0, 33),
-              "order.beer.brands[0].products[0].");
-    EXPECT_EQ(fails(with("order.fecha", "\"2024-01-01\"")).substr(0, 11), "order.fecha");
-    EXPECT_EQ(fails(answerDocument().remove("order.beer")), "order.beer: missing");
+TEST_F(RetrievedOrder, MayLackWhatTheServerLeavesOut) {
     for (const auto* path :
          {"order.drinks", "order.pdv", "order.beer.brands.0.category", "order.drinks.0.name",
-          "order.beer.brands.0.products.0.quantity", "order.beer.menu_style_attributes"})
-        EXPECT_EQ(fails(answerDocument().remove(path)), "") << path;
+          "order.beer.brands.0.products.0.quantity", "order.beer.menu_style_attributes"}) {
+        const auto document = answerDocument().remove(path).text();
+        EXPECT_TRUE(json::decode<RetrieveBrochureOrderListResponse>(document)) << path;
+    }
 }
 
 TEST_F(RetrievedOrder, TwoLogosReachNoDraftAndABrandNeedsItsCategory) {

@@ -2,8 +2,6 @@
 #include "brochures/engine/DraftTest.h"
 #include "orders/OrderDiskManager.h"
 
-#include <functional>
-
 namespace kavor {
 
 namespace {
@@ -176,23 +174,6 @@ TEST_F(MakeOrder, ABrandWithoutPriceEntryIsNoItem) {
     const auto items = draft().makeOrder(cloud, false).menu.beerBrands;
     ASSERT_EQ(items.size(), 1U);
     EXPECT_EQ(items.front().brand, 11);
-}
-
-TEST_F(MakeOrder, StopsForWhatTheDraftMustNotHold) {
-    const auto stops = [](const std::function<void()>& change, const char* text) {
-        const auto make = [&change] {
-            change();
-            static_cast<void>(draft().makeOrder(cloud, false));
-        };
-        EXPECT_EXIT(make(), testing::ExitedWithCode(stoppedExitStatus), text);
-    };
-    complete();
-    stops([] { session().actualSection.reset(); }, "a brochure section");
-    stops([] { session().applicationInformation.reset(); }, "catalogue");
-    stops([this] { catalogue.removeProduct(10), useCatalogue(); }, "brand 10");
-    stops([this] { catalogue.product(11).category.reset(), useCatalogue(); }, "category of brand 11");
-    stops([] { draft().newProducts.clear(); }, "format 100 of brand 10");
-    stops([] { enter(BrochureType::menu), draft().selectedBeverages[-4] = {}; }, "category -4");
 }
 
 TEST_F(MakeOrder, WhatIsKeptInAFileComesBackAsTheSameOrder) {

@@ -10,17 +10,6 @@ using Draft = BrochureIntermediateData;
 using State = SelectionState;
 class Selection : public DraftTest {};
 
-TEST_F(Selection, ANewDraftHasEverySwitchOnAndNothingChosen) {
-    const Draft fresh;
-    for (const bool on :
-         {fresh.includeDigitalBrochure, fresh.includeDigitalBrochureTmp, fresh.printDigitalBrochure,
-          fresh.printDigitalBrochureTmp, fresh.includePaperBrochure, fresh.includePaperBrochureTmp,
-          fresh.withPennant, fresh.withPennantTmp})
-        EXPECT_TRUE(on);
-    EXPECT_FALSE(fresh.printedMyself);
-    EXPECT_TRUE(fresh.selectedBrands.empty() && fresh.netPrices.empty());
-}
-
 TEST_F(Selection, ASelectedFormatGetsAnEntryInEveryMap) {
     draft().setSecondPrice(PriceType::terrace);
     EXPECT_TRUE(draft().setFormatSelected(true, 101, 10));
@@ -58,18 +47,6 @@ TEST_F(Selection, RefusesWhatTheCatalogueOrTheSelectionDoesNotHave) {
     EXPECT_EQ(draft().isFormatSelected(100, 10), State::selected);
     EXPECT_EQ(draft().isFormatSelected(101, 10), State::notSelected);
     EXPECT_EQ(draft().isFormatSelected(110, 10), State::unknown);
-}
-
-TEST_F(Selection, ValuesOfASelectedFormatCanBeSetAlsoInANewColumn) {
-    draft().setFormatSelected(true, 100, 10);
-    EXPECT_TRUE(draft().setPrice(PriceType::table, 100, 10, 4.0));
-    EXPECT_TRUE(draft().setVolume(33, 100, 10));
-    EXPECT_TRUE(draft().setNewProduct(true, 100, 10));
-    EXPECT_TRUE(draft().setNetPrice(100, 10, 0.8));
-    EXPECT_EQ(draft().priceOf(PriceType::table, 100, 10), 4.0);
-    EXPECT_EQ(draft().volumeOf(100, 10), 33);
-    EXPECT_EQ(draft().isNewProduct(100, 10), true);
-    EXPECT_EQ(draft().netPriceOf(100, 10), 0.8);
 }
 
 TEST_F(Selection, DeselectingTheLastFormatLeavesNoTraceOfTheBrand) {
@@ -160,58 +137,18 @@ TEST_F(Selection, LogosMustBeOfferedByThePrintedStyle) {
     EXPECT_EQ(draft().currentLogos(), std::nullopt);
 }
 
-TEST_F(Selection, ReferencesAreCheckedWhenSetAndDropOutWithTheCatalogue) {
+TEST_F(Selection, ReferencesAreCheckedWhenSet) {
     const auto set = [](Int id) {
         return std::vector<bool>{draft().setOrderSheet(id), draft().setPennantBrand(id),
                                  draft().setBrandQr(id), draft().setBlackboardFormat(id),
                                  draft().setBlackboardType(id)};
     };
-    const auto present = [] {
-        draft().selectedStyleIdentifier = draft().selectedStyleDigitalIdentifier = 1;
-        draft().selectedStylePennantIdentifier = draft().selectedFormatVisualizeId = 1;
-        draft().selectedWineFormatVisualizeId = 1;
-        return std::vector<const void*>{
-            draft().currentOrderSheet(),      draft().currentPennantBrand(),
-            draft().currentBrandQr(),         draft().currentBlackboardFormat(),
-            draft().currentBlackboardType(),  draft().currentStyle(),
-            draft().currentStyleDigital(),    draft().currentStylePennant(),
-            draft().currentFormatVisualize(), draft().currentWineFormatVisualize()};
-    };
     EXPECT_EQ(set(9), std::vector<bool>(5, false));
     EXPECT_EQ(set(1), std::vector<bool>(5, true));
-    EXPECT_EQ(std::ranges::count(present(), nullptr), 0);
     EXPECT_EQ(draft().isBlackboardFormatSelected(1), State::selected);
     EXPECT_EQ(draft().isBlackboardFormatSelected(9), State::unknown);
     draft().setBlackboardFormat(std::nullopt);
     EXPECT_EQ(draft().isBlackboardFormatSelected(1), State::notSelected);
-    catalogue.information.brochures.emplace();
-    useCatalogue();
-    EXPECT_EQ(std::ranges::count(present(), nullptr), 10);
-}
-
-TEST_F(Selection, SelectedProductsStandInTheOrderOfTheCatalogue) {
-    for (const auto& [format, brand] : {std::pair<Int, Int>{120, 12}, {100, 10}, {110, 11}})
-        draft().setFormatSelected(true, format, brand);
-    draft().selectedBrands[77] = {1};
-    std::vector<Int> ids;
-    for (const auto* product : draft().selectedProducts())
-        ids.push_back(product->id);
-    EXPECT_EQ(ids, (std::vector<Int>{11, 10, 12}));
-}
-
-TEST_F(Selection, BrandsOfAnotherFamilyAreFilteredAndUnknownOnesStay) {
-    for (const auto& [format, brand] : {std::pair<Int, Int>{120, 12}, {100, 10}})
-        draft().setFormatSelected(true, format, brand);
-    draft().setFormatHighlighted(true, 120, 12);
-    draft().selectedBrands[77] = {1};
-    draft().brandPrices[77][1][PriceType::main] = 1;
-    const auto filtered = draft().filteredSelection();
-    EXPECT_EQ(filtered.selectedBrands, (Draft::FormatsOfBrands{{10, {100}}, {77, {1}}}));
-    EXPECT_EQ(filtered.brandPrices.size(), 2U);
-    EXPECT_TRUE(filtered.highlightedBrands.empty());
-    session().actualSection = SectionIdentifier{SectionIdentifier::Activations{}};
-    EXPECT_EXIT(static_cast<void>(draft().filteredSelection()), testing::ExitedWithCode(stoppedExitStatus),
-                "a brochure section");
 }
 
 TEST_F(Selection, LimitsOfBrandsFollowTheFormOfTheMenu) {

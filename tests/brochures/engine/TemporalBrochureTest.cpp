@@ -55,33 +55,6 @@ TEST_F(TemporalBrochureTest, OpeningTakesTheCopyIntoANewDraft) {
     EXPECT_EQ(folder.names(), Names{copy});
 }
 
-TEST_F(TemporalBrochureTest, AProcessThatDiesBetweenOpeningAndWritingLosesNothing) {
-    writeDraftOf("La Esquina");
-    for (int death = 0; death < 3; ++death) {
-        Draft::replaceTemporalBrochure();
-        ASSERT_TRUE(temporal().restoreDraft());
-        EXPECT_EQ(draft().fileName, "La Esquina");
-        EXPECT_EQ(draft().selectedBrands.size(), 2U);
-    }
-}
-
-TEST_F(TemporalBrochureTest, ResetAndSendingLeaveNeitherCopy) {
-    writeDraftOf("La Esquina");
-    ASSERT_TRUE(temporal().restoreDraft());
-    temporal().removeAll();
-    EXPECT_FALSE(temporal().restoreDraft());
-    EXPECT_TRUE(folder.names().empty());
-}
-
-TEST_F(TemporalBrochureTest, LoadingAnotherOrderDropsTheDraftThatWasInWork) {
-    writeDraftOf("La Esquina");
-    const auto other = draft().makeOrder(OrderRequestType::saveCloud, false);
-    ASSERT_TRUE(temporal().restoreDraft()); // leaves a recovery copy
-    Draft::replaceTemporalBrochure()->loadOrder(other);
-    EXPECT_FALSE(temporal().restoreDraft()) << "the wizard must go on with the order just loaded";
-    EXPECT_TRUE(folder.names().empty());
-}
-
 TEST_F(TemporalBrochureTest, AWriteThatFailsKeepsTheRecoveryCopy) {
     const LogCapture log;
     writeDraftOf("La Esquina");
@@ -102,17 +75,6 @@ TEST_F(TemporalBrochureTest, ABrokenCopyGivesWayToTheRecoveryCopy) {
     const LogCapture log;
     EXPECT_TRUE(temporal().takeForOpening(BrochureType::beer));
     EXPECT_EQ(log.startingWith("temporalBrochure: not a JSON document"), 1);
-}
-
-TEST_F(TemporalBrochureTest, TheLastOfManyWritesStands) {
-    complete();
-    for (int copies = 1; copies <= 200; ++copies) {
-        draft().selectedNumberOfBrochures->main = copies;
-        temporal().write(draft());
-    }
-    const auto order = temporal().takeForOpening(BrochureType::beer);
-    ASSERT_TRUE(order);
-    EXPECT_EQ(order->orderLines.front().quantity, 200);
 }
 
 TEST_F(TemporalBrochureTest, EachKindHasAnUnfinishedMenuOfItsOwn) {
@@ -200,15 +162,6 @@ TEST_F(TemporalBrochureTest, AnOrderThatIsLoadedGoesBeforeMenusOfItsKindAndLeave
     EXPECT_EQ(open(wine), "");
     EXPECT_EQ(draft().fileName, "Del archivo") << "the wizard goes on with the order just loaded";
     EXPECT_EQ(folder.names(), (Names{beerAside, wineAside}));
-}
-
-TEST_F(TemporalBrochureTest, WithoutADocumentsFolderNothingIsKept) {
-    session().setFolders({}, {});
-    complete();
-    temporal().write(draft());
-    EXPECT_FALSE(temporal().restoreDraft());
-    EXPECT_TRUE(folder.names().empty());
-    EXPECT_FALSE(std::filesystem::exists(copy));
 }
 
 } // namespace

@@ -348,13 +348,6 @@ TEST_F(Validation, SentencesStandInTheOrderOfTheRules) {
             "precio Barra"}));
 }
 
-TEST_F(Validation, StopsWithoutTheParametersOfTheKind) {
-    complete();
-    draft().brochureTypeParameters.reset();
-    EXPECT_EXIT(static_cast<void>(draft().validationErrors()), testing::ExitedWithCode(stoppedExitStatus),
-                "brochureTypeParameters");
-}
-
 TEST_F(Validation, HighPricesAreToldButNotRefused) {
     complete();
     EXPECT_EQ(draft().priceWarnings(), Messages());

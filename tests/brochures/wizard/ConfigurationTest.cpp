@@ -31,31 +31,6 @@ protected:
     }
 };
 
-TEST_F(ConfigurationTest, TextsFollowTheKindAndTheRight) {
-    struct Case {
-        BrochureType type;
-        const char* freeText;
-        const char* paper;
-    };
-    const char* below = "Texto libre (se mostrará debajo del título)";
-    const char* back = "Texto Libre (esta información se mostrará en la contraportada)";
-    for (const Case& each : {Case{BrochureType::chalkboard, below, "Solicitar Carta Impresa en papel"},
-                             Case{BrochureType::mantel, below, "Solicitar Carta Impresa en papel"},
-                             Case{BrochureType::video, back, "Solicitar Carta en formato Vídeo"},
-                             Case{BrochureType::beer, back, "Solicitar Carta Impresa en papel"}}) {
-        enter(each.type);
-        open();
-        EXPECT_EQ(step->freeTextLabel().toStdString(), each.freeText);
-        EXPECT_EQ(step->formats()->papeBrochureLabel().toStdString(), each.paper);
-    }
-    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente");
-    EXPECT_EQ(step->pointOfSale()->tevoAviseLabel(), "Si no conoces el código cliente, no lo informes.");
-    session.loginResult->customerCodeRequired = true;
-    EXPECT_EQ(step->pointOfSale()->tevoLabel(), "Código cliente*");
-    EXPECT_TRUE(step->pointOfSale()->tevoAviseLabel().startsWith(
-        "Si no introduces el código cliente REAL del PdV, "));
-}
-
 TEST_F(ConfigurationTest, FieldsShowAsTheKindAllows) {
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->freeTextNumberOfFields = 2; });
     open();
@@ -142,24 +117,13 @@ TEST_F(ConfigurationTest, WhatCannotBeSeenHasAFixedState) {
     EXPECT_TRUE(draft().includeDigitalBrochureTmp);
 }
 
-TEST_F(ConfigurationTest, LanguagesAreThoseOfTheKindByPosition) {
+TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
+    using Languages = BrochureIntermediateData::MainAndSecondary;
     enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
     open();
     EXPECT_EQ(step->languages()->languages(), (QStringList{"Castellano", "Catalán", "Gallego"}));
     step->languages()->chooseSecondaryLanguage(1); // without a main one there is nothing to be second to
     EXPECT_FALSE(draft().selectedLanguageIdentifiers);
-    step->languages()->chooseMainLanguage(2);
-    step->languages()->chooseSecondaryLanguage(1);
-    EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, 1}));
-    EXPECT_EQ(step->languages()->secondaryLanguage(), 1);
-    step->languages()->chooseSecondaryLanguage(0);
-    EXPECT_EQ(draft().currentLanguages(), (BrochureIntermediateData::MainAndSecondary{3, std::nullopt}));
-}
-
-TEST_F(ConfigurationTest, NoLanguageIsChosenTwice) {
-    using Languages = BrochureIntermediateData::MainAndSecondary;
-    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->multiLanguage = true; });
-    open();
     step->languages()->chooseMainLanguage(1);
     EXPECT_EQ(step->languages()->secondaryLanguages(), (QStringList{"Ninguno", "Castellano", "Gallego"}));
     step->languages()->chooseSecondaryLanguage(2);
@@ -209,22 +173,12 @@ TEST_F(ConfigurationTest, AChalkboardStartsOnTheDefaultTypeAndItsElementsChooseT
     EXPECT_FALSE(draft().selectedBlackboardTypeIdentifier);
 }
 
-TEST_F(ConfigurationTest, VisualFormatsAreSortedAndGoToTheDraft) {
-    open();
-    EXPECT_EQ(step->formats()->menuFormats(), (QStringList{"Lista", "Completa"}));
-    step->formats()->chooseMenuFormat(1);
-    EXPECT_EQ(draft().selectedFormatVisualizeId, 1);
-    EXPECT_EQ(step->formats()->menuFormat(), 1);
-}
-
 TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     Customer found;
     found.id = 70;
     found.name = "Bar Pino";
     found.tevo = "OTHER";
-    found.email = "pino@bar.example";
     found.imageLogo = png();
-    found.priorityBrandIdentifiers = {11};
     open();
     step->pointOfSale()->editText("tevoTextField", "B0001");
     step->pointOfSale()->editText("contactTelephoneTextField", "600");
@@ -234,17 +188,11 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     EXPECT_EQ(field("establishmentNameTextField"), "Bar Pino");
     EXPECT_EQ(field("tevoTextField"), "B0001");
     EXPECT_EQ(field("contactTelephoneTextField"), "");
-    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Logotipo");
-    const Customer& kept = *draft().customerInformation;
-    EXPECT_EQ(kept.id, 70);
-    EXPECT_EQ(kept.priorityBrandIdentifiers, (std::vector<Int>{11}));
-    EXPECT_FALSE(kept.telephone);
-    EXPECT_EQ(kept.imageLogo, png());
+    EXPECT_EQ(draft().customerInformation->imageLogo, png());
 
     found.imageLogo.reset();
     step->pointOfSale()->searchTEVOCodeAction();
     network.requests.getCustomerDataFromTevoCode.succeed({found});
-    EXPECT_EQ(step->pointOfSale()->logo()->attachLogoLabel(), "Añadir logotipo");
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
@@ -339,43 +287,6 @@ TEST_F(ConfigurationTest, APlaceThatIsChangedByHandOrByTheLocationLosesTheNumber
     }
 }
 
-TEST_F(ConfigurationTest, ALookupWithoutACustomerKeepsWhatWasTypedAndTakesTheVeilAway) {
-    struct Case {
-        const char* alert;
-        std::function<void()> answer;
-    };
-    auto& request = network.requests.getCustomerDataFromTevoCode;
-    bool veil = false;
-    const auto observer = NotificationCenter::shared().observe(
-        notification::visibilityVeilView,
-        [&](const NotificationInfo& info) { veil = std::get<bool>(info.at("show")); });
-    const Case cases[] = {
-        {"Información | No se ha encontrado ningún cliente asociado al código TEVO introducido.\nDeberás "
-         "completar la "
-         "información para este Punto de Venta en esta pantalla.",
-         [&] { request.succeed({}); }},
-        {"Incidencia | el servidor descansa",
-         [&] {
-             request.fail(failureWith({"el servidor descansa", "y más"}));
-         }},
-    };
-    open();
-    step->pointOfSale()->editText("establishmentNameTextField", "Bar Olmo");
-    for (const Case& each : cases) {
-        step->pointOfSale()->searchTEVOCodeAction();
-        EXPECT_TRUE(veil);
-        each.answer();
-        EXPECT_FALSE(veil);
-        EXPECT_EQ(alert(), each.alert);
-        alerts.answerButton(0);
-        EXPECT_EQ(field("establishmentNameTextField"), "Bar Olmo");
-    }
-    network.reachable = false;
-    step->pointOfSale()->searchTEVOCodeAction();
-    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
-    EXPECT_EQ(request.calls.size(), 2U);
-}
-
 TEST_F(ConfigurationTest, ThePreviewWaitsForTheCustomerCodeWhereItIsRequired) {
     open();
     int previews = 0;
@@ -412,20 +323,6 @@ TEST_F(ConfigurationTest, TheLocationFillsTheAddressOnlyWhenTheUserAgrees) {
     locationService.available = false;
     step->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_EQ(alert(), " | No se puede utilizar la ubicación, está deshabilitada.");
-}
-
-TEST_F(ConfigurationTest, APhotoBecomesTheLogoNoLargerThanNeeded) {
-    open();
-    photos.photo = QImage(3000, 1500, QImage::Format_RGB32);
-    photos.photo->fill(Qt::red);
-    step->pointOfSale()->logo()->searchLogoInGallery();
-    ASSERT_TRUE(
-        waitFor([] { return draft().customerInformation && draft().customerInformation->imageLogo; }));
-    const auto text = QByteArray::fromStdString(*draft().customerInformation->imageLogo);
-    const auto logo = QImage::fromData(QByteArray::fromBase64(text.mid(text.indexOf(',') + 1)));
-    EXPECT_EQ(logo.size(), QSize(1024, 512));
-    step->pointOfSale()->logo()->removeImageButonAction();
-    EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "brochures/wizard/BrochureMenuViewController.h"
-#include "brochures/wizard/ComingSoonStep.h"
 #include "brochures/wizard/WizardFixture.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
@@ -40,43 +39,12 @@ TEST_F(MenuTest, EachOptionalStepHangsOnItsSwitchAlone) {
     }
 }
 
-TEST_F(MenuTest, TheStyleEntryIsNamedAfterTheKind) {
-    const std::pair<BrochureType, const char*> cases[] = {
-        {BrochureType::chalkboard, "Pizarra"}, {BrochureType::video, "Video"},
-        {BrochureType::mantel, "Mantel"},      {BrochureType::digital, "Online"},
-        {BrochureType::beer, "Papel"},         {BrochureType::wineA4, "Papel"}};
-    for (const auto& [type, caption] : cases) {
-        enter(type);
-        EXPECT_EQ(Menu(services).styleDefaultLabel().toStdString(), caption);
-    }
-}
-
-TEST_F(MenuTest, OutsideABrochureSectionTheFirstStepStandsUnderTheWholeMenu) {
-    session.actualSection = SectionIdentifier{SectionIdentifier::Activations{}};
-    const Menu menu(services);
-    EXPECT_TRUE(configuration(menu));
-    EXPECT_EQ(menu.styleDefaultLabel(), QString());
-    for (int button = Menu::Reset; button <= Menu::PennantBrand; ++button)
-        EXPECT_TRUE(menu.isButtonVisible(button));
-    session.actualSection.reset(); // nothing is saved outside a section
-}
-
 TEST_F(MenuTest, TheTwoStyleEntriesTellTheStepWhichStyleItEdits) {
     Menu menu(services);
     menu.buttonPushedAction(Menu::DigitalStyle);
     EXPECT_TRUE(session.isSectionDigital);
     menu.buttonPushedAction(Menu::Style);
     EXPECT_FALSE(session.isSectionDigital);
-}
-
-TEST_F(MenuTest, StepsToComeSaySoAndPlacesPastTheLastDoNothing) {
-    Menu menu(services);
-    for (const int button : {Menu::Drinks, Menu::Promotions, Menu::Pennant, Menu::PennantBrand}) {
-        menu.buttonPushedAction(button);
-        EXPECT_TRUE(qobject_cast<ComingSoonStep*>(menu.activeViewController())) << button;
-    }
-    menu.buttonPushedAction(12);
-    EXPECT_EQ(menu.selectedButton(), Menu::PennantBrand);
 }
 
 TEST_F(MenuTest, ATapOnTheEntryOnShowKeepsTheStepWithWhatWasTyped) {
@@ -98,17 +66,6 @@ TEST_F(MenuTest, LeavingAStepSavesItAndTheCopyExceptForTheSendStep) {
     draft().customerInformation->name = "Bar Pino";
     menu.buttonPushedAction(Menu::Products);
     EXPECT_EQ(temporaryCopy()->menu.customer.name, "Bar Olmo");
-}
-
-TEST_F(MenuTest, SaysSoAtOnceWhenTheNetworkGoes) {
-    Menu menu(services);
-    int told = 0;
-    QObject::connect(&menu, &Menu::offlineChanged, [&] { ++told; });
-    EXPECT_FALSE(menu.isOffline());
-    network.reachable = false;
-    reachability.set(false);
-    EXPECT_EQ(told, 1);
-    EXPECT_TRUE(menu.isOffline());
 }
 
 TEST_F(MenuTest, ClosingSavesTheStepOnShowAlsoWhileAResetIsUnderWay) {
@@ -148,21 +105,11 @@ TEST_F(MenuTest, ACopyInWhichTheUserEnteredNothingComesBackWithoutAWord) {
 }
 
 TEST_F(MenuTest, ThePreviewOfTheConfigurationLeavesItOnShowWhateverComesOfIt) {
+    completeDraft();
     Menu menu(services);
     auto* step = configuration(menu);
     step->previewAction();
-    EXPECT_TRUE(alert().starts_with("Pedido incompleto | Faltan por seleccionar los idiomas\n"));
-    press("Aceptar");
-    menu.buttonPushedAction(Menu::Products);
-    completeDraft();
-    menu.buttonPushedAction(Menu::Configuration);
-    step = configuration(menu);
-    step->previewAction();
     EXPECT_EQ(menu.veilText(), "Preparando la vista previa…");
-    ASSERT_TRUE(network.requests.saveOrder.fail(failureWith({"motivo"})));
-    EXPECT_EQ(alert(), "El pedido no se puede previsualizar | motivo");
-    press("Aceptar");
-    step->previewAction();
     SaveBrochuresOrderResponse answer;
     answer.urlPDF = Url{"http://127.0.0.1:9/a.pdf"};
     ASSERT_TRUE(network.requests.saveOrder.succeed(answer));
@@ -294,18 +241,6 @@ TEST_F(MenuTest, AResetFromTheSendStepDoesNotSwallowTheNextSave) {
     EXPECT_EQ(draft().customerInformation->name, "Bar Nuevo");
 }
 
-TEST_F(MenuTest, TheVeilFollowsItsNotification) {
-    const Menu menu(services);
-    auto& center = NotificationCenter::shared();
-    center.post(notification::visibilityVeilView, {{"show", true}});
-    EXPECT_TRUE(menu.isVeilVisible());
-    EXPECT_EQ(menu.veilText(), QString());
-    center.post(notification::visibilityVeilView, {{"show", true}, {"text", std::string("Un momento…")}});
-    EXPECT_EQ(menu.veilText(), "Un momento…");
-    center.post(notification::visibilityVeilView); // without the key it goes
-    EXPECT_FALSE(menu.isVeilVisible());
-}
-
 TEST_F(MenuTest, TheBannerOfPreferredBrandsIsAskedForUntilItWasClosedAndAgainAfterAReset) {
     Menu menu(services);
     auto& center = NotificationCenter::shared();
@@ -329,7 +264,10 @@ protected:
     void SetUp() override {
         MenuTest::SetUp();
         enter(
-            BrochureType::beer, [](Brochures::Type& type) { type.parameters->isHighlightable = true; },
+            BrochureType::beer,
+            [](Brochures::Type& type) {
+                type.parameters->isHighlightable = type.parameters->withPrinter = true;
+            },
             [](ApplicationInformation& information) {
                 information.products.front().productList.front().positionHighlightable = 1;
             });
@@ -366,6 +304,7 @@ TEST_F(SentOrderTest, ChangingStepsForgetsNothingWritesNothingAndAsksNothing) {
     EXPECT_FALSE(draft().highlightedBrands.empty()) << "proposed by the prices, not chosen by the user";
     EXPECT_TRUE(send()->isOrderSent());
     EXPECT_EQ(send()->makeOrderButtonTitle(), "Ver pedido");
+    EXPECT_FALSE(send()->isPrintedKavorButtonVisible() || send()->isPrintedMyselfVisible());
     send()->sendOrderMyselfAction();
     EXPECT_EQ(urls.opened, QStringList{"http://server.example/order"});
     EXPECT_EQ(network.requests.saveOrder.calls.size(), 1U);

@@ -46,11 +46,6 @@ protected:
             marked += draft().isNewProduct(200 + row, brand).value_or(false) ? 1 : 0;
         return marked;
     }
-    [[nodiscard]] int enterKey() const {
-        QInputMethodQueryEvent query(Qt::ImEnterKeyType);
-        QCoreApplication::sendEvent(scene->window()->activeFocusItem(), &query);
-        return query.value(Qt::ImEnterKeyType).toInt();
-    }
 };
 
 TEST_F(PriceCells, EnterTakesEveryPriceOfATypedColumnAndMarksNothingAsNew) {
@@ -104,16 +99,6 @@ TEST_F(PriceCells, APriceBeingTypedOutlivesItsCell) {
     QMetaObject::invokeMethod(table, "positionViewAtEnd");
     ASSERT_TRUE(UiScene::waitFor([&] { return !scene->isOnShow(primary(101)); }));
     EXPECT_EQ(price(1), 7);
-}
-
-TEST_F(PriceCells, TheKeyboardOnTheScreenSaysNextUntilTheLastPrice) {
-    show(2, PriceType::terrace);
-    for (const auto& [field, key] :
-         {std::pair(primary(100), Qt::EnterKeyNext), std::pair(primary(102), Qt::EnterKeyNext),
-          std::pair(secondary(103), Qt::EnterKeyDone)}) {
-        enter(field);
-        EXPECT_EQ(enterKey(), key) << field.toStdString();
-    }
 }
 
 TEST_F(PriceCells, WhatIsNoPriceKeepsTheOldOneAlsoInTheLastRow) {

@@ -1,11 +1,6 @@
 #include "brochures/wizard/StepFixture.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
 
-#include <QAbstractItemModelTester>
-#include <QSignalSpy>
-
-#include <random>
-
 namespace kavor {
 namespace {
 
@@ -73,43 +68,6 @@ TEST_F(ProductStep, ListsTheFamilyInCatalogueOrderAndAppliesAllFiltersTogether) 
         filter.setPropertyIndex(each.property);
         filter.setSearchBrandTextField(QString::fromUtf8(each.search));
         EXPECT_EQ(joined(names()), each.names) << each.priority << each.property << each.search;
-    }
-}
-
-TEST(BrandList, ChangesItsRowsInFewStepsAndAlwaysShowsWhatPasses) {
-    CatalogueBuilder builder;
-    builder.information.products.clear();
-    std::mt19937 dice(7);
-    for (int i = 0; i < 5000; ++i) {
-        std::string name;
-        for (int letter = 0; letter < 6; ++letter)
-            name += char('a' + int(dice() % 4));
-        builder.brand(i + 1, name);
-    }
-    Model model;
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    const auto catalogue = builder.take();
-    model.setDraft(std::make_shared<BrochureIntermediateData>());
-    model.setBrands(catalogue, ApplicationFather::orderBeer);
-    EXPECT_EQ(model.count(), 5000);
-
-    int changes = 0;
-    QObject::connect(&model, &Model::rowsInserted, [&] { ++changes; });
-    QObject::connect(&model, &Model::rowsRemoved, [&] { ++changes; });
-    QObject::connect(&model, &Model::modelReset, [] { FAIL() << "the list was reset"; });
-    for (const std::string search : {"a", "ab", "abc", "b", "", "abcdabcd", "d", "dd", "ddd", "dd"}) {
-        changes = 0;
-        model.setFilter({false, std::nullopt, search});
-        EXPECT_LE(changes, 60) << search;
-        std::vector<Int> wanted;
-        std::vector<Int> shown;
-        for (const Product& product : catalogue->information().products) {
-            if (product.name.find(search) != std::string::npos)
-                wanted.push_back(product.id);
-        }
-        for (int row = 0; row < model.count(); ++row)
-            shown.push_back(model.brandAt(row)->id);
-        EXPECT_EQ(shown, wanted) << search;
     }
 }
 
@@ -186,35 +144,6 @@ TEST_F(ProductStep, TellsTheLimitsOfAChalkboardByItsFormat) {
         EXPECT_EQ(step->isProgressRed(), red) << step->currentNumberOfSelections();
         const int row = step->currentNumberOfSelections();
         step->toggleFormat(2 + row, 1000 + row);
-    }
-}
-
-TEST_F(ProductStep, ExplainsTheHighlightOnlyWhereTheKindHasOne) {
-    struct Case {
-        bool highlightable;
-        Int places;
-        std::optional<Int> maximum;
-        const char* tail;
-    };
-    const Case cases[] = {
-        {false, 2, 10, ""},
-        {true, 0, 10,
-         " En la pantalla Precios Recomendados podrás destacar una de las referencias que selecciones."},
-        {true, 2, 10,
-         " En la pantalla Precios Recomendados podrás destacar una de las referencias que selecciones. El "
-         "destacado "
-         "ocupa 2 marcas, por lo que si quieres añadir un destacado podrás seleccionar como máximo 8 "
-         "marcas."},
-    };
-    for (const Case& each : cases) {
-        auto& parameters = builder.parameters(BrochureType::beer);
-        parameters.isHighlightable = each.highlightable;
-        parameters.highLightedNumber = each.places;
-        parameters.maxBrandSelection = each.maximum;
-        show();
-        const std::string own =
-            "Selecciona las marcas y los formatos que aparecerán en tu Carta de Cervezas.";
-        EXPECT_EQ(step->informationLabel().toStdString(), own + each.tail);
     }
 }
 

@@ -14,7 +14,6 @@ using Order = SaveBrochuresOrder;
 class SendTest : public WizardTest {
 protected:
     std::unique_ptr<BrochureSendViewController> step;
-    QUrl previewed;
     bool veil = false;
     NotificationCenter::Subscription observer = NotificationCenter::shared().observe(
         notification::visibilityVeilView,
@@ -23,8 +22,6 @@ protected:
     BrochureSendViewController& open() {
         draft().brochureTypeParameters = parametersOf(*session.brochureType()); // the frame's work
         step = std::make_unique<BrochureSendViewController>(services, nullptr);
-        QObject::connect(step.get(), &WizardStepViewController::previewRequested,
-                         [this](const QUrl& url) { previewed = url; });
         step->viewDidLoad();
         step->viewWillAppear();
         return *step;
@@ -124,91 +121,12 @@ TEST_F(SendTest, ButtonsFollowTheKind) {
     }
 }
 
-TEST_F(SendTest, AnIncompleteOrderIsNeitherPrintedNorPreviewedButMayBeKept) {
+TEST_F(SendTest, AnIncompleteDraftMayBeKept) {
     open();
-    for (auto action :
-         {&BrochureSendViewController::sendOrderAction, &BrochureSendViewController::previewAction}) {
-        (step.get()->*action)();
-        EXPECT_TRUE(alert().starts_with("Pedido incompleto | Faltan por seleccionar los idiomas\n"));
-        EXPECT_FALSE(step->missing().isEmpty());
-        press("Aceptar");
-    }
+    EXPECT_FALSE(draft().validationErrors().empty());
     saveAs("a medias");
     ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
-    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::saveCloud);
     EXPECT_TRUE(orders.exists<Order>("a medias", Directory::draft));
-}
-
-TEST_F(SendTest, HighPricesAreAskedAboutAndOnlyCorregirStops) {
-    completeDraft();
-    draft().setPrice(PriceType::main, knownFormat, knownBrand, 7.5);
-    open().sendOrderAction();
-    EXPECT_EQ(alert(), "¿Los precios son correctos? | Brava / Caña / Barra : 7.5€");
-    press("Corregir");
-    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
-    step->previewAction();
-    press("Continuar");
-    EXPECT_EQ(std::get<0>(network.requests.saveOrder.calls.at(0)).save, OrderRequestType::sendPreview);
-}
-
-TEST_F(SendTest, EachAnswerEndsAsItsRequestSays) {
-    struct Case {
-        std::function<void()> action;
-        std::function<void(SaveBrochuresOrderResponse&)> answer; // none: the request fails
-        const char* alert;
-        bool sent;
-    };
-    const auto print = [&] { step->sendOrderAction(); };
-    const auto preview = [&] { step->previewAction(); };
-    const Case cases[] = {
-        {print, [](auto& answer) { answer.message = "hecho"; },
-         "Error | No hay url para ver el pedido realizado. Contacte con soporte.", false},
-        {print, {}, "El pedido no se puede realizar | motivo", false},
-        {preview, [](auto&) {}, "Error | No hay url que previsualizar. Contacte con soporte.", false},
-        {preview, {}, "El pedido no se puede previsualizar | motivo", false},
-        {print,
-         [](auto& answer) {
-             answer.urlOrder = Url{"http://server.example/order/1"};
-             answer.message = "hecho";
-         },
-         "Éxito | hecho", true},
-    };
-    enter(BrochureType::beer, [](Brochures::Type& type) { type.parameters->withPrinter = true; });
-    completeDraft();
-    TemporalBrochure::shared().write(draft());
-    open();
-    for (const Case& each : cases) {
-        each.action();
-        ASSERT_TRUE(veil);
-        SaveBrochuresOrderResponse response;
-        if (each.answer) {
-            each.answer(response);
-            ASSERT_TRUE(network.requests.saveOrder.succeed(response));
-        } else {
-            ASSERT_TRUE(network.requests.saveOrder.fail(failureWith({"motivo"})));
-        }
-        EXPECT_FALSE(veil);
-        EXPECT_EQ(alert(), each.alert);
-        press("Aceptar");
-        EXPECT_EQ(step->isOrderSent(), each.sent);
-        EXPECT_EQ(temporaryCopy().has_value(), !each.sent);
-    }
-    EXPECT_EQ(step->makeOrderButtonTitle(), "Ver pedido");
-    EXPECT_FALSE(step->isPrintedKavorButtonVisible());
-    EXPECT_FALSE(step->isPrintedMyselfVisible());
-    step->sendOrderAction(); // shows the order and sends nothing
-    EXPECT_EQ(urls.opened, QStringList{"http://server.example/order/1"});
-    EXPECT_EQ(network.requests.saveOrder.calls.size(), std::size(cases));
-}
-
-TEST_F(SendTest, APreviewShowsTheDocumentOfTheAnswer) {
-    completeDraft();
-    open().previewAction();
-    SaveBrochuresOrderResponse answer;
-    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
-    network.requests.saveOrder.succeed(answer);
-    EXPECT_EQ(previewed, QUrl("http://server.example/pdf/a.pdf"));
-    EXPECT_FALSE(alerts.isVisible());
 }
 
 TEST_F(SendTest, WhoPrintsStandsInTheOrder) {
@@ -218,29 +136,6 @@ TEST_F(SendTest, WhoPrintsStandsInTheOrder) {
     step->sendOrderAction();
     EXPECT_TRUE(std::get<0>(network.requests.saveOrder.calls.at(0)).printedMyself);
     EXPECT_FALSE(std::get<0>(network.requests.saveOrder.calls.at(1)).printedMyself);
-}
-
-TEST_F(SendTest, OfflineOrdersQueueUnderTheFirstFreeName) {
-    completeDraft();
-    network.reachable = false;
-    open();
-    double price = 2;
-    for (const char* name : {"Sin enviar", "Sin enviar(1)", "Sin enviar(2)"}) {
-        draft().setPrice(PriceType::main, knownFormat, knownBrand, price += 0.1); // another order
-        step->sendOrderAction();
-        ASSERT_TRUE(alertComes());
-        EXPECT_EQ(alert(),
-                  std::string("Sin conexión a internet. | Su pedido ha sido guardado en borradores con el "
-                              "nombre \"") +
-                      name + "\".");
-        press("Aceptar");
-        const auto order = orders.retrieve<Order>(OrderDiskManager::fileName(name), Directory::outbox);
-        ASSERT_TRUE(order);
-        EXPECT_EQ(order->save, OrderRequestType::sendToPrint);
-    }
-    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
-    step->previewAction();
-    EXPECT_EQ(alert(), "Error | No hay conexión a internet.");
 }
 
 TEST_F(SendTest, AnUnchangedOrderWaitsInTheOutboxOnceHoweverOftenItIsTapped) {
@@ -267,82 +162,13 @@ TEST_F(SendTest, AnUnchangedOrderWaitsInTheOutboxOnceHoweverOftenItIsTapped) {
     EXPECT_EQ(tap(), waits);
     EXPECT_EQ(files(), 1U);
 
-    // Sent from here meanwhile, without an answer, it is still the order of the file.
-    network.reachable = true;
-    step->sendOrderAction();
-    network.requests.saveOrder.fail(lostAnswer());
-    press("Aceptar");
-    network.reachable = false;
-    EXPECT_EQ(tap(), waits);
-
     draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
     EXPECT_NE(tap(), waits);
     EXPECT_EQ(files(), 2U);
-    // A file that the user erased waits no longer, and the one that takes its place has the key.
+    // A file that the user erased waits no longer.
     ASSERT_TRUE(orders.remove<Order>("Sin enviar(1).zvo", Directory::outbox));
     EXPECT_NE(tap(), waits);
     EXPECT_EQ(files(), 2U);
-    const auto order = orders.retrieve<KeptOrder>("Sin enviar(1).zvo", Directory::outbox);
-    const auto moment = orders.moment<KeptOrder>("Sin enviar(1).zvo", Directory::outbox);
-    network.reachable = true;
-    step->sendOrderAction();
-    EXPECT_EQ(lastKey(), send_intent::keyOfFile(*order, Directory::outbox, "Sin enviar(1).zvo", *moment));
-}
-
-TEST_F(SendTest, AFileThatCannotBeWrittenIsToldAndSendsNothing) {
-    completeDraft();
-    network.reachable = false;
-    open();
-    std::filesystem::remove_all(folder / "orders");
-    step->sendOrderAction();
-    ASSERT_TRUE(alertComes());
-    EXPECT_EQ(alert(), "Sin conexión a internet. | Su pedido no se ha podido guardar");
-    press("Aceptar");
-    network.reachable = true;
-    draft().fileName = "mi carta";
-    saveAs("otra");
-    ASSERT_TRUE(alertComes());
-    EXPECT_EQ(alert(), "Error al guardar pedido. | Su pedido no se ha podido guardar");
-    EXPECT_EQ(draft().fileName, "mi carta");
-    EXPECT_TRUE(network.requests.saveOrder.calls.empty());
-}
-
-TEST_F(SendTest, AnOrderKeptUnderANameTakesTheServersIdentifiersOnDiskToo) {
-    completeDraft();
-    open();
-    saveAs("");
-    EXPECT_FALSE(draft().fileName);
-    saveAs("mi carta");
-    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
-    SaveBrochuresOrderResponse answer;
-    answer.orderId = 41;
-    answer.customerId = 42;
-    network.requests.saveOrder.succeed(answer);
-    EXPECT_EQ(alert(), "Pedido guardado | El pedido se encuentra guardado en local y sincronizado");
-    press("Aceptar");
-    EXPECT_TRUE(waitFor([&] {
-        const auto stored = orders.retrieve<Order>("mi carta.zvo", Directory::draft);
-        return stored && stored->orderIdentifier == 41 && stored->menu.customer.id == 42;
-    }));
-    EXPECT_EQ(draft().orderIdentifier, 41);
-}
-
-TEST_F(SendTest, WhatCannotBeSynchronisedIsPlannedForLater) {
-    completeDraft();
-    open();
-    network.reachable = false;
-    saveAs("sin red");
-    ASSERT_TRUE(alertComes());
-    EXPECT_EQ(alert(),
-              "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha podido "
-              "sincronizar.");
-    EXPECT_EQ(sync.planned, 1);
-    press("Aceptar");
-    network.reachable = true;
-    saveAs("con fallo");
-    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.fail(failureWith({"motivo"})); }));
-    EXPECT_EQ(alert(), "El pedido no se puede sincronizar | motivo");
-    EXPECT_EQ(sync.planned, 2);
 }
 
 // ---- One order, one key
@@ -373,23 +199,6 @@ TEST_F(SendTest, ASecondTapAfterALostAnswerKeepsTheKeyAndAnAnswerEndsIt) {
     }
 }
 
-TEST_F(SendTest, AnotherContentIsAnotherIntentAndTheFirstIsStillItself) {
-    completeDraft();
-    open().sendOrderAction();
-    const QByteArray first = lastKey();
-    network.requests.saveOrder.fail(lostAnswer());
-    step->previewAction();
-    EXPECT_NE(lastKey(), first);
-    network.requests.saveOrder.fail(failureWith({}));
-    draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
-    step->sendOrderAction();
-    EXPECT_NE(lastKey(), first);
-    network.requests.saveOrder.fail(failureWith({}));
-    draft().setPrice(PriceType::main, knownFormat, knownBrand, 2);
-    step->sendOrderAction();
-    EXPECT_EQ(lastKey(), first);
-}
-
 TEST_F(SendTest, ACloudSaveThatGoesBackToAnEarlierContentIsTakenByTheServer) {
     completeDraft();
     open();
@@ -409,17 +218,6 @@ TEST_F(SendTest, ACloudSaveThatGoesBackToAnEarlierContentIsTakenByTheServer) {
     EXPECT_NE(keys[2], keys[0]) << "the server would only repeat its answer, and keep the second content";
 }
 
-TEST_F(SendTest, TheKeyOutlivesTheProcess) {
-    completeDraft();
-    open().sendOrderAction();
-    const QByteArray first = lastKey();
-    TemporalBrochure::shared().flush();
-    BrochureIntermediateData::replaceTemporalBrochure();
-    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
-    open().sendOrderAction();
-    EXPECT_EQ(lastKey(), first);
-}
-
 TEST_F(SendTest, NeitherTheServersNumbersNorAFileNameMakeAnotherOrder) {
     completeDraft();
     open().sendOrderAction();
@@ -433,6 +231,8 @@ TEST_F(SendTest, NeitherTheServersNumbersNorAFileNameMakeAnotherOrder) {
     stored.customerId = 42;
     network.requests.saveOrder.succeed(stored);
     press("Aceptar");
+    EXPECT_EQ(draft().orderIdentifier, 41);
+    EXPECT_EQ(draft().customerInformation->id, 42);
     step->sendOrderAction();
     EXPECT_EQ(lastKey(), first);
     network.requests.saveOrder.succeed({}); // taken, but nobody says where it is
@@ -483,30 +283,6 @@ TEST_F(SendTest, AnOutboxFileIsTheOrderThatMayBeAtTheServerAndElseOneOfItsOwn) {
     EXPECT_EQ(queue("Sin enviar(1)", &BrochureSendViewController::sendOrderMyselfAction), myself);
 }
 
-// ---- What was sent
-
-TEST_F(SendTest, SavingAnOrderThatWasSentAsksWhetherItBecomesAnother) {
-    completeDraft();
-    draft().orderIdentifier = 7;
-    open().sendOrderAction();
-    SaveBrochuresOrderResponse answer;
-    answer.urlOrder = Url{"http://server.example/order/1"};
-    network.requests.saveOrder.succeed(answer);
-    press("Aceptar");
-    step->saveOrderAction();
-    EXPECT_EQ(alert(), "Atención | Este pedido ya se ha realizado. ¿Desea hacer otro a partir de él?");
-    press("No");
-    EXPECT_FALSE(alerts.isVisible());
-    EXPECT_TRUE(step->isOrderSent());
-    EXPECT_FALSE(temporaryCopy());
-    step->saveOrderAction();
-    press("Sí");
-    EXPECT_FALSE(step->isOrderSent());
-    EXPECT_FALSE(draft().orderIdentifier);
-    EXPECT_TRUE(press("Guardar", "otro"));
-    EXPECT_TRUE(waitFor([&] { return orders.exists<Order>("otro", Directory::draft); }));
-}
-
 TEST_F(SendTest, TheCommentForSupportGoesToTheDraftWhenItsFieldIsLeft) {
     open().finishSupportComment("con cuidado");
     EXPECT_EQ(draft().supportComment, "con cuidado");
@@ -549,7 +325,6 @@ TEST_F(SendTest, AnAnswerToASendThatWasLeftChangesNothing) {
     SaveBrochuresOrderResponse answer;
     answer.orderId = 41;
     answer.urlOrder = Url{"http://server.example/order/1"};
-    answer.urlPDF = Url{"http://server.example/pdf/a.pdf"};
 
     step->sendOrderAction();
     leave();
@@ -560,16 +335,9 @@ TEST_F(SendTest, AnAnswerToASendThatWasLeftChangesNothing) {
     EXPECT_FALSE(step->isOrderSent());
     EXPECT_TRUE(temporaryCopy());
 
-    step->previewAction();
-    leave();
-    network.requests.saveOrder.succeed(answer);
-    EXPECT_FALSE(previewed.isValid());
-
     saveAs("mi carta");
     ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
     leave();
-    EXPECT_EQ(alert(), "Guardado sólo localmente | Su pedido se encuentra guardado en local, pero no se ha "
-                       "podido sincronizar.");
     EXPECT_EQ(sync.planned, 1);
     press("Aceptar");
     network.requests.saveOrder.succeed(answer);

@@ -146,16 +146,6 @@ TEST_F(OrderSyncManagerTest, SendsADraftOnceAtATimeAndANewerSaveAsTheSameOrder) 
     EXPECT_EQ(storedIdentifier("Bar Nube"), 7);
 }
 
-TEST_F(OrderSyncManagerTest, AnOrderWithoutANameStopsTheProcessOnceItIsStored) {
-    saveInFront();
-    clock.advance(std::chrono::seconds(1));
-    EXPECT_EQ(
-        notifications.posted.at(0).body,
-        QStringLiteral("Su pedido sin nombre se sincronizará con la nube cuando tenga conexión a internet."));
-    EXPECT_EXIT(services.requests.saveOrder.succeed(stored(1)), ::testing::ExitedWithCode(stoppedExitStatus),
-                "file name");
-}
-
 TEST_F(OrderSyncManagerTest, ABackgroundRunSendsTwoDraftsThatNeverReachedTheServer) {
     draft("a");
     draft("b");

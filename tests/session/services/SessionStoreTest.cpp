@@ -38,19 +38,6 @@ public:
     SessionStore sessions{session};
 };
 
-TEST_F(SessionStoreTest, ComesBackFromItsFiles) {
-    session.loginResult->showBeerBrochures = false;
-    session.loginResult->notifications = {{"Aviso", {}, "a.png"}};
-    sessions.storeSession();
-    forget();
-    EXPECT_TRUE(SessionStore(session).restoreSession());
-    EXPECT_EQ(session.loginResult->msg, "Hola");
-    EXPECT_EQ(session.loginResult->showBeerBrochures, false);
-    EXPECT_EQ(session.loginResult->showFlyer, std::nullopt);
-    EXPECT_EQ(session.loginResult->notifications->front().image, "a.png");
-    EXPECT_EQ(session.catalogue().product(10)->name, "Roble");
-}
-
 TEST_F(SessionStoreTest, ABrokenFileReadsAsAbsentAndTheLogNamesThePlace) {
     sessions.storeSession();
     folder.put("ZQLOGINRESULT", R"({"msg":1})");

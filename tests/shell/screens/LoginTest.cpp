@@ -116,31 +116,14 @@ TEST_F(Login, TellsTheFirstMessageOfARefusal) {
     EXPECT_FALSE(login.isVeilShown());
     EXPECT_EQ(login.password(), u"wrong");
     EXPECT_FALSE(session.loginResult);
-
-    RequestFailure outdated = failureWith({}, 505);
-    outdated.messages.reset();
-    outdated.error.updateNeeded = {QStringLiteral("Hay una versión nueva"),
-                                   QUrl(QStringLiteral("http://new.example"))};
-    login.loginAction();
-    network.requests.login.fail(outdated);
-    answer(QStringLiteral("Atención"), QStringLiteral("Hay una versión nueva"), 1);
-    EXPECT_EQ(urls.opened, QStringList(QStringLiteral("http://new.example")));
-    EXPECT_FALSE(login.isVeilShown()) << "the user can go on after \"No\"";
-}
-
-TEST_F(Login, AnAnswerWithoutATokenStopsTheProcess) {
-    LoginViewController login(loginServices());
-    type(login, "ana", "secret");
-    login.loginAction();
-    LoginResult answerWithout = rights();
-    answerWithout.token.reset();
-    EXPECT_EXIT(network.requests.login.succeed(answerWithout), ::testing::ExitedWithCode(70), "token");
 }
 
 TEST_F(Login, AUrlLogsInWithItsToken) {
     LoginViewController login(loginServices());
+    session.autoLoginToken = "stale"; // of an address before
     application.openUrl(QStringLiteral("kavor://open?login=eva"));
     EXPECT_EQ(login.email(), u"");
+    EXPECT_FALSE(session.autoLoginToken);
     application.openUrl(QStringLiteral("kavor://open?login=eva&token=once"));
     EXPECT_EQ(login.email(), u"eva");
     ASSERT_EQ(network.requests.login.calls.size(), 1U);
@@ -149,13 +132,6 @@ TEST_F(Login, AUrlLogsInWithItsToken) {
     EXPECT_FALSE(parameters.password);
     EXPECT_EQ(parameters.token, QStringLiteral("once"));
     EXPECT_TRUE(login.isLoginEnabled()) << "this way leaves the button alone";
-}
-
-TEST_F(Login, BothHelpersOpenTheSamePage) {
-    LoginViewController login(loginServices());
-    login.resetPasswordAction();
-    login.activateUserAction();
-    EXPECT_EQ(urls.opened, QStringList(2, QStringLiteral("http://server.example/forgotten")));
 }
 
 TEST_F(Login, AnAnswerToALoginThatWasLeftChangesNothing) {
@@ -212,6 +188,7 @@ TEST_F(Login, ALinkThatCannotBeOpenedIsToldWithItsAddress) {
     answer(QStringLiteral("Atención"), QStringLiteral("nueva"), 1);
     answer(QStringLiteral("Atención"),
            QStringLiteral("No se ha podido abrir el enlace:\nhttp://new.example"));
+    EXPECT_FALSE(login.isVeilShown()) << "the user can go on";
 }
 
 } // namespace kavor

@@ -9,6 +9,13 @@ namespace kavor {
 
 namespace {
 
+// Counts how often it comes on show.
+class SeenScreen : public ScreenController {
+public:
+    int seen = 0;
+    void viewWillAppear() override { ++seen; }
+};
+
 // The screens on top of each other, without a window.
 class Roots : public ShellTest {
 protected:
@@ -68,6 +75,18 @@ TEST_F(Roots, TheWayFromTheLoginToASectionAndBack) {
     EXPECT_EQ(root.login()->password(), u"");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(root.welcome());
+}
+
+TEST(ScreenStack, ASecondTapOnBackDoesNotShowTheScreenBelowOnceMore) {
+    ScreenStack stack;
+    auto* below = new SeenScreen;
+    auto* above = new SeenScreen;
+    stack.push({{}, below});
+    stack.push({{}, above});
+    emit above->closed();
+    emit above->closed();
+    EXPECT_EQ(stack.rowCount(), 1);
+    EXPECT_EQ(below->seen, 2);
 }
 
 TEST_F(Roots, TheAutomaticLoginRefreshesTheDashboardItShows) {

@@ -14,7 +14,7 @@ void ChalkboardForm::load() {
     blackboardTypes_ = PickerRows();
     blackboardTypes_.appendByPosition(context_.catalogue->brochures().blackboardTypes);
     if (isOrientationPaneVisible())
-        orientationElements_.show(context_.catalogue, context_.draft);
+        orientationElements_.show(*context_.catalogue, context_.draft);
 }
 
 void ChalkboardForm::serialize() {

@@ -44,21 +44,9 @@ QString HighlightZone::setUp(const std::shared_ptr<BrochureIntermediateData>& dr
 }
 
 void HighlightZone::setRows(const std::vector<PriceRow>& rows) {
-    std::vector<PriceRow> wanted;
+    std::vector<PriceRow> wanted(1);
     std::ranges::copy_if(rows, std::back_inserter(wanted), &PriceRow::isHighlightable);
-    const int before = int(highlightableProducts_.size());
-    const int after = int(wanted.size());
-    if (after < before)
-        beginRemoveRows({}, after + 1, before);
-    else if (after > before)
-        beginInsertRows({}, before + 1, after);
-    highlightableProducts_ = std::move(wanted);
-    if (after < before) {
-        endRemoveRows();
-    } else if (after > before) {
-        endInsertRows();
-    }
-    emit dataChanged(index(0), index(after));
+    entries_.show(std::move(wanted));
 }
 
 void HighlightZone::runSpacesTest() {
@@ -84,7 +72,7 @@ bool HighlightZone::isHighlighted(const PriceRow& row) const {
 }
 
 void HighlightZone::findHighlight(QString& message) {
-    const auto& rows = highlightableProducts_;
+    const auto rows = highlightableProducts();
     const auto highlighted =
         std::ranges::find_if(rows, [this](const PriceRow& row) { return isHighlighted(row); });
     if (highlighted != rows.end()) {
@@ -141,7 +129,7 @@ void HighlightZone::scrollTo(int index, bool animated) {
 }
 
 void HighlightZone::carouselCurrentItemIndexDidChange(int index) {
-    if (index < 0 || index > int(highlightableProducts_.size()) || !isCarouselEnabled())
+    if (index < 0 || index > int(highlightableProducts().size()) || !isCarouselEnabled())
         return;
     if (std::exchange(currentIndex_, index) != index)
         applyCurrentEntry();
@@ -150,10 +138,10 @@ void HighlightZone::carouselCurrentItemIndexDidChange(int index) {
 void HighlightZone::applyCurrentEntry() {
     if (currentIndex_ == 0) {
         highlightedLabel_ = withoutHighlight;
-        for (const PriceRow& row : highlightableProducts_)
+        for (const PriceRow& row : highlightableProducts())
             draft_->setFormatHighlighted(false, row.productIdentifier, row.brandIdentifier);
     } else {
-        const PriceRow& row = highlightableProducts_[std::size_t(currentIndex_) - 1];
+        const PriceRow& row = *entries_.at(currentIndex_);
         highlightedLabel_ = nameOf(row);
         draft_->setFormatHighlighted(true, row.productIdentifier, row.brandIdentifier);
     }
@@ -171,23 +159,19 @@ QString HighlightZone::informationCarouselLabel() const {
     return QStringLiteral("Seleccione el producto que desee destacar");
 }
 
-int HighlightZone::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(highlightableProducts_.size()) + 1;
-}
-
 QVariant HighlightZone::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || index.row() >= rowCount())
+    const PriceRow* row = entries_.at(index);
+    if (!row)
         return {};
     if (index.row() == 0)
         return role == TextRole ? QVariant(QStringLiteral("Sin destacado")) : QVariant(QString());
-    const PriceRow& row = highlightableProducts_[std::size_t(index.row()) - 1];
     switch (role) {
     case TextRole:
-        return fromUtf8(row.brandName);
+        return fromUtf8(row->brandName);
     case DetailRole:
-        return fromUtf8(row.productName);
+        return fromUtf8(row->productName);
     case ImageRole:
-        return resourceImageUrl(row.productImage);
+        return resourceImageUrl(row->productImage);
     default:
         return {};
     }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "brochures/wizard/prices/PriceRow.h"
-
-#include <QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
+#include "screens/RowListModel.h"
 
 #include <memory>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace kavor {
@@ -15,7 +15,7 @@ class Catalogue;
 
 // The zone of the prices step in which one format is highlighted, by a carousel. As a list it holds the
 // carousel's entries: entry 0 is "no highlight", entry i + 1 the highlightable row i.
-class HighlightZone : public QAbstractListModel {
+class HighlightZone : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the prices step")
@@ -35,7 +35,7 @@ class HighlightZone : public QAbstractListModel {
 public:
     enum Role { TextRole = Qt::UserRole + 1, DetailRole, ImageRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
     // Whether the kind highlights at all, the places that a highlight takes and the most brands that fit.
     void configure(bool isHighlightable, Int numberOfSelectionSpacesOnHighlight, Int maximumNumberOfProducts);
@@ -52,19 +52,18 @@ public:
 
     [[nodiscard]] bool isZoneVisible() const { return isHighlightable_; }
     [[nodiscard]] bool isCarouselVisible() const {
-        return isHighlightable_ && !highlightableProducts_.empty();
+        return isHighlightable_ && !highlightableProducts().empty();
     }
     [[nodiscard]] bool isCarouselEnabled() const { return missingSpaces_ <= 0; }
     [[nodiscard]] bool isRemoveHighlightVisible() const;
     [[nodiscard]] bool isWithoutHighlightedProductsVisible() const {
-        return isHighlightable_ && highlightableProducts_.empty();
+        return isHighlightable_ && highlightableProducts().empty();
     }
     [[nodiscard]] bool isFirstInformationVisible() const { return isHighlightable_ && missingSpaces_ > 0; }
     [[nodiscard]] QString informationCarouselLabel() const;
     [[nodiscard]] QString brandAndProductHighlightedLabel() const { return highlightedLabel_; }
     [[nodiscard]] int currentIndex() const { return currentIndex_; }
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -76,6 +75,15 @@ signals:
     void highlightDidChange();
 
 private:
+    struct Key {
+        std::pair<Int, Int> operator()(const PriceRow& row) const {
+            return {row.brandIdentifier, row.productIdentifier};
+        }
+    };
+
+    [[nodiscard]] std::span<const PriceRow> highlightableProducts() const {
+        return std::span(entries_.all()).subspan(entries_.all().empty() ? 0 : 1);
+    }
     void setRows(const std::vector<PriceRow>& rows);
     void runSpacesTest();
     void findHighlight(QString& message);
@@ -84,8 +92,8 @@ private:
     [[nodiscard]] bool isHighlighted(const PriceRow& row) const;
 
     std::shared_ptr<BrochureIntermediateData> draft_;
-    const Catalogue* catalogue_ = nullptr; // the step's, as long as it is on show
-    std::vector<PriceRow> highlightableProducts_;
+    const Catalogue* catalogue_ = nullptr;  // the step's, as long as it is on show
+    RowList<PriceRow, Key> entries_{*this}; // the first one is no row's
     bool isHighlightable_ = false;
     Int numberOfSelectionSpacesOnHighlight_ = 0;
     Int maximumNumberOfProducts_ = 0;
