@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+
+namespace kavor {
+
+// The names of the brochure drafts that the server has in an older version, because the last save could only
+// be made on the device: the state file "draftsWithChanges". Kept without waiting for the disk. Main thread
+// only.
+class DraftsWithChanges {
+public:
+    static DraftsWithChanges& shared();
+
+    [[nodiscard]] const std::set<std::string>& names();
+    // The file of this plain name holds what the server does not have.
+    void add(const std::string& plainName);
+    // The server has it, or the file is gone.
+    void remove(const std::string& plainName);
+    // Reads the state file anew at the next use.
+    void forget() { names_.reset(); }
+
+private:
+    DraftsWithChanges() = default;
+    void write();
+
+    std::optional<std::set<std::string>> names_;
+};
+
+} // namespace kavor
