@@ -79,8 +79,8 @@ public:
     void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done) override;
     void sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,
                       Completion<SimpleResponse> done) override;
-    void createTextileOrder(const SaveTextileOrder& order,
-                            Completion<SaveTextileOrderResponse> done) override;
+    void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,
+                            const QByteArray& idempotencyKey = {}) override;
     void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) override;
     void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) override;
     void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) override;

@@ -206,9 +206,12 @@ void NetworkManager::sendRawOrder(const SaveBrochuresOrder& order, const QString
 // ---- The other orders
 
 void NetworkManager::createTextileOrder(const SaveTextileOrder& order,
-                                        Completion<SaveTextileOrderResponse> done) {
-    request(postingRecord("createTextileOrder", urlOf(networkConfiguration_.urls.createTextileOrder), order),
-            done);
+                                        Completion<SaveTextileOrderResponse> done,
+                                        const QByteArray& idempotencyKey) {
+    auto operation =
+        postingRecord("createTextileOrder", urlOf(networkConfiguration_.urls.createTextileOrder), order);
+    operation.idempotencyKey = idempotencyKey;
+    request(operation, done);
 }
 
 void NetworkManager::retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) {

@@ -149,7 +149,8 @@ public:
     virtual void sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,
                               Completion<SimpleResponse> done) = 0;
     virtual void createTextileOrder(const SaveTextileOrder& order,
-                                    Completion<SaveTextileOrderResponse> done) = 0;
+                                    Completion<SaveTextileOrderResponse> done,
+                                    const QByteArray& idempotencyKey = {}) = 0;
     virtual void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) = 0;
     virtual void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) = 0;
     virtual void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) = 0;

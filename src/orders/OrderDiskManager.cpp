@@ -18,6 +18,9 @@ namespace {
 constexpr std::array<std::string_view, 3> recordNames{"SellingSheetOrder", "SaveBrochuresOrder",
                                                       "SaveTextileOrder"};
 
+// Of a file that was deleted and may still be brought back; as long as that of an order.
+constexpr std::string_view asideExtension = ".del";
+
 std::string_view directoryText(OrderDiskManager::DirectoryName directory) {
     return directory == OrderDiskManager::DirectoryName::draft ? "draft_orders" : "outbox_orders";
 }
@@ -48,6 +51,7 @@ OrderDiskManager::OrderDiskManager(std::filesystem::path documentsFolder, Openin
             if (const auto made = atomic_file::makeFolder(path); !made)
                 stopProcess("orders folder: " + made.error().text());
             atomic_file::sweepTemporaries(path);
+            sweepSetAside(path);
         }
     }
     atomic_file::sweepTemporaries(documents_);
@@ -167,6 +171,40 @@ std::vector<OrderDiskManager::Listing> OrderDiskManager::listOf(const Path& path
                           {status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec}});
     }
     return result;
+}
+
+std::string OrderDiskManager::asideName(std::string_view fileName) {
+    return plainName(fileName) + std::string(asideExtension);
+}
+
+bool OrderDiskManager::moveAside(const Path& folder, std::string_view fileName) {
+    const auto from = orderPath(folder, fileName);
+    const auto to = orderPath(folder, asideName(fileName));
+    if (!from || !to)
+        return false;
+    const auto moved = atomic_file::move(*from, *to);
+    if (!moved)
+        logLine("Error occurred when deleting file \"" + from->string() + "\" " + moved.error().reason);
+    return moved.has_value();
+}
+
+bool OrderDiskManager::moveBack(const Path& folder, std::string_view fileName) {
+    const auto from = orderPath(folder, asideName(fileName));
+    const auto to = orderPath(folder, fileName);
+    if (!from || !to || momentOf(folder, fileName))
+        return false;
+    const auto moved = atomic_file::move(*from, *to);
+    if (!moved)
+        logLine(moved.error().text());
+    return moved.has_value();
+}
+
+void OrderDiskManager::sweepSetAside(const Path& folder) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        if (entry.path().extension() == asideExtension)
+            removeFrom(folder, entry.path().filename().string());
+    }
 }
 
 bool OrderDiskManager::removeFrom(const Path& folder, std::string_view fileName) {

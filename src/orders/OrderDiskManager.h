@@ -96,6 +96,22 @@ public:
         return removeFrom(folder(Order::folderName, directory), fileName);
     }
 
+    // Takes a file out of its folder's list so that it can be brought back as it was; the next start of an
+    // owner removes it for good. False when that could not be done, and the file stays.
+    template <class Order>
+    bool setAside(std::string_view fileName, DirectoryName directory) const {
+        return moveAside(folder(Order::folderName, directory), fileName);
+    }
+    // False when nothing was set aside under the name, or when it is taken by now.
+    template <class Order>
+    bool bringBack(std::string_view fileName, DirectoryName directory) const {
+        return moveBack(folder(Order::folderName, directory), fileName);
+    }
+    template <class Order>
+    bool removeSetAside(std::string_view fileName, DirectoryName directory) const {
+        return removeFrom(folder(Order::folderName, directory), asideName(fileName));
+    }
+
     // The plain name of a file name.
     static std::string plainName(std::string_view fileName);
     static std::string fileName(std::string_view plainName);
@@ -116,6 +132,10 @@ private:
     static std::optional<Moment> momentOf(const Path& folder, std::string_view fileName);
     [[nodiscard]] std::vector<Listing> listOf(const Path& folder, DirectoryName directory) const;
     static bool removeFrom(const Path& folder, std::string_view fileName);
+    static std::string asideName(std::string_view fileName);
+    static bool moveAside(const Path& folder, std::string_view fileName);
+    static bool moveBack(const Path& folder, std::string_view fileName);
+    static void sweepSetAside(const Path& folder);
 
     std::filesystem::path documents_;
     Opening opening_;

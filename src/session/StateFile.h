@@ -16,6 +16,7 @@ inline constexpr std::string_view loginResult = "ZQLOGINRESULT";
 inline constexpr std::string_view applicationInformation = "ZQAPPLICATIONINFORMATION";
 inline constexpr std::string_view netPrices = "netPrices";
 inline constexpr std::string_view temporalBrochure = "temporalBrochure";
+inline constexpr std::string_view draftsWithChanges = "draftsWithChanges";
 // The lock of the client that is running over the folder.
 inline constexpr std::string_view clientLock = "kavor.lock";
 

@@ -110,7 +110,7 @@ public:
         FakeOperation<MessageResponse, Int, QString> claimOrder;
         FakeOperation<DemandBrandQrErrorResponse, BrandQrDemand> demandBrandQr;
         FakeOperation<SimpleResponse, SaveBrochuresOrder, QString> sendRawOrder;
-        FakeOperation<SaveTextileOrderResponse, SaveTextileOrder> createTextileOrder;
+        FakeOperation<SaveTextileOrderResponse, SaveTextileOrder, QByteArray> createTextileOrder;
         FakeOperation<RetrieveTextileOrderResponse, Int> retrieveTextileOrder;
         FakeOperation<GenericOrderResponse, PromotionOrder> promotionOrderSend;
         FakeOperation<SellingSheetOrderListResponse> sellingSheetOrderList;
@@ -181,9 +181,9 @@ public:
                       Completion<SimpleResponse> done) override {
         requests.sendRawOrder.called(std::move(done), order, fileName);
     }
-    void createTextileOrder(const SaveTextileOrder& order,
-                            Completion<SaveTextileOrderResponse> done) override {
-        requests.createTextileOrder.called(std::move(done), order);
+    void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,
+                            const QByteArray& idempotencyKey = {}) override {
+        requests.createTextileOrder.called(std::move(done), order, idempotencyKey);
     }
     void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) override {
         requests.retrieveTextileOrder.called(std::move(done), orderId);

@@ -141,6 +141,7 @@ public:
     std::vector<SaveBrochuresOrder::Menu::ProductPennant> productPennant;
     bool defaultHighlightedElementVisited = false;
     std::optional<std::string> fileName; // plain name of the order's file
+    std::optional<std::string> outboxFile; // plain name of the file of the outbox that it was opened from
     std::optional<Int> orderIdentifier;
     // The "Tmp" fields are the working values of the four switches on the screens; only the plain ones
     // decide.
@@ -275,8 +276,7 @@ public:
     // that the catalogue lacks, or has under another number, is built again from the document and enters the
     // catalogue. Deletes the temporary copy on disk. The file name is the caller's to set.
     void loadOrder(const SaveBrochuresOrder& order);
-    // One line for the user that counts and names the brands (or formats of them) that fell out of the order
-    // loaded, once: empty when nothing did, and after the first call.
+    // What fellOutText says of the order loaded, once: empty when nothing fell out, and after the first call.
     [[nodiscard]] std::string takeFallenOut();
     // Keeps the net prices for the drafts to come.
     void storeNetPrices() const;

@@ -1,6 +1,7 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/EngineSession.h"
+#include "brochures/engine/OrderToEdit.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "catalogue/OwnBrand.h"
 
@@ -276,7 +277,10 @@ void BrochureIntermediateData::loadBrand(Int identifier, const BeerBrand& brand,
 }
 
 std::string BrochureIntermediateData::takeFallenOut() {
-    const auto names = std::exchange(fallenOut_, {});
+    return fellOutText(std::exchange(fallenOut_, {}));
+}
+
+std::string fellOutText(const std::vector<std::string>& names) {
     if (names.empty())
         return {};
     std::string text = names.size() == 1

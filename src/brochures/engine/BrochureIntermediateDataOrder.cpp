@@ -187,6 +187,7 @@ KeptOrder BrochureIntermediateData::keptOrder(OrderRequestType save, bool valida
     KeptOrder order{makeOrder(save, validate)};
     if (!unansweredSends.empty())
         order.unansweredSends = unansweredSends;
+    order.outboxFile = outboxFile;
     return order;
 }
 

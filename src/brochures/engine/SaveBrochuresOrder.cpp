@@ -17,7 +17,9 @@ template <>
 struct Table<KeptOrder> {
     static constexpr auto fields =
         std::tuple_cat(Table<SaveBrochuresOrder>::fields,
-                       std::tuple{optional("unanswered_sends", &KeptOrder::unansweredSends)});
+                       std::tuple{optional("unanswered_sends", &KeptOrder::unansweredSends),
+                                  optional("outbox_file", &KeptOrder::outboxFile),
+                                  optional("prints_myself", &KeptOrder::printsMyself)});
 };
 
 template <>

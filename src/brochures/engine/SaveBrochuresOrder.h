@@ -164,10 +164,13 @@ struct SaveBrochuresOrderResponse {
     std::optional<std::string> message;
 };
 
-// The order as a file keeps it: beside its keys, the sends of it that nobody has answered yet, so that they
-// outlive the process.
+// The order as a file keeps it: beside its keys, what must outlive the process.
 struct KeptOrder : SaveBrochuresOrder {
     std::optional<UnansweredSends> unansweredSends = std::nullopt; // absent rather than empty
+    // The plain name of the file of the outbox that the draft in work was opened from.
+    std::optional<std::string> outboxFile = std::nullopt;
+    // Who prints an order of the outbox. A draft is asked anew, so "printed_myself" is never read back.
+    std::optional<bool> printsMyself = std::nullopt;
 };
 
 // The body of "sendRawOrder": the order and the name of its file beside its keys.

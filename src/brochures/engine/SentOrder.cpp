@@ -33,6 +33,7 @@ void beginAnotherOrder(BrochureIntermediateData& draft) {
     draft.sent.reset();
     draft.orderIdentifier.reset();
     draft.fileName.reset();
+    draft.outboxFile.reset();
 }
 
 const std::shared_ptr<BrochureIntermediateData>& restoreSentOrder() {

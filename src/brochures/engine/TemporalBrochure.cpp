@@ -59,6 +59,7 @@ bool TemporalBrochure::restoreDraft() {
         draft->loadOrder(order);
         draft->fileName = order.filename; // the copy has no file of its own to be named after
         draft->unansweredSends = order.unansweredSends.value_or(UnansweredSends());
+        draft->outboxFile = order.outboxFile;
         return holdsWork(*draft);
     };
     const bool cameBack = bringBack(kindName(*kind), load, inMemory != kind);

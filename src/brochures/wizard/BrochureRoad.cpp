@@ -4,6 +4,9 @@
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStep.h"
+#include "interaction/AlertPresenter.h"
+#include "orders/DraftsWithChanges.h"
+#include "orders/services/SentFiles.h"
 
 #include <utility>
 
@@ -26,6 +29,7 @@ QUrl qurl(const std::string& url) {
 BrochureRoad::BrochureRoad(const WizardServices& services, std::shared_ptr<BrochureIntermediateData> draft)
     : FiledOrderRoad({services.network, services.alerts, services.urls}, services.orders, brochureTexts())
     , network_(services.network)
+    , orders_(services.orders)
     , sync_(services.sync)
     , draft_(std::move(draft)) {}
 
@@ -75,11 +79,31 @@ OrderAnswer BrochureRoad::read(const Answer& answer) const {
 
 void BrochureRoad::takeSent(const Answer& answer) {
     TemporalBrochure::shared().removeAll();
+    removeFilesOfSent(make(OrderRequestType::saveCloud));
+    draft_->outboxFile.reset();
     markSent(*draft_, answer.urlOrder->text);
+}
+
+// The order is no draft any more, nor does it wait.
+void BrochureRoad::removeFilesOfSent(const SaveBrochuresOrder& sent) {
+    const auto waiting = draft_->outboxFile;
+    const auto texts = this->texts();
+    runInBackground(
+        &alerts(),
+        [&orders = orders_, sent, waiting] {
+            sent_files::removeDraft(orders, sent);
+            return !waiting || orders.remove<Order>(OrderDiskManager::fileName(*waiting), Directory::outbox);
+        },
+        [&alerts = alerts(), &orders = orders_, sent, texts](bool gone) {
+            sent_files::forgetChanges(orders, sent);
+            if (!gone)
+                alerts.inform(texts.fileStaysTitle, texts.fileStays);
+        });
 }
 
 KeptOrder BrochureRoad::keep(Order order, const UnansweredSends& unanswered) const {
     KeptOrder kept{std::move(order)};
+    kept.printsMyself = kept.printedMyself ? std::optional(true) : std::nullopt;
     if (!unanswered.empty())
         kept.unansweredSends = unanswered;
     return kept;
@@ -87,6 +111,20 @@ KeptOrder BrochureRoad::keep(Order order, const UnansweredSends& unanswered) con
 
 std::optional<std::string>& BrochureRoad::fileName() {
     return draft_->fileName;
+}
+
+std::optional<std::string> BrochureRoad::outboxFile() const {
+    return draft_->outboxFile;
+}
+
+// Without a number the server has no other version, and the next run sends this one.
+void BrochureRoad::noteKeptLocally(const std::string& plainName) {
+    if (draft_->orderIdentifier)
+        DraftsWithChanges::shared().add(plainName);
+}
+
+void BrochureRoad::noteUploaded(const std::string& plainName) {
+    DraftsWithChanges::shared().remove(plainName);
 }
 
 void BrochureRoad::takeSaved(const Answer& answer) {

@@ -35,11 +35,17 @@ protected:
     void takeSent(const Answer& answer) override;
     [[nodiscard]] KeptOrder keep(Order order, const UnansweredSends& unanswered) const override;
     [[nodiscard]] std::optional<std::string>& fileName() override;
+    [[nodiscard]] std::optional<std::string> outboxFile() const override;
+    void noteKeptLocally(const std::string& plainName) override;
+    void noteUploaded(const std::string& plainName) override;
     void takeSaved(const Answer& answer) override;
     void beginAnotherOrder() override;
 
 private:
+    void removeFilesOfSent(const SaveBrochuresOrder& sent);
+
     ServiceOperations& network_;
+    const OrderDiskManager& orders_;
     OrderSync& sync_;
     std::shared_ptr<BrochureIntermediateData> draft_;
 };

@@ -1,6 +1,8 @@
 #include "orders/list/DraftOrderRows.h"
 
 #include "base/StopProcess.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <algorithm>
 #include <functional>
@@ -26,11 +28,11 @@ SectionIdentifier sectionOf(const SaveTextileOrder& order) {
     return SectionIdentifier::textile(order.orderInformation.applicationType);
 }
 
-void keep(DraftOrderRow& row, SaveBrochuresOrder order) {
-    row.brochureOrder = std::move(order);
+DraftOrderRow::LocalOrder localOrderOf(const SaveBrochuresOrder& order) {
+    return {order.orderIdentifier, order.menu.customer.name};
 }
-void keep(DraftOrderRow& row, SaveTextileOrder order) {
-    row.textileOrder = std::move(order);
+DraftOrderRow::LocalOrder localOrderOf(const SaveTextileOrder& order) {
+    return {order.orderIdentifier, order.customer ? order.customer->name.value_or("") : std::string()};
 }
 
 template <class Order>
@@ -43,7 +45,7 @@ void appendFiles(std::vector<DraftOrderRow>& rows, const OrderDiskManager& order
             stopProcess("order file " + file.fileName + " that can be read");
         DraftOrderRow row;
         row.sectionIdentifier = sectionOf(*order);
-        keep(row, std::move(*order));
+        row.localOrder = localOrderOf(*order);
         row.filename = OrderDiskManager::plainName(file.fileName);
         row.state = directory;
         row.date = file.modificationDate;
@@ -78,18 +80,25 @@ std::unordered_map<Int, const Order*> byId(const std::optional<std::vector<Order
     return index;
 }
 
-// A row's state stands in its records too, for whoever holds only those.
+// A row's state stands in the server's orders too, for whoever holds only those.
 void placeStates(std::vector<DraftOrderRow>& rows) {
     for (DraftOrderRow& row : rows) {
-        const auto place = [&row](auto& record) {
-            if (record)
-                record->syncState = row.syncState;
-        };
-        place(row.brochureOrder);
-        place(row.textileOrder);
-        place(row.brochureServerOrder);
-        place(row.textileServerOrder);
+        if (row.brochureServerOrder)
+            row.brochureServerOrder->syncState = row.syncState;
+        if (row.textileServerOrder)
+            row.textileServerOrder->syncState = row.syncState;
     }
+}
+
+// Of a section that has rows: a kind of brochure, or one of textile.
+Int numberOf(const SectionIdentifier& section) {
+    const auto brochure = section.brochureType();
+    return brochure ? static_cast<Int>(*brochure) : static_cast<Int>(std::get<ApplicationType>(section.value));
+}
+
+std::string keyOf(const SectionIdentifier& section, Int serverId) {
+    return (section.brochureType() ? "brochure " : "textile ") + std::to_string(numberOf(section)) + " #" +
+           std::to_string(serverId);
 }
 
 } // namespace
@@ -102,13 +111,34 @@ std::optional<Int> DraftOrderRow::serverId() const {
     return std::nullopt;
 }
 
+std::optional<OrderFile> DraftOrderRow::file() const {
+    if (!state)
+        return std::nullopt;
+    const auto kind = sectionIdentifier.brochureType() ? OrderFile::Kind::Brochure : OrderFile::Kind::Textile;
+    return OrderFile{kind, *state, filename};
+}
+
+std::string DraftOrderRow::key() const {
+    if (!state)
+        return keyOf(sectionIdentifier, serverId().value_or(0));
+    return std::string(sectionIdentifier.brochureType() ? "brochure" : "textile") +
+           (*state == DirectoryName::draft ? "/draft/" : "/outbox/") + filename;
+}
+
+std::string DraftOrderRow::pointOfSale() const {
+    if (localOrder && !localOrder->pointOfSale.empty())
+        return localOrder->pointOfSale;
+    if (brochureServerOrder)
+        return brochureServerOrder->pdv.value_or("");
+    return textileServerOrder ? textileServerOrder->pdv.value_or("") : std::string();
+}
+
 void DraftOrderRows::rebuildLocalRows(const OrderDiskManager& orders) {
     draftsOrderList_.clear();
     appendFiles<SaveBrochuresOrder>(draftsOrderList_, orders, DirectoryName::draft);
     appendFiles<SaveBrochuresOrder>(draftsOrderList_, orders, DirectoryName::outbox);
     appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::draft);
     appendFiles<SaveTextileOrder>(draftsOrderList_, orders, DirectoryName::outbox);
-    placeStates(draftsOrderList_);
     sortRows();
 }
 
@@ -128,6 +158,11 @@ void DraftOrderRows::applyAnswer(const OrderList& answer) {
     dropDuplicates();
     placeStates(draftsOrderList_);
     sortRows();
+}
+
+void DraftOrderRows::applyQuickFilter(const OrderList& answer) {
+    sentBrochureOrders_ = answer.orders.value_or(std::vector<OrderList::Order>());
+    sortNewestFirst(sentBrochureOrders_);
 }
 
 // A search asks again without new local rows: what the last answer brought must not show twice.
@@ -163,11 +198,10 @@ void DraftOrderRows::mergeLocalRows(const OrderList& answer) {
     for (DraftOrderRow& row : draftsOrderList_) {
         if (row.syncState != OrderSyncState::savedLocally)
             continue;
-        const auto id =
-            row.brochureOrder ? row.brochureOrder->orderIdentifier : row.textileOrder->orderIdentifier;
+        const auto id = row.localOrder->orderIdentifier;
         if (!id)
             continue;
-        if (row.brochureOrder) {
+        if (row.sectionIdentifier.brochureType()) {
             const auto found = brochures.find(*id);
             if (found == brochures.end())
                 continue;
@@ -183,21 +217,38 @@ void DraftOrderRows::mergeLocalRows(const OrderList& answer) {
 }
 
 void DraftOrderRows::dropDuplicates() {
-    std::set<std::pair<std::string, Int>> synced;
-    const auto key = [](const DraftOrderRow& row) {
-        const auto& section = row.sectionIdentifier.value;
-        const Int kind = row.sectionIdentifier.brochureType()
-                             ? static_cast<Int>(*row.sectionIdentifier.brochureType())
-                             : static_cast<Int>(std::get<ApplicationType>(section));
-        return std::pair(std::to_string(section.index()) + ":" + std::to_string(kind), *row.serverId());
-    };
+    std::set<std::string> synced;
     for (const DraftOrderRow& row : draftsOrderList_) {
         if (row.syncState == OrderSyncState::synced)
-            synced.insert(key(row));
+            synced.insert(keyOf(row.sectionIdentifier, *row.serverId()));
     }
     std::erase_if(draftsOrderList_, [&](const DraftOrderRow& row) {
-        return row.syncState == OrderSyncState::cloud && synced.contains(key(row));
+        return row.syncState == OrderSyncState::cloud && synced.contains(row.key());
     });
+}
+
+const DraftOrderRow* DraftOrderRows::find(const std::string& key) const {
+    const auto found = std::ranges::find(draftsOrderList_, key, &DraftOrderRow::key);
+    return found == draftsOrderList_.end() ? nullptr : &*found;
+}
+
+const OrderList::Order* DraftOrderRows::findSent(Int id) const {
+    const auto found = std::ranges::find(sentBrochureOrders_, id, &OrderList::Order::id);
+    return found == sentBrochureOrders_.end() ? nullptr : &*found;
+}
+
+void DraftOrderRows::changeSent(Int id, std::optional<bool> canDemandQr, std::optional<OrderState> state,
+                                const std::optional<std::string>& stateName) {
+    const auto found = std::ranges::find(sentBrochureOrders_, id, &OrderList::Order::id);
+    if (found == sentBrochureOrders_.end())
+        return;
+    found->canDemandQr = canDemandQr.value_or(found->canDemandQr);
+    found->stateId = state.value_or(found->stateId);
+    found->state = stateName.value_or(found->state);
+}
+
+void DraftOrderRows::remove(const std::string& key) {
+    std::erase_if(draftsOrderList_, [&](const DraftOrderRow& row) { return row.key() == key; });
 }
 
 void DraftOrderRows::clearSentOrders() {

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "brochures/engine/SaveBrochuresOrder.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/OrderFile.h"
 #include "orders/OrderList.h"
 #include "session/SectionIdentifier.h"
-#include "textile/SaveTextileOrder.h"
 
 #include <optional>
 #include <string>
@@ -14,8 +13,14 @@ namespace kavor {
 
 // One row of the list of drafts: a file on the device, an order in the server's cloud, or both.
 struct DraftOrderRow {
-    std::optional<SaveBrochuresOrder> brochureOrder;
-    std::optional<SaveTextileOrder> textileOrder;
+    // What is shown of a file's record, which itself is read anew whenever it is used.
+    struct LocalOrder {
+        std::optional<Int> orderIdentifier;
+        std::string pointOfSale;
+        bool operator==(const LocalOrder&) const = default;
+    };
+
+    std::optional<LocalOrder> localOrder;
     std::optional<OrderList::Order> brochureServerOrder;
     std::optional<OrderList::OrderTextile> textileServerOrder;
     std::string filename;                                 // plain
@@ -27,6 +32,12 @@ struct DraftOrderRow {
 
     // The server's id of a row that has a server order.
     [[nodiscard]] std::optional<Int> serverId() const;
+    // The file of a row that has one.
+    [[nodiscard]] std::optional<OrderFile> file() const;
+    // By this an action finds the row again: the file's folder and name, or section and number.
+    [[nodiscard]] std::string key() const;
+    // Of the customer in the file, else of the server's order; empty without any.
+    [[nodiscard]] std::string pointOfSale() const;
 };
 
 // The lists behind the order screen: drafts of the device merged with the server's cloud orders, and the
@@ -42,6 +53,10 @@ public:
     // the process.
     void applyAnswer(const OrderList& answer);
 
+    // Takes in the answer of a quick filter: its brochures take the place of those sent, in any state; nothing
+    // else changes.
+    void applyQuickFilter(const OrderList& answer);
+
     // Empties the sent lists.
     void clearSentOrders();
     // Newest first; orders of one moment keep their places.
@@ -56,6 +71,14 @@ public:
         return sentTextileOrders_;
     }
     [[nodiscard]] const OrderList::Summary& summary() const { return summary_; }
+    // Nothing when the row is gone.
+    [[nodiscard]] const DraftOrderRow* find(const std::string& key) const;
+    [[nodiscard]] const OrderList::Order* findSent(Int id) const;
+    // The server has given the order another state, or said whether its QR material can be asked for again.
+    void changeSent(Int id, std::optional<bool> canDemandQr, std::optional<OrderState> state,
+                    const std::optional<std::string>& stateName);
+    // Takes a row out, until the lists are made anew.
+    void remove(const std::string& key);
 
 private:
     void forgetFormerAnswer();

@@ -65,6 +65,11 @@ protected:
     virtual void takeSaved(const Answer& answer) = 0;
     // The draft that was sent goes on as another order.
     virtual void beginAnotherOrder() = 0;
+    // The file of the outbox that the draft was opened from.
+    [[nodiscard]] virtual std::optional<std::string> outboxFile() const { return std::nullopt; }
+    // The draft was kept under a name and the server does not have it so; or has it so by now.
+    virtual void noteKeptLocally(const std::string&) {}
+    virtual void noteUploaded(const std::string&) {}
     // Whether the user is asked before the file of this name, which is there, is written over.
     [[nodiscard]] virtual bool asksToOverwrite(const std::string&) { return true; }
 
@@ -75,8 +80,8 @@ protected:
         // What may be at the server already goes by the key under which it was sent.
         const Kept kept = keep(order, send_intent::sentWithoutAnswer(this->unansweredSends(), content));
         writeBehindVeil(
-            [&orders = orders_, kept, content, unanswered = this->unansweredSends()] {
-                return intoOutbox(orders, kept, content, unanswered);
+            [&orders = orders_, kept, content, unanswered = this->unansweredSends(), former = outboxFile()] {
+                return intoOutbox(orders, kept, content, unanswered, former);
             },
             [this, kept, content](const QueuedOrder& queued) {
                 if (queued.result == QueuedOrder::Result::Written)
@@ -85,12 +90,28 @@ protected:
             });
     }
 
+    // An order that was changed since it waits in the outbox goes there first, with the key under which it is
+    // sent: what is sent from there afterwards, because this end never heard the answer, is the same order.
+    void beforePost(const Order& order, const SendContent& content,
+                    const std::function<void()>& post) override {
+        const auto waiting = outboxFile();
+        if (content.type() != OrderRequestType::sendToPrint || !waiting)
+            return post();
+        const Kept kept = keep(order, send_intent::sentWithoutAnswer(this->unansweredSends(), content));
+        writeBehindVeil(
+            [&orders = orders_, kept, file = OrderDiskManager::fileName(*waiting)] {
+                return orders.update(kept, file, Directory::outbox);
+            },
+            [post](bool) { post(); }); // a failure is logged
+    }
+
     void savedInCloud(const Answer& answer) override {
         this->tell(this->texts().savedTitle, this->texts().saved);
         takeSaved(answer);
         this->keepSafe();
         if (!fileName())
             return;
+        noteUploaded(*fileName());
         // The identifiers stand on disk too, so that the order is not kept twice in the cloud.
         runInBackground(
             this,
@@ -103,9 +124,12 @@ protected:
 private:
     // A further tap on an order that waits already is no further order.
     static QueuedOrder intoOutbox(const OrderDiskManager& orders, const Kept& kept,
-                                  const SendContent& content, const UnansweredSends& unanswered) {
+                                  const SendContent& content, const UnansweredSends& unanswered,
+                                  const std::optional<std::string>& former) {
         if (auto waiting = send_intent::nameInOutbox<Kept>(unanswered, content, orders))
             return {std::move(*waiting), QueuedOrder::Result::WaitsAlready};
+        if (former && orders.update(kept, OrderDiskManager::fileName(*former), Directory::outbox))
+            return {*former, QueuedOrder::Result::Written};
         std::string name = "Sin enviar";
         for (int number = 1; orders.template exists<Order>(name, Directory::outbox); ++number)
             name = "Sin enviar(" + std::to_string(number) + ")";
@@ -148,8 +172,10 @@ private:
                            : orders.create(kept, Directory::draft, name);
             },
             [this, former, name](bool written) {
-                if (written)
+                if (written) {
+                    noteKeptLocally(name);
                     return this->send(OrderRequestType::saveCloud);
+                }
                 fileName() = former; // the draft is not in a file of that name
                 this->keepSafe();
                 this->tell(this->texts().notWrittenTitle,

@@ -106,6 +106,8 @@ protected:
     [[nodiscard]] virtual UnansweredSends& unansweredSends() = 0;
     // Writes the draft where it outlives the process.
     virtual void keepSafe() = 0;
+    // What is to be done first; then calls post, now or later.
+    virtual void beforePost(const Order&, const SendContent&, const std::function<void()>& post) { post(); }
     [[nodiscard]] virtual OrderAnswer read(const Answer& answer) const = 0;
     // What the answer changes in the draft, once the order is sent.
     virtual void takeSent(const Answer& answer) = 0;
@@ -117,14 +119,18 @@ protected:
         const SendContent content = contentOf(type, order);
         const QByteArray key = send_intent::keyFor(unansweredSends(), content);
         keepSafe(); // the key outlives the process
+        beforePost(order, content, [this, type, order, content, key] { postNow(type, order, content, key); });
+    }
+
+private:
+    void postNow(OrderRequestType type, const Order& order, const SendContent& content,
+                 const QByteArray& key) {
         post(order,
              {beginWait(type),
               [this, type, content](const Answer& answer) { answered(type, content, answer); },
               [this, type, content](const RequestFailure& failure) { failed(type, content, failure); }},
              key);
     }
-
-private:
     // An answer ends the intent, a lost one keeps its key for the next tap.
     void endIntent(const SendContent& content) {
         send_intent::answered(unansweredSends(), content);

@@ -19,6 +19,8 @@ class BackgroundOrderSync : public OrderSync {
 public:
     static constexpr char taskIdentifier[] = "com.Kavor.brochures";
 
+    // Asks the platform for a background run anew.
+    virtual void replanBrochureSync() = 0;
     // Asks the platform for a background run.
     virtual void scheduleBrochureSync() = 0;
     // One background run.

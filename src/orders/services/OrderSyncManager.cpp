@@ -10,7 +10,9 @@
 #include "device/Clock.h"
 #include "device/LocalNotifications.h"
 #include "network/ServiceOperations.h"
+#include "orders/DraftsWithChanges.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/services/SameOrder.h"
 #include "orders/services/SendIntent.h"
 #include "session/AppSingleton.h"
 
@@ -41,21 +43,6 @@ std::string fileOf(const SaveBrochuresOrder& order) {
     return order.filename ? OrderDiskManager::fileName(*order.filename) : std::string();
 }
 
-// Whether an order under the name of one that was sent is that order, as it stands by now. A name can be
-// given to another order, and then a number would put one bar's order in the place of another's.
-bool isThatOrder(const SaveBrochuresOrder& sent, BrochureType kind, const Customer& bar) {
-    const Customer& sentBar = sent.menu.customer;
-    const std::string sentCode = sentBar.tevo.value_or("");
-    const std::string code = bar.tevo.value_or("");
-    const bool isThatBar = sentCode.empty() || code.empty() ? sentBar.name.empty() || sentBar.name == bar.name
-                                                            : sentCode == code;
-    return sent.menu.orderType == kind && isThatBar;
-}
-
-bool isThatOrder(const SaveBrochuresOrder& sent, const SaveBrochuresOrder& other) {
-    return isThatOrder(sent, other.menu.orderType, other.menu.customer);
-}
-
 // The bytes of an order as its file gives it back: who prints is never read.
 std::string bytesAsRead(SaveBrochuresOrder order) {
     order.printedMyself = false;
@@ -75,9 +62,13 @@ OrderSyncManager::OrderSyncManager(Collaborators collaborators, QObject* parent)
     connect(&services_.notifications, &LocalNotifications::tapped, this, &OrderSyncManager::received);
 }
 
-void OrderSyncManager::startOrderSync() {
+void OrderSyncManager::replanBrochureSync() {
     services_.tasks.cancel(QLatin1String(taskIdentifier));
     scheduleBrochureSync();
+}
+
+void OrderSyncManager::startOrderSync() {
+    replanBrochureSync();
     // Later, and only while the manager lives: the caller's alert comes first.
     QTimer::singleShot(0, this, &OrderSyncManager::queueCurrentDraft);
 }
@@ -142,6 +133,8 @@ void OrderSyncManager::finishForegroundUpload(const Draft& draft, SaveBrochuresO
     if (draft != BrochureIntermediateData::temporalBrochure())
         numberDraft(*BrochureIntermediateData::temporalBrochure(), upload, orderId);
     storeIdentifier(upload, orderId);
+    if (const auto waiting = underWay_.find(upload.fileName); waiting == underWay_.end() || !waiting->second)
+        DraftsWithChanges::shared().remove(*order.filename);
     order.orderIdentifier = orderId;
     services_.notifications.registerCategory(QLatin1String(notificationCategory),
                                              {{QLatin1String(showAction), QStringLiteral("Ver pedido")}});

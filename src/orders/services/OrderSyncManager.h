@@ -54,6 +54,7 @@ public:
     explicit OrderSyncManager(Collaborators collaborators, QObject* parent = nullptr);
 
     void startOrderSync() override;
+    void replanBrochureSync() override;
     void scheduleBrochureSync() override;
     void handleBrochureSync(const std::shared_ptr<BackgroundTask>& task) override;
 

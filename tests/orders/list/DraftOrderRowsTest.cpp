@@ -3,7 +3,9 @@
 #include "base/AtomicFile.h"
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
+#include "brochures/engine/SaveBrochuresOrder.h"
 #include "support/TemporaryFolder.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <gtest/gtest.h>
 

@@ -66,7 +66,7 @@ protected:
         keys.push_back(key);
         keyWasSafe.push_back(std::ranges::any_of(
             draft_.safe, [&](const UnansweredSend& send) { return send.key == key.toStdString(); }));
-        network_.createTextileOrder(order, std::move(done));
+        network_.createTextileOrder(order, std::move(done), key);
     }
     SendContent contentOf(OrderRequestType type, const Order& order) const override {
         Order bare = order;
