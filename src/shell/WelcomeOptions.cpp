@@ -68,6 +68,11 @@ const WelcomeOption& openableOption(Int identifier) {
     return *found;
 }
 
+std::optional<ApplicationType> applicationTypeOf(const SectionIdentifier& section) {
+    const auto found = std::ranges::find(options, section, &WelcomeOption::section);
+    return found == options.end() ? std::nullopt : std::optional(found->type);
+}
+
 std::map<ApplicationType, bool> welcomeFlags(const LoginResult& rights) {
     std::map<ApplicationType, bool> flags;
     for (const WelcomeOption& option : options) {

@@ -40,6 +40,9 @@ std::span<const WelcomeOption> sortedWelcomeOptions();
 // The option that an identifier opens, also one without a button; the process stops for any other identifier.
 const WelcomeOption& openableOption(Int identifier);
 
+// The application type of a section; some kinds of brochure have none.
+std::optional<ApplicationType> applicationTypeOf(const SectionIdentifier& section);
+
 // Which identifiers the user's rights set to true or false; an absent right leaves no entry.
 std::map<ApplicationType, bool> welcomeFlags(const LoginResult& rights);
 

@@ -14,6 +14,7 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
+#include <array>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -31,6 +32,7 @@ class OrderDiskManager;
 class Reachability;
 class ServiceOperations;
 class UrlOpener;
+struct Choice;
 
 // What the list of orders works with. Everything outlives it.
 struct OrderListServices {
@@ -197,10 +199,11 @@ private:
     [[nodiscard]] bool hasSession() const;
     void load();
     void rebuildLocalRows(const Rebuilt& then);
+    void showJoined(const Rebuilt& then);
+    void dropAnswer();
     void fetchServerOrders();
     void answered(const OrderList& answer);
     void failed(const RequestFailure& failure);
-    void filter(QuickFilter which, const OrderListFilter& filter);
     void quickFilterFailed(QuickFilter which, const RequestFailure& failure);
     void runQuickFilter(QuickFilter which);
     void work(std::function<DraftOrderRows()> make, const Rebuilt& then);
@@ -210,26 +213,32 @@ private:
     void endWait();
     void left();
     // The alert of a failed request: showRequestFailure for an update that is needed, else these choices.
-    void tellFailure(const RequestFailure& failure, const QString& text, std::vector<struct Choice> choices);
+    void tellFailure(const RequestFailure& failure, const QString& text, std::vector<Choice> choices);
 
     void edit(const std::string& key);
     void fetchToEdit(const DraftOrderRow& row, OrderActions::Version version);
     void askForVersion(const DraftOrderRow& row);
     [[nodiscard]] bool canOpen(const DraftOrderRow& row);
     void open(const DraftOrderRow& row, const OrderToEdit& toEdit);
+    static void tellSent(AlertPresenter& alerts, const OrderActions::Sending& sending);
     void sent(const std::string& key, const OrderActions::Sending& sending);
     void sentAll(const OrderActions::SentAll& all, int count);
     void confirmedDelete(const std::string& key);
     void deleteInCloud(const DraftOrderRow& row);
-    void deletedInCloud(const DraftOrderRow& row, const OrderActions::Answer& answer);
+    void deletedInCloud(const DraftOrderRow& row, const OrderActions::Answer& failure);
+    void forgetServerOrder(const DraftOrderRow& row);
     void removeFile(const DraftOrderRow& row);
     void offerUndo(const OrderFile& file);
     void endUndo();
     void fetchCopy(Int id, const std::string& name);
     void storeCopy(const SaveBrochuresOrder& copy, const std::string& name, bool overwrite);
-    void copied(const SaveBrochuresOrder& copy, bool stored, bool overwrite);
+    void tellCopy(const QString& text);
+    void copyFailed(const RequestFailure& failure);
     void refreshAge();
     void reachabilityChanged();
+    void setNotice(const QString& notice);
+    void tellOldCatalogue();
+    void cover(const std::function<void()>& openScreen);
     [[nodiscard]] std::vector<OrderFile> waitingFiles() const;
 
     OrderListServices services_;
@@ -242,8 +251,12 @@ private:
     // The rows on show, those of the device alone, and the answer that was joined to them.
     DraftOrderRows rows_;
     DraftOrderRows local_;
-    std::shared_ptr<OrderList> answer_;
+    std::shared_ptr<const OrderList> answer_;
+    std::shared_ptr<const OrderList> filtered_; // by the quick filter that stands
     Load load_ = Load::None;
+    // The fields of the search by their names among the filters.
+    static constexpr std::array<std::pair<const char*, QString Terms::*>, 3> termsById{
+        {{"orderId", &Terms::orderId}, {"tevo", &Terms::tevo}, {"pdv", &Terms::pdv}}};
     Terms typed_;
     Terms active_; // orderIdToFilter, cobrixToFilter, localNameToFilter
     QuickFilter quickFilter_ = QuickFilter::None;
@@ -254,6 +267,7 @@ private:
     std::optional<OrderFile> undo_;
     quint64 undoTimer_ = 0;
     bool helpShown_ = false;
+    bool covered_ = true; // by another screen, or not on show yet
     std::optional<Int> sheetId_;
 };
 

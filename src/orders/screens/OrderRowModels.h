@@ -45,6 +45,9 @@ struct SentOrderRow {
 std::vector<SavedOrderRow> savedRows(const DraftOrderRows& rows, const std::set<std::string>& withChanges);
 std::vector<SentOrderRow> sentRows(const DraftOrderRows& rows);
 
+// The colour of a state on its dark chip.
+QColor stateColour(OrderSyncState state);
+
 // The left list. Roles: key, fileName, orderDate, number, orderType, pointOfSale, stateText, stateIcon,
 // stateColour, hasChanges, busy, refusal, canSend (else it can be edited).
 class SavedOrdersModel : public RowListModel {

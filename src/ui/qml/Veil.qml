@@ -13,6 +13,7 @@ Item {
     property real progress: -1
     property bool leavable: false
     property alias patience: wayOut.patience
+    property alias wayOutText: wayOut.text
 
     signal abandoned()
 

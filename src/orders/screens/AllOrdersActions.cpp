@@ -1,0 +1,477 @@
+// What the list of orders does with a row.
+#include "brochures/engine/OrderToEdit.h"
+#include "catalogue/Catalogue.h"
+#include "device/Clock.h"
+#include "device/UrlOpener.h"
+#include "interaction/QtText.h"
+#include "interaction/Questions.h"
+#include "network/ShowRequestFailure.h"
+#include "orders/DraftsWithChanges.h"
+#include "orders/screens/AllOrdersManagementViewController.h"
+#include "orders/services/FiledOrderRoad.h"
+#include "session/AppSingleton.h"
+#include "shell/WelcomeOptions.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace kavor {
+
+namespace {
+
+using Result = OrderActions::Sending::Result;
+using Version = OrderActions::Version;
+
+bool isSent(const OrderActions::Sending& sending) {
+    return sending.result == Result::Sent || sending.result == Result::FileStays;
+}
+
+} // namespace
+
+// What opens over the list reloads it when it closes.
+void AllOrdersManagementViewController::cover(const std::function<void()>& openScreen) {
+    covered_ = true;
+    openScreen();
+}
+
+// ---- Edit
+
+void AllOrdersManagementViewController::editAction(const QString& key) {
+    const DraftOrderRow* row = rows_.find(key.toStdString());
+    if (!row)
+        return;
+    const QString question = QStringLiteral("¿Deseas editar el pedido \"") + fromUtf8(row->filename) +
+                             QStringLiteral("\"? (Si en estos momentos estás tramitado otro pedido es "
+                                            "importante “Guardar” ya que sus datos se perderían al editar "
+                                            "éste.)");
+    ask(services_.alerts, this, QStringLiteral("Atención"), question,
+        {no(), yes([this, key = key.toStdString()] { edit(key); })});
+}
+
+void AllOrdersManagementViewController::edit(const std::string& key) {
+    const DraftOrderRow* row = rows_.find(key);
+    if (!row || !canOpen(*row))
+        return;
+    const bool isOnDevice =
+        row->syncState == OrderSyncState::savedLocally || row->syncState == OrderSyncState::pendingToSend;
+    if (isOnDevice)
+        return fetchToEdit(*row, Version::Device);
+    if (row->syncState == OrderSyncState::synced &&
+        DraftsWithChanges::shared().names().contains(row->filename))
+        return askForVersion(*row);
+    fetchToEdit(*row, Version::Server);
+}
+
+// Whether the wizard can show the row at all; otherwise the user hears why not.
+bool AllOrdersManagementViewController::canOpen(const DraftOrderRow& row) {
+    const auto tell = [this](const char* text) {
+        services_.alerts.inform(QStringLiteral("Atención"), QString::fromUtf8(text), this);
+        return false;
+    };
+    const auto file = row.file();
+    if (file && services_.actions.isBeingSent(*file))
+        return tell("El pedido se está enviando.");
+    const auto kind = row.sectionIdentifier.brochureType();
+    if (!kind)
+        return tell("Los pedidos de textil todavía no se pueden editar aquí. Puedes enviarlos o borrarlos.");
+    if (!hasSession()) {
+        tellOldCatalogue();
+        return false;
+    }
+    const auto* type = services_.session.catalogue().brochureType(*kind);
+    if (!type || !type->parameters)
+        return tell("Este tipo de pedido ya no está en el catálogo.");
+    return true;
+}
+
+void AllOrdersManagementViewController::askForVersion(const DraftOrderRow& row) {
+    const auto choose = [this, key = row.key()](Version version) {
+        return [this, key, version] {
+            if (const DraftOrderRow* found = rows_.find(key))
+                fetchToEdit(*found, version);
+        };
+    };
+    ask(services_.alerts, this, QStringLiteral("Atención"),
+        QStringLiteral("¿Qué versión quieres abrir?"),
+        {{QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}},
+         {QStringLiteral("La del dispositivo"), AlertButton::Role::Normal, choose(Version::Device)},
+         {QStringLiteral("La de la nube"), AlertButton::Role::Normal, choose(Version::Server)}});
+}
+
+void AllOrdersManagementViewController::fetchToEdit(const DraftOrderRow& row, Version version) {
+    if (version == Version::Server && isOffline())
+        return services_.alerts.inform(
+            QStringLiteral("Sin conexión a internet"),
+            QStringLiteral("Se necesita conexión para descargar el pedido."), this);
+    const QPointer<QObject> run = beginWait(QStringLiteral("Abriendo el pedido…"));
+    services_.actions.fetchToEdit(
+        row, version, [this, run, row](const OrderActions::Fetched<OrderToEdit>& fetched) {
+            if (!run) // nobody waits for it any more
+                return;
+            endWait();
+            if (fetched.value)
+                return open(row, *fetched.value);
+            if (!fetched.failure || !fetched.failure->error.updateNeeded)
+                return services_.alerts.inform(
+                    QStringLiteral("Incidencia"),
+                    QStringLiteral("El pedido no se puede cargar de servidor"), this);
+            tellFailure(*fetched.failure, {}, {});
+        });
+}
+
+// Section and application type stand before anything is loaded: the draft's rules look at them.
+void AllOrdersManagementViewController::open(const DraftOrderRow& row, const OrderToEdit& toEdit) {
+    if (!canOpen(row))
+        return;
+    services_.session.actualSection = row.sectionIdentifier;
+    services_.session.actualApplicationType = applicationTypeOf(row.sectionIdentifier);
+    openOrder(toEdit);
+    cover(services_.openWizard);
+}
+
+// ---- Send
+
+void AllOrdersManagementViewController::sendAction(const QString& key) {
+    const DraftOrderRow* row = rows_.find(key.toStdString());
+    const auto file = row ? row->file() : std::nullopt;
+    if (!file)
+        return;
+    if (isOffline())
+        return services_.alerts.inform(QStringLiteral("No se ha podido enviar el pedido"),
+                                       QStringLiteral("Sin conexión a internet"), this);
+    if (!hasSession())
+        return tellOldCatalogue();
+    beginWait(QStringLiteral("Enviando el pedido…"));
+    services_.actions.send(*file, [self = QPointer(this), &alerts = services_.alerts,
+                                   key = key.toStdString()](const OrderActions::Sending& sending) {
+        if (isSent(sending)) // whoever is there: the order left the device
+            tellSent(alerts, sending);
+        if (self)
+            self->sent(key, sending);
+    });
+}
+
+void AllOrdersManagementViewController::tellSent(AlertPresenter& alerts,
+                                                 const OrderActions::Sending& sending) {
+    alerts.inform(QStringLiteral("Enviado"),
+                  sending.result == Result::Sent
+                      ? QStringLiteral("Pedido realizado correctamente.")
+                      : QStringLiteral("El pedido se ha enviado correctamente pero no se ha podido borrar "
+                                       "del dispositivo."));
+}
+
+void AllOrdersManagementViewController::sent(const std::string& key, const OrderActions::Sending& sending) {
+    endWait();
+    if (covered_)
+        return;
+    if (isSent(sending) || sending.result == Result::Gone)
+        return load();
+    if (sending.result != Result::Failed)
+        return;
+    tellFailure(*sending.failure, QStringLiteral("El pedido no se puede realizar"),
+                {{QStringLiteral("Editar pedido"), AlertButton::Role::Normal, [this, key] { edit(key); }},
+                 {QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}}});
+}
+
+void AllOrdersManagementViewController::sendAllAction() {
+    const auto files = waitingFiles();
+    if (files.empty())
+        return;
+    if (isOffline())
+        return services_.alerts.inform(QStringLiteral("No se ha podido enviar el pedido"),
+                                       QStringLiteral("Sin conexión a internet"), this);
+    if (!hasSession())
+        return tellOldCatalogue();
+    const int count = int(files.size());
+    const QPointer<QObject> run = beginWait(QStringLiteral("Enviando los pedidos…"));
+    services_.actions.sendAll(
+        files,
+        [this, run, count](int number) {
+            if (run)
+                veil_.setText(QStringLiteral("Enviando los pedidos: %1 de %2").arg(number).arg(count));
+        },
+        [self = QPointer(this), count](const OrderActions::SentAll& all) {
+            if (self)
+                self->sentAll(all, count);
+        });
+}
+
+void AllOrdersManagementViewController::sentAll(const OrderActions::SentAll& all, int count) {
+    endWait();
+    if (covered_)
+        return;
+    if (all.updateNeeded)
+        tellFailure(*all.updateNeeded, {}, {});
+    else if (all.failed == 0)
+        services_.alerts.inform(QStringLiteral("Enviado"),
+                                count == 1 ? QStringLiteral("Pedido realizado correctamente.")
+                                           : QStringLiteral("Pedidos realizados correctamente."),
+                                this);
+    else
+        services_.alerts.inform(QStringLiteral("Incidencia"),
+                                QStringLiteral("Se han enviado %1 de %2 pedidos. Debajo de cada uno de los "
+                                               "demás está el motivo.")
+                                    .arg(all.sent)
+                                    .arg(count),
+                                this);
+    load();
+}
+
+// ---- Delete
+
+void AllOrdersManagementViewController::deleteOrder(const QString& key) {
+    if (!rows_.find(key.toStdString()))
+        return;
+    ask(services_.alerts, this, QStringLiteral("Atención"),
+        QStringLiteral("¿Desea eliminar el pedido en borrador?"),
+        {{QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}},
+         {QStringLiteral("Borrar"), AlertButton::Role::Destructive,
+          [this, key = key.toStdString()] { confirmedDelete(key); }}});
+}
+
+// Neither of the two deletes waits for the other.
+void AllOrdersManagementViewController::confirmedDelete(const std::string& key) {
+    const DraftOrderRow* found = rows_.find(key);
+    if (!found)
+        return;
+    const DraftOrderRow row = *found;
+    if (const auto file = row.file(); file && services_.actions.isBeingSent(*file))
+        return services_.alerts.inform(QStringLiteral("Atención"),
+                                       QStringLiteral("El pedido se está enviando."), this);
+    if (row.serverId())
+        deleteInCloud(row);
+    if (row.state)
+        removeFile(row);
+}
+
+void AllOrdersManagementViewController::removeFile(const DraftOrderRow& row) {
+    const OrderFile file = *row.file();
+    const bool canBeUndone = !row.serverId();
+    endUndo();
+    const auto removed = [this, self = QPointer(this), &alerts = services_.alerts, file, canBeUndone,
+                          state = row.syncState](bool gone) {
+        if (!gone)
+            return alerts.inform(QStringLiteral("Error"),
+                                 QStringLiteral("No se ha podido borrar el pedido ") + fromUtf8(label(state)));
+        if (self && canBeUndone)
+            offerUndo(file);
+    };
+    if (canBeUndone)
+        services_.actions.setAside(file, removed);
+    else
+        services_.actions.remove(file, removed);
+}
+
+void AllOrdersManagementViewController::offerUndo(const OrderFile& file) {
+    endUndo();
+    undo_ = file;
+    undoTimer_ = services_.clock.after(undoTime, this, [this] { endUndo(); });
+    emit undoChanged();
+}
+
+void AllOrdersManagementViewController::endUndo() {
+    if (!undo_)
+        return;
+    services_.clock.cancel(undoTimer_);
+    services_.actions.forget(*std::exchange(undo_, std::nullopt));
+    emit undoChanged();
+}
+
+void AllOrdersManagementViewController::undoDelete() {
+    if (!undo_)
+        return;
+    services_.clock.cancel(undoTimer_);
+    const OrderFile file = *std::exchange(undo_, std::nullopt);
+    emit undoChanged();
+    services_.actions.bringBack(file, [&alerts = services_.alerts](bool isBack) {
+        if (!isBack)
+            alerts.inform(QStringLiteral("Error"), QStringLiteral("No se ha podido recuperar el pedido."));
+    });
+}
+
+QString AllOrdersManagementViewController::undoText() const {
+    return undo_ ? QStringLiteral("Se ha borrado «%1»").arg(fromUtf8(undo_->plainName)) : QString();
+}
+
+void AllOrdersManagementViewController::deleteInCloud(const DraftOrderRow& row) {
+    if (isOffline())
+        return informOffline(services_.alerts);
+    const auto type = applicationTypeOf(row.sectionIdentifier);
+    if (!type) // the server knows no such order in its cloud
+        return deletedInCloud(row, RequestFailure());
+    const QPointer<QObject> run = beginWait(QStringLiteral("Borrando el pedido de la nube…"));
+    services_.actions.deleteInCloud(*row.serverId(), *type,
+                                    [self = QPointer(this), run, row](const OrderActions::Answer& failure) {
+                                        if (self && run)
+                                            self->deletedInCloud(row, failure);
+                                    });
+}
+
+void AllOrdersManagementViewController::deletedInCloud(const DraftOrderRow& row,
+                                                       const OrderActions::Answer& failure) {
+    if (failure) {
+        endWait();
+        return tellFailure(*failure, QStringLiteral("Error"),
+                           {{QStringLiteral("Trabajar en local"), AlertButton::Role::Cancel, {}},
+                            {QStringLiteral("Intentar de nuevo"), AlertButton::Role::Normal,
+                             [this, row] { deleteInCloud(row); }}});
+    }
+    services_.alerts.inform(QStringLiteral("Atención"),
+                            QStringLiteral("El borrador se ha eliminado en cloud."), this);
+    endWait();
+    forgetServerOrder(row);
+    load();
+}
+
+// The answer that stands no longer holds; it must not show the order until the next one.
+void AllOrdersManagementViewController::forgetServerOrder(const DraftOrderRow& row) {
+    if (!answer_)
+        return;
+    auto answer = std::make_shared<OrderList>(*answer_);
+    const auto drop = [id = *row.serverId()](auto& orders) {
+        if (orders)
+            std::erase_if(*orders, [id](const auto& order) { return order.id == id; });
+    };
+    if (row.sectionIdentifier.brochureType())
+        drop(answer->orders);
+    else
+        drop(answer->textileOrders);
+    answer_ = std::move(answer);
+}
+
+// ---- Copy
+
+void AllOrdersManagementViewController::copyOrder(qlonglong id) {
+    const OrderList::Order* order = rows_.findSent(id);
+    if (!order)
+        return;
+    if (isOffline())
+        return informOffline(services_.alerts);
+    const QString proposal = fromUtf8(order->filename.value_or(order->pdv.value_or("")));
+    askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
+               QStringLiteral("Guardar"), [this, id](const QString& name) {
+                   const std::string plainName = name.trimmed().toStdString();
+                   if (plainName.empty())
+                       return;
+                   if (OrderDiskManager::refusalOf(plainName))
+                       return tellCopy(QStringLiteral("No se ha podido copiar el pedido en local."));
+                   fetchCopy(id, plainName);
+               });
+}
+
+void AllOrdersManagementViewController::tellCopy(const QString& text) {
+    services_.alerts.inform(QStringLiteral("Copiar pedido."), text);
+}
+
+void AllOrdersManagementViewController::fetchCopy(Int id, const std::string& name) {
+    const QPointer<QObject> run = beginWait(QStringLiteral("Copiando el pedido…"));
+    services_.actions.fetchCopy(
+        id, [this, run, name](const OrderActions::Fetched<SaveBrochuresOrder>& fetched) {
+            if (!run)
+                return;
+            endWait();
+            if (!fetched.value)
+                return copyFailed(fetched.failure.value_or(RequestFailure()));
+            if (!services_.actions.draftExists(name))
+                return storeCopy(*fetched.value, name, false);
+            askToOverwrite(services_.alerts, this,
+                           [this, copy = *fetched.value, name] { storeCopy(copy, name, true); });
+        });
+}
+
+void AllOrdersManagementViewController::copyFailed(const RequestFailure& failure) {
+    if (failure.error.updateNeeded)
+        return tellFailure(failure, {}, {});
+    services_.alerts.inform(QStringLiteral("Incidencia"), QStringLiteral("El pedido no se puede replicar"),
+                            this);
+}
+
+void AllOrdersManagementViewController::storeCopy(const SaveBrochuresOrder& copy, const std::string& name,
+                                                  bool overwrite) {
+    QString lacks;
+    if (hasSession())
+        lacks = fromUtf8(fellOutText(fellOut(copy, services_.session.catalogue())));
+    services_.actions.storeCopy(
+        copy, name, overwrite, [&alerts = services_.alerts, lacks, overwrite](bool stored) {
+            const QString title = QStringLiteral("Copiar pedido.");
+            if (!stored)
+                return alerts.inform(
+                    title, overwrite ? QStringLiteral("No se ha podido sobrescribir el pedido en local.")
+                                     : QStringLiteral("No se ha podido copiar el pedido en local."));
+            const QString done = QStringLiteral("Su pedido ha sido copiado en local.");
+            alerts.inform(title, lacks.isEmpty() ? done : done + QLatin1Char('\n') + lacks);
+        });
+}
+
+// ---- A sent row
+
+void AllOrdersManagementViewController::openSheet(qlonglong id) {
+    sheetId_ = id;
+    emit sheetChanged();
+}
+
+void AllOrdersManagementViewController::closeSheet() {
+    sheetId_.reset();
+    emit sheetChanged();
+}
+
+QVariantMap AllOrdersManagementViewController::sheet() const {
+    const OrderList::Order* order = sheetId_ ? rows_.findSent(*sheetId_) : nullptr;
+    if (!order)
+        return {};
+    const std::string place = order->pdv.value_or("");
+    return {{QStringLiteral("orderId"), qlonglong(order->id)},
+            {QStringLiteral("title"), QStringLiteral("Pedido %1").arg(order->id)},
+            {QStringLiteral("date"), fromUtf8(order->date.text()).left(16)},
+            {QStringLiteral("type"), fromUtf8(order->type)},
+            {QStringLiteral("pointOfSale"),
+             place.empty() ? QStringLiteral("(Sin especificar)") : fromUtf8(place)},
+            {QStringLiteral("state"), fromUtf8(order->state)},
+            {QStringLiteral("note"), fromUtf8(order->note.value_or(""))},
+            {QStringLiteral("pending"), order->pending.value_or(false)},
+            {QStringLiteral("canDemandQr"), order->canDemandQr}};
+}
+
+void AllOrdersManagementViewController::previewURLAction(qlonglong id) {
+    const OrderList::Order* order = rows_.findSent(id);
+    if (!order)
+        return;
+    const QString contact = QStringLiteral("Póngase en contacto con soporte.");
+    if (!order->url)
+        return services_.alerts.inform(QStringLiteral("No existe enlace para este pedido."), contact, this);
+    if (!services_.urls.openExternally(QString::fromStdString(order->url->text)))
+        services_.alerts.inform(QStringLiteral("No se puede abrir el enlace."), contact, this);
+}
+
+void AllOrdersManagementViewController::claimOrder(qlonglong id) {
+    const OrderList::Order* order = rows_.findSent(id);
+    if (!order)
+        return;
+    closeSheet();
+    cover([this, order = *order] { services_.openClaim(order); });
+}
+
+void AllOrdersManagementViewController::demandQrOrder(qlonglong id) {
+    const OrderList::Order* order = rows_.findSent(id);
+    if (!order || !order->canDemandQr)
+        return;
+    if (!hasSession())
+        return tellOldCatalogue();
+    if (!services_.session.catalogue().brochureType(order->typeId))
+        return services_.alerts.inform(QStringLiteral("Atención"),
+                                       QStringLiteral("Este tipo de pedido ya no está en el catálogo."),
+                                       this);
+    closeSheet();
+    cover([this, order = *order] { services_.openQrDemand(order); });
+}
+
+void AllOrdersManagementViewController::qrDemanded(Int id, std::optional<bool> canDemandQr,
+                                                   std::optional<OrderState> state,
+                                                   const std::optional<std::string>& stateName) {
+    rows_.changeSent(id, canDemandQr, state, stateName);
+    sent_.show(sentRows(rows_));
+    emit sheetChanged();
+}
+
+} // namespace kavor
