@@ -13,6 +13,7 @@ FocusScope {
     property bool sentCurrent: false // of a phone's tabs
     property bool searchOpen: false  // on a phone the fields fold away
     readonly property real gap: Theme.spaceL
+    readonly property var sheet: controller.sheet
 
     function showSent(): void {
         sentCurrent = true;
@@ -91,6 +92,7 @@ FocusScope {
 
             OrderNumbers {
                 Layout.fillWidth: view.width < 900
+                Layout.preferredWidth: 336
                 Layout.alignment: Qt.AlignBottom
                 controller: view.controller
                 onTapped: view.showSent()
@@ -117,6 +119,8 @@ FocusScope {
         OrderListHeads {
             Layout.fillWidth: true
             controller: view.controller
+            savedCount: savedPane.count
+            sentCount: view.controller.sentShown ? sentPane.count : 0
             sentCurrent: view.sentCurrent
             gap: view.gap
             onTabTapped: (sent) => view.sentCurrent = sent
@@ -142,7 +146,7 @@ FocusScope {
         delegate: SavedOrdersCell {
             required property int index
 
-            width: ListView.view.width
+            width: savedPane.width
             Keys.onUpPressed: savedPane.focusRow(index - 1)
             Keys.onDownPressed: savedPane.focusRow(index + 1)
             onEditTapped: view.controller.editAction(key)
@@ -169,7 +173,7 @@ FocusScope {
         delegate: SentOrdersCell {
             required property int index
 
-            width: ListView.view.width
+            width: sentPane.width
             Keys.onUpPressed: sentPane.focusRow(index - 1)
             Keys.onDownPressed: sentPane.focusRow(index + 1)
             onClicked: view.controller.openSheet(orderId)
@@ -190,7 +194,7 @@ FocusScope {
     }
 
     Loader {
-        active: view.controller.sheet.orderId !== undefined
+        active: view.sheet.orderId !== undefined
         sourceComponent: SentOrderSheet { controller: view.controller }
     }
     SyncHelpView { controller: view.controller }

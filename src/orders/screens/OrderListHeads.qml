@@ -9,13 +9,14 @@ ColumnLayout {
     id: heads
 
     required property AllOrdersManagementViewController controller
-    readonly property int sentCount: controller.sentShown ? controller.sentOrders.count : 0
+    property int savedCount: 0
+    property int sentCount: 0
     property bool sentCurrent: false // of a phone's tabs
     property real gap: Theme.spaceL  // between the lists
 
     signal tabTapped(bool sent)
 
-    spacing: 0
+    spacing: Theme.spaceS
 
     Rectangle {
         Layout.fillWidth: true
@@ -34,7 +35,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 text: "Borradores"
-                count: heads.controller.savedOrders.count
+                count: heads.savedCount
                 current: !heads.sentCurrent
                 onClicked: heads.tabTapped(false)
             }
@@ -61,10 +62,19 @@ ColumnLayout {
             spacing: Theme.spaceS
 
             SectionTitle {
-                Layout.fillWidth: true
                 visible: !Theme.compact
                 text: "Borradores"
-                detail: sendAll.visible ? "" : heads.controller.savedOrders.count
+                implicitWidth: 96
+            }
+            Badge {
+                objectName: "savedCount"
+                visible: !Theme.compact
+                text: heads.savedCount
+                tone: "bottle"
+            }
+            Item {
+                Layout.fillWidth: true
+                visible: !Theme.compact
             }
             AppButton {
                 id: sendAll
@@ -86,12 +96,20 @@ ColumnLayout {
             SectionTitle {
                 visible: !Theme.compact
                 text: "Enviados"
-                implicitWidth: 84
+                implicitWidth: 80
+            }
+            Badge {
+                objectName: "sentCount"
+                visible: !Theme.compact && heads.sentCount > 0
+                text: heads.sentCount
+                tone: "bottle"
             }
             HelpText {
                 objectName: "age"
                 Layout.fillWidth: true
+                Layout.fillHeight: true
                 visible: true
+                verticalAlignment: Text.AlignVCenter
                 horizontalAlignment: sendAll.visible || !Theme.compact ? Text.AlignRight : Text.AlignLeft
                 maximumLineCount: 2
                 elide: Text.ElideRight

@@ -39,6 +39,7 @@ FocusScope {
 
         objectName: pane.name
         anchors.fill: parent
+        anchors.rightMargin: -Theme.spaceS // the mark of its place stands beside the rows
         clip: true
         reuseItems: true
         cacheBuffer: 400
@@ -66,7 +67,10 @@ FocusScope {
         }
 
         FocusFollower { view: list }
-        ScrollMark { view: list }
+        ScrollMark {
+            view: list
+            visible: pane.rowsShown && list.contentHeight > list.height + 1
+        }
     }
 
     Column { // what pulling does
@@ -77,10 +81,9 @@ FocusScope {
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
-            name: "refresh"
+            name: list.ready ? "refresh" : "chevron-down"
             size: 24
             colour: list.ready ? Theme.amberDark : Theme.mutedInk
-            rotation: list.pulled * 3
         }
         HelpText {
             objectName: pane.name + "PullHint"

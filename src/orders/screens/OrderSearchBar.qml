@@ -63,6 +63,7 @@ GridLayout {
         objectName: "searchButton"
         Layout.fillWidth: Theme.compact
         Layout.preferredWidth: Theme.compact ? 1 : implicitWidth
+        Layout.preferredHeight: Theme.touch + 2
         Layout.alignment: Qt.AlignBottom
         icon: "search"
         text: "Buscar"
