@@ -112,7 +112,7 @@ FocusScope {
                 Repeater {
                     model: view.controller.details
 
-                    ProfileDetail {
+                    DetailRow {
                         required property var modelData
 
                         Layout.fillWidth: true

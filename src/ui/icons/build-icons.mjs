@@ -20,11 +20,13 @@ const names = {
   trash: "trash-2", star: "star", print: "printer", eye: "eye", preview: "eye", save: "save", send: "send",
   edit: "pencil", flip: "flip-horizontal-2", zoom: "zoom-in", "zoom-in": "zoom-in", "zoom-out": "zoom-out",
   reset: "rotate-ccw", eraser: "eraser", copy: "copy", more: "ellipsis", download: "download", upload: "upload",
-  link: "link", scissors: "scissors", layers: "layers",
+  link: "link", scissors: "scissors", layers: "layers", undo: "undo-2", claim: "message-square-warning",
   // States
   warning: "triangle-alert", info: "info", cloud: "cloud", "cloud-upload": "cloud-upload", offline: "cloud-off",
   "circle-check": "circle-check", "circle-close": "circle-x", clock: "clock", bell: "bell", lock: "lock",
   package: "package", truck: "truck", "image-off": "image-off", folder: "folder",
+  icon_order_sync: "cloud-check", icon_order_save_local: "tablet", icon_order_cloud: "cloud",
+  icon_order_pending_send: "clock-arrow-up",
   // Things
   tag: "tag", price: "tag", euro: "euro", palette: "palette", style: "palette", camera: "camera",
   location: "map-pin", qr: "qr-code", phone: "phone", mail: "mail", calendar: "calendar", language: "languages",

@@ -1,7 +1,7 @@
 import QtQuick
 import Kavor.Ui
 
-// One thing that is known of the user.
+// One thing that is known of what is shown: a drawing, what it is, and the text in full.
 Item {
     id: detail
 
