@@ -88,6 +88,7 @@ void addOrderListCommands(CLI::App& program, CommandContext& context) {
     group->add_subcommand("list", "the device's files and the server's orders, merged")->callback([&context] {
         list(context);
     });
+    addOrderClaim(*group, context);
 }
 
 } // namespace kavor::ctl
