@@ -118,12 +118,12 @@ TEST_F(Account, ASuggestionNeedsACategoryATextAndTheNetwork) {
     EXPECT_EQ(screen.categories(), QStringList({"Catálogo", "Pedidos"}));
     EXPECT_EQ(screen.category(), -1);
     EXPECT_EQ(screen.bodyError(), u"");
-    screen.editBody(QStringLiteral("  \n"));
+    screen.editText(QStringLiteral("  \n"));
     screen.sendAction();
     EXPECT_FALSE(screen.categoryError().isEmpty());
     EXPECT_FALSE(screen.bodyError().isEmpty());
     screen.chooseCategory(1);
-    screen.editBody(QStringLiteral(" Más papel "));
+    screen.editText(QStringLiteral(" Más papel "));
     network.reachable = false;
     screen.sendAction();
     EXPECT_EQ(alerts.text(), u"No hay conexión a internet.");
@@ -132,13 +132,15 @@ TEST_F(Account, ASuggestionNeedsACategoryATextAndTheNetwork) {
     screen.sendAction();
     screen.sendAction(); // a second tap
     ASSERT_EQ(network.requests.suggestionMailboxAdd.calls.size(), 1U);
-    EXPECT_EQ(network.requests.suggestionMailboxAdd.calls.at(0), std::tuple(Int(3), QString(" Más papel ")));
+    const auto& [category, body, key] = network.requests.suggestionMailboxAdd.calls.at(0);
+    EXPECT_EQ(category, 3);
+    EXPECT_EQ(body, u" Más papel ");
     ASSERT_TRUE(network.requests.suggestionMailboxAdd.fail(failureWith({"Ahora no."})));
     EXPECT_EQ(alerts.text(), u"Ahora no.");
     alerts.answerButton(1); // "Intentar de nuevo"
     ASSERT_TRUE(network.requests.suggestionMailboxAdd.succeed({"Gracias."}));
     EXPECT_EQ(alerts.text(), u"Gracias.");
-    EXPECT_EQ(screen.body(), u"");
+    EXPECT_EQ(screen.text(), u"");
     EXPECT_EQ(screen.category(), -1);
     EXPECT_EQ(screen.bodyError(), u"") << "an empty form is no fault of the user's";
 }
@@ -149,7 +151,7 @@ TEST_F(Account, WhatWasWrittenIsThereAgainForItsAuthorOnly) {
         int left = 0;
         QObject::connect(&screen, &ScreenController::closed, [&] { ++left; });
         screen.chooseCategory(0);
-        screen.editBody(QStringLiteral("Más papel"));
+        screen.editText(QStringLiteral("Más papel"));
         screen.closeSceneAction();
         EXPECT_EQ(alerts.text(), u"¿Salir sin enviar?");
         alerts.answerButton(0);
@@ -158,22 +160,22 @@ TEST_F(Account, WhatWasWrittenIsThereAgainForItsAuthorOnly) {
         alerts.answerButton(1);
         EXPECT_EQ(left, 1);
     }
-    EXPECT_EQ(SuggestionViewController(services).body(), u"Más papel");
+    EXPECT_EQ(SuggestionViewController(services).text(), u"Más papel");
     auth.updateCredentials("eva", "secret", "token");
     SuggestionViewController another(services);
-    EXPECT_EQ(another.body(), u"");
+    EXPECT_EQ(another.text(), u"");
     EXPECT_EQ(another.category(), -1);
 }
 
 TEST_F(Account, AnAnswerThatNobodyWaitsForChangesNothing) {
     SuggestionViewController screen(services);
     screen.chooseCategory(0);
-    screen.editBody(QStringLiteral("Más papel"));
+    screen.editText(QStringLiteral("Más papel"));
     screen.sendAction();
     screen.leaveVeil();
     alerts.answerButton(0);
     network.requests.suggestionMailboxAdd.succeed({"Gracias."});
-    EXPECT_EQ(screen.body(), u"Más papel");
+    EXPECT_EQ(screen.text(), u"Más papel");
     EXPECT_FALSE(alerts.isVisible());
 }
 
