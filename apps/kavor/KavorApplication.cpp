@@ -13,6 +13,7 @@
 #include "device/PushRegistration.h"
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
+#include "device/media/QtFilmPlayer.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
 #include "network/TrafficLog.h"
@@ -78,7 +79,7 @@ struct KavorApplication::Parts : HeadlessCore {
                        tasks, sync})
         , sections{{network, orders, *sessions, sync, alerts, urls, clock, downloader, photos, reachability,
                     &location},
-                   {session, network, auth, alerts, urls, reachability, suggestion}}
+                   {session, network, auth, alerts, urls, reachability, suggestion, films}}
         , root({application,
                 alerts,
                 localNotifications,
@@ -102,6 +103,7 @@ struct KavorApplication::Parts : HeadlessCore {
     QtAppLifecycle lifecycle;
     AppDelegate application;
     SuggestionDraft suggestion;
+    QtFilmPlayer films;
     SectionServices sections;
     RootController root;
     QQmlApplicationEngine engine;

@@ -2,6 +2,7 @@
 
 #include "account/screens/ProfileViewController.h"
 #include "account/screens/SuggestionViewController.h"
+#include "account/screens/TutorialsViewController.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
 #include "session/AppSingleton.h"
@@ -41,6 +42,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return {screenView("ProfileView"), new ProfileViewController(services.account)};
     if (name == transition::suggestions)
         return {screenView("SuggestionView"), new SuggestionViewController(services.account)};
+    if (name == transition::tutorials)
+        return {screenView("TutorialsView"), new TutorialsViewController(services.account)};
     for (const ComingSection& section : comingSections) {
         if (name == section.transition)
             return {screenView("ComingSoonView"),
