@@ -13,6 +13,7 @@
 #include "device/PushRegistration.h"
 #include "device/ReverseLocationManager.h"
 #include "device/UrlOpener.h"
+#include "device/media/QtFilmPlayer.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
 #include "network/TrafficLog.h"
@@ -80,7 +81,8 @@ struct KavorApplication::Parts : HeadlessCore {
         , orderActions(network, orders)
         , sections{{network, orders, *sessions, sync, alerts, urls, clock, downloader, photos, reachability,
                     &location},
-                   {session, network, auth, alerts, urls, reachability, suggestion},
+                   {session, network, auth, alerts, urls, reachability, suggestion, films},
+                   {session, network, auth, alerts, urls, reachability, messages},
                    orderActions,
                    sync}
         , root({application,
@@ -106,7 +108,9 @@ struct KavorApplication::Parts : HeadlessCore {
     QtAppLifecycle lifecycle;
     AppDelegate application;
     SuggestionDraft suggestion;
+    OrderMessages messages;
     OrderActions orderActions;
+    QtFilmPlayer films;
     SectionServices sections;
     RootController root;
     QQmlApplicationEngine engine;

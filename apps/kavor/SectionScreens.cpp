@@ -2,9 +2,13 @@
 
 #include "account/screens/ProfileViewController.h"
 #include "account/screens/SuggestionViewController.h"
+#include "account/screens/TutorialsViewController.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
+#include "interaction/QtText.h"
 #include "orders/screens/AllOrdersManagementViewController.h"
+#include "orders/screens/ClaimOrderViewController.h"
+#include "orders/screens/DemandBrandQrController.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
@@ -35,16 +39,40 @@ Screen wizardScreen(const SectionServices& services, BrochureMenuViewController:
             new BrochureMenuViewController(services.wizard, nullptr, opening)};
 }
 
+using OrderListController = AllOrdersManagementViewController;
+
+Screen claimScreen(const SectionServices& services, const OrderList::Order& order) {
+    const QString customerName = order.pdv ? fromUtf8(*order.pdv) : QStringLiteral("(Sin especificar)");
+    return {screenView("ClaimOrderView"),
+            new ClaimOrderViewController(services.messages, order.id, customerName)};
+}
+
+// What the server answers stands in the list's row before the list is loaded anew.
+Screen qrScreen(const SectionServices& services, const OrderList::Order& order, OrderListController& list) {
+    auto* demand = new DemandBrandQrController(services.messages, order);
+    QObject::connect(
+        demand, &DemandBrandQrController::demanded, &list, [&list](const DemandedBrandQr& answer) {
+            list.qrDemanded(answer.orderId, answer.canDemandQr, answer.orderStateId,
+                            answer.orderStateName ? std::optional(answer.orderStateName->toStdString())
+                                                  : std::nullopt);
+        });
+    return {screenView("DemandBrandQrView"), demand};
+}
+
 Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
     const WizardServices& wizard = services.wizard;
-    const auto openWizard = [&services, &screens] {
-        screens.push(wizardScreen(services, BrochureMenuViewController::Opening::OrderToEdit));
-    };
-    return {screenView("AllOrdersManagementView"),
-            new AllOrdersManagementViewController({services.account.session, wizard.network, wizard.orders,
-                                                   services.orderActions, services.sync, wizard.alerts,
-                                                   wizard.urls, wizard.clock, wizard.reachability, openWizard,
-                                                   {}, {}})};
+    auto* list = new OrderListController({services.account.session, wizard.network, wizard.orders,
+                                          services.orderActions, services.sync, wizard.alerts, wizard.urls,
+                                          wizard.clock, wizard.reachability});
+    list->setWays(
+        {[&services, &screens] {
+             screens.push(wizardScreen(services, BrochureMenuViewController::Opening::OrderToEdit));
+         },
+         [&services, &screens](const OrderList::Order& order) { screens.push(claimScreen(services, order)); },
+         [&services, &screens, list](const OrderList::Order& order) {
+             screens.push(qrScreen(services, order, *list));
+         }});
+    return {screenView("AllOrdersManagementView"), list};
 }
 
 } // namespace
@@ -59,6 +87,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return {screenView("ProfileView"), new ProfileViewController(services.account)};
     if (name == transition::suggestions)
         return {screenView("SuggestionView"), new SuggestionViewController(services.account)};
+    if (name == transition::tutorials)
+        return {screenView("TutorialsView"), new TutorialsViewController(services.account)};
     for (const ComingSection& section : comingSections) {
         if (name == section.transition)
             return {screenView("ComingSoonView"),

@@ -2,6 +2,7 @@
 
 #include "account/screens/AccountServices.h"
 #include "brochures/wizard/WizardStep.h"
+#include "orders/screens/OrderMessageServices.h"
 #include "screens/ScreenStack.h"
 
 #include <QString>
@@ -15,6 +16,7 @@ class OrderActions;
 struct SectionServices {
     WizardServices wizard;
     AccountServices account;
+    OrderMessageServices messages;
     OrderActions& orderActions;
     BackgroundOrderSync& sync;
 };

@@ -9,6 +9,7 @@ class App;
 namespace kavor::ctl {
 
 // Each group of commands adds itself to the program; a command's work runs when it is parsed.
+void addAccountCommands(CLI::App& program, CommandContext& context);
 void addCatalogueCommands(CLI::App& program, CommandContext& context);
 void addOrderCommands(CLI::App& program, CommandContext& context);
 void addOrderListCommands(CLI::App& program, CommandContext& context);
@@ -17,6 +18,7 @@ void addSyncCommand(CLI::App& program, CommandContext& context);
 
 // Commands that need the server, each added to its group.
 void addCatalogueFetch(CLI::App& group, CommandContext& context);
+void addOrderClaim(CLI::App& group, CommandContext& context);
 void addOrderSend(CLI::App& group, CommandContext& context);
 void addOrderActions(CLI::App& group, CommandContext& context);
 

@@ -32,6 +32,12 @@ CLI::Option* withValue(CLI::Option* option) {
     return option->check(fault);
 }
 
+CLI::Option* withText(CLI::Option* option) {
+    return option->check([](const std::string& text) -> std::string {
+        return text.find_first_not_of(" \t\r\n") == std::string::npos ? "the text is empty" : "";
+    });
+}
+
 void addSaveOption(CLI::App& command, std::string& save) {
     std::vector<std::string> words;
     for (const auto& each : casesOf<OrderRequestType>())

@@ -15,6 +15,9 @@ namespace kavor::ctl {
 // Makes an empty value wrong usage, and for a named option also one that looks like the next option.
 CLI::Option* withValue(CLI::Option* option);
 
+// Makes a text of blanks alone wrong usage.
+CLI::Option* withText(CLI::Option* option);
+
 // Adds the option "--save" with its three words.
 void addSaveOption(CLI::App& command, std::string& save);
 // What one of the words asks for.

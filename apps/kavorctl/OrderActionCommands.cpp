@@ -47,8 +47,7 @@ void send(const CommandContext& context, const ActionInputs& inputs) {
     online.requireLogin();
     OrderActions actions(online.network, online.orders);
     const OrderFile file = fileOf(inputs, OrderDiskManager::DirectoryName::outbox);
-    const auto sending =
-        waitFor<OrderActions::Sending>([&](const auto& done) { actions.send(file, done); });
+    const auto sending = waitFor<OrderActions::Sending>([&](const auto& done) { actions.send(file, done); });
     switch (sending.result) {
     case Result::Sent:
         context.out << "Pedido realizado correctamente.\n";
@@ -79,8 +78,8 @@ void copy(const CommandContext& context, const ActionInputs& inputs) {
     const bool there = actions.draftExists(inputs.name);
     if (there && !inputs.overwrite)
         throw CommandFailure(unreadableInput, "Ya existe un archivo con ese nombre.");
-    const bool stored = waitFor<bool>(
-        [&](const auto& done) { actions.storeCopy(*fetched.value, inputs.name, there, done); });
+    const bool stored =
+        waitFor<bool>([&](const auto& done) { actions.storeCopy(*fetched.value, inputs.name, there, done); });
     if (!stored)
         throw CommandFailure(unreadableInput, "No se ha podido copiar el pedido en local.");
     context.out << "Su pedido ha sido copiado en local.\n";

@@ -89,6 +89,7 @@ void addOrderListCommands(CLI::App& program, CommandContext& context) {
         list(context);
     });
     addOrderActions(*group, context);
+    addOrderClaim(*group, context);
 }
 
 } // namespace kavor::ctl

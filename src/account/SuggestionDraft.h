@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Int.h"
+#include "documents/MessageDraft.h"
 
 #include <optional>
 #include <string>
@@ -11,7 +12,7 @@ namespace kavor {
 struct SuggestionDraft {
     std::string account; // whose it is
     std::optional<Int> category;
-    std::string body;
+    MessageDraft body;
 };
 
 } // namespace kavor

@@ -63,7 +63,8 @@ public:
     void userInformation(Completion<LoginResult> done) override;
     void appInformation(Completion<std::shared_ptr<const Catalogue>> done) override;
     void profileInformation(Completion<UserProfile> done) override;
-    void suggestionMailboxAdd(Int categoryId, const QString& body, Completion<MessageResponse> done) override;
+    void suggestionMailboxAdd(Int categoryId, const QString& body, Completion<MessageResponse> done,
+                              const QByteArray& idempotencyKey = {}) override;
 
     void getCustomerDataFromTevoCode(const QString& tevo, Completion<std::vector<Customer>> done) override;
     void searchMaps(const QString& direction, Completion<SearchMapsResponse> done) override;
@@ -75,8 +76,10 @@ public:
     void retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) override;
     void retrieveBrochureOrder(Int orderId, Completion<RetrieveBrochureOrderListResponse> done) override;
     void deleteOrder(Int id, ApplicationType type, Completion<SimpleResponse> done) override;
-    void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done) override;
-    void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done) override;
+    void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done,
+                    const QByteArray& idempotencyKey = {}) override;
+    void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done,
+                       const QByteArray& idempotencyKey = {}) override;
     void sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,
                       Completion<SimpleResponse> done) override;
     void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,

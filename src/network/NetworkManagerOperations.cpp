@@ -33,9 +33,10 @@ Operation getting(const char* name, const QUrl& url, const Parameters& query = {
     return {.name = QString::fromLatin1(name), .url = withQuery(url, query)};
 }
 
-Operation postingQuery(const char* name, const QUrl& url, const Parameters& query, Effect effect) {
-    return {QString::fromLatin1(name),      "POST", withQuery(url, query), {}, formType,
-            effect == Effect::ChangesServer};
+Operation postingQuery(const char* name, const QUrl& url, const Parameters& query, Effect effect,
+                       const QByteArray& idempotencyKey = {}) {
+    return {QString::fromLatin1(name),       "POST",        withQuery(url, query), {}, formType,
+            effect == Effect::ChangesServer, idempotencyKey};
 }
 
 Operation postingForm(const char* name, const QUrl& url, const Parameters& form) {
@@ -108,11 +109,12 @@ void NetworkManager::profileInformation(Completion<UserProfile> done) {
 }
 
 void NetworkManager::suggestionMailboxAdd(Int categoryId, const QString& body,
-                                          Completion<MessageResponse> done) {
+                                          Completion<MessageResponse> done,
+                                          const QByteArray& idempotencyKey) {
     const Parameters query{{QStringLiteral("category_id"), parameterValue(qint64(categoryId))},
                            {QStringLiteral("body"), body}};
     const QUrl url = urlOf(networkConfiguration_.urls.suggestionMailboxAdd);
-    request(postingQuery("suggestionMailboxAdd", url, query, Effect::ChangesServer), done);
+    request(postingQuery("suggestionMailboxAdd", url, query, Effect::ChangesServer, idempotencyKey), done);
 }
 
 // ---- Customers and places
@@ -177,14 +179,16 @@ void NetworkManager::deleteOrder(Int id, ApplicationType type, Completion<Simple
             done);
 }
 
-void NetworkManager::claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done) {
+void NetworkManager::claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done,
+                                const QByteArray& idempotencyKey) {
     const Parameters query{{QStringLiteral("order_id"), parameterValue(qint64(orderId))},
                            {QStringLiteral("comment"), comment}};
     const QUrl url = urlOf(networkConfiguration_.urls.claimOrder);
-    request(postingQuery("claimOrder", url, query, Effect::ChangesServer), done);
+    request(postingQuery("claimOrder", url, query, Effect::ChangesServer, idempotencyKey), done);
 }
 
-void NetworkManager::demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done) {
+void NetworkManager::demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done,
+                                   const QByteArray& idempotencyKey) {
     const Parameters query{
         {QStringLiteral("order_id"), parameterValue(qint64(demand.orderId))},
         {QStringLiteral("brand_qr_id"), parameterValue(qint64(demand.brandQrId))},
@@ -194,7 +198,7 @@ void NetworkManager::demandBrandQr(const BrandQrDemand& demand, Completion<Deman
         {QStringLiteral("quantity_qr_taco"), parameterValue(qint64(demand.quantityQrTaco))},
         {QStringLiteral("comment"), demand.comment}};
     const QUrl url = urlOf(networkConfiguration_.urls.demandBrandQr);
-    request(postingQuery("demandBrandQr", url, query, Effect::ChangesServer), done);
+    request(postingQuery("demandBrandQr", url, query, Effect::ChangesServer, idempotencyKey), done);
 }
 
 void NetworkManager::sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,

@@ -107,6 +107,7 @@ struct BrandQrDemand {
     Int quantityQrCircular = 0;
     Int quantityQrTaco = 0;
     QString comment;
+    bool operator==(const BrandQrDemand&) const = default;
 };
 
 // Every operation of the backend as one typed function, named after its key in the configuration. Screens
@@ -128,8 +129,8 @@ public:
     // Decodes and indexes the catalogue off the main thread.
     virtual void appInformation(Completion<std::shared_ptr<const Catalogue>> done) = 0;
     virtual void profileInformation(Completion<UserProfile> done) = 0;
-    virtual void suggestionMailboxAdd(Int categoryId, const QString& body,
-                                      Completion<MessageResponse> done) = 0;
+    virtual void suggestionMailboxAdd(Int categoryId, const QString& body, Completion<MessageResponse> done,
+                                      const QByteArray& idempotencyKey = {}) = 0;
 
     // Uses the application type of the section entered; the process stops without one.
     virtual void getCustomerDataFromTevoCode(const QString& tevo, Completion<std::vector<Customer>> done) = 0;
@@ -137,19 +138,20 @@ public:
     virtual void priceRecommendation(Int productId, const QString& postalCode, const QString& locality,
                                      Completion<PriceRecommendationResponse> done) = 0;
 
-    // Under one key the server takes an order once, however often it is sent; without a key each call is an
-    // intent of its own.
+    // Under one key the server takes an order, a claim, a demand or a suggestion once, however often it is
+    // sent; without a key each call is an intent of its own.
     virtual void saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
                            const QByteArray& idempotencyKey = {}) = 0;
     virtual void retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) = 0;
     virtual void retrieveBrochureOrder(Int orderId, Completion<RetrieveBrochureOrderListResponse> done) = 0;
     virtual void deleteOrder(Int id, ApplicationType type, Completion<SimpleResponse> done) = 0;
-    virtual void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done) = 0;
-    virtual void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done) = 0;
+    virtual void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done,
+                            const QByteArray& idempotencyKey = {}) = 0;
+    virtual void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done,
+                               const QByteArray& idempotencyKey = {}) = 0;
     virtual void sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,
                               Completion<SimpleResponse> done) = 0;
-    virtual void createTextileOrder(const SaveTextileOrder& order,
-                                    Completion<SaveTextileOrderResponse> done,
+    virtual void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,
                                     const QByteArray& idempotencyKey = {}) = 0;
     virtual void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) = 0;
     virtual void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) = 0;

@@ -18,6 +18,7 @@ public:
     void add(const std::string& plainName);
     // The server has it, or the file is gone.
     void remove(const std::string& plainName);
+
 private:
     DraftsWithChanges() = default;
     void write();

@@ -32,6 +32,7 @@ inline constexpr std::string_view activations = "showActivationsSegue";
 inline constexpr std::string_view profile = "showProfileSegue";
 inline constexpr std::string_view allOrders = "AllOrdersControllerIdentifier";
 inline constexpr std::string_view suggestions = "showSuggestionsSegue";
+inline constexpr std::string_view tutorials = "showTutorialsSegue";
 } // namespace transition
 
 // The options that have a button, in the order of the dashboard (which is not the order of their

@@ -131,6 +131,32 @@ TEST_F(OnlineCommandsTest, ListsTheOrdersSentWithTheServersState) {
                         "    \"state\": \"En curso\"\n  }\n]\n");
 }
 
+TEST_F(OnlineCommandsTest, ShowsTheProfileAndSendsSuggestionsAndClaims) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    server.answer("/api/profile",
+                  ScriptedAnswer::json(R"({"usuario":{"name":"Ana","zona":"","presupuesto":"10 €",
+        "disponible":"4 €","cartas_realizadas":"1","textil_presupuesto":"0 €","textil_disponible":"0 €",
+        "textil_pedidos":"3"}})"));
+    EXPECT_EQ(online({"profile"}).out,
+              "Nombre: Ana\nCartas: 4 € de 10 €, 1 pedido\nTextil: 0 € de 0 €, 3 pedidos\n");
+    EXPECT_TRUE(json::isWellFormed(online({"profile", "--json"}).out));
+    const auto says = ScriptedAnswer::json(R"({"msg":"Gracias."})");
+    server.answer("/api/orders/claim", says);
+    server.answer("/api/suggestions", says);
+    const Outcome claim = online({"orders", "claim", "41", " Falta una caja"});
+    EXPECT_EQ(claim.out, "Gracias.\n") << claim.err;
+    EXPECT_EQ(online({"suggest", "--category", "3", "Más papel"}).out, "Gracias.\n");
+    EXPECT_EQ(server.requestsTo("/api/orders/claim").value(0).target,
+              "/api/orders/claim?comment=%20Falta%20una%20caja&order_id=41");
+    EXPECT_EQ(server.requestsTo("/api/suggestions").value(0).target,
+              "/api/suggestions?body=M%C3%A1s%20papel&category_id=3");
+    EXPECT_EQ(online({"orders", "claim", "41", " "}).status, ctl::wrongUsage);
+    EXPECT_EQ(online({"suggest", "Más papel"}).status, ctl::wrongUsage);
+    qputenv("KAVOR_OFFLINE", "1");
+    EXPECT_EQ(online({"orders", "claim", "41", "Falta"}).err, "No hay conexión a internet.\n");
+    EXPECT_EQ(server.requestsTo("/api/orders/claim").size(), 1);
+}
+
 TEST_F(OnlineCommandsTest, KeepsTheTokenOfARepairForTheNextProcess) {
     ASSERT_EQ(logIn().status, ctl::fine);
     server.answer("/api/login", ScriptedAnswer::json(R"({"msg":"ok","token":"T2"})"));

@@ -61,6 +61,18 @@ TEST(Operations, LogInWithATokenWithoutAPasswordAndSayTheirTerminalWhenItIsKnown
     EXPECT_EQ(rig.manager.accessToken(), "") << "the caller keeps the token, not the pipeline";
 }
 
+TEST(Operations, TellAMessageAndADemandOnceUnderTheKeyOfTheirSender) {
+    Rig rig;
+    rig.server.setHandler([](const ScriptedRequest&) { return ScriptedAnswer::json(R"({"msg":"ok"})"); });
+    Outcome outcome;
+    rig.manager.claimOrder(5, {}, outcome.completion<MessageResponse>(), "mine");
+    rig.manager.demandBrandQr({}, outcome.completion<DemandBrandQrErrorResponse>(), "mine");
+    rig.manager.suggestionMailboxAdd(4, {}, outcome.completion<MessageResponse>(), "mine");
+    ASSERT_TRUE(waitFor([&] { return outcome.successes == 3; }));
+    for (const ScriptedRequest& request : rig.server.requests())
+        EXPECT_EQ(request.header("idempotency-key"), "mine") << request.target.toStdString();
+}
+
 TEST(OperationsDeathTest, StopForACustomerWithoutASectionAndForAnOrderWithoutAJsonForm) {
     Rig rig;
     Outcome outcome;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/BackgroundTasks.h"
+#include "device/FilmPlayer.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
 #include "device/PhotoPicker.h"
@@ -71,6 +72,29 @@ public:
     QStringList opened;
     bool opens = true; // false: nothing on the device opens an address
     bool openExternally(const QString& url) override { return opened.append(url), opens; }
+};
+
+// A film as a test plays it.
+class FakeFilmPlayer : public FilmPlayer {
+public:
+    std::vector<QUrl> opened;
+    FilmStatus now;
+
+    void open(const QUrl& film) override {
+        opened.push_back(film);
+        become({FilmStatus::State::Loading, 0, 0, false});
+    }
+    void play() override { become({FilmStatus::State::Playing, now.position, now.duration, now.seekable}); }
+    void pause() override { become({FilmStatus::State::Paused, now.position, now.duration, now.seekable}); }
+    void seek(qint64 position) override { become({now.state, position, now.duration, now.seekable}); }
+    void close() override { become({}); }
+    [[nodiscard]] FilmStatus status() const override { return now; }
+    [[nodiscard]] QImage frame() const override { return {}; }
+
+    void become(const FilmStatus& status) {
+        now = status;
+        emit statusChanged();
+    }
 };
 
 class RecordingNotifications : public LocalNotifications {

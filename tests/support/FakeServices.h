@@ -99,7 +99,7 @@ public:
         FakeOperation<LoginResult> userInformation;
         FakeOperation<std::shared_ptr<const Catalogue>> appInformation;
         FakeOperation<UserProfile> profileInformation;
-        FakeOperation<MessageResponse, Int, QString> suggestionMailboxAdd;
+        FakeOperation<MessageResponse, Int, QString, QByteArray> suggestionMailboxAdd; // with its key
         FakeOperation<std::vector<Customer>, QString> getCustomerDataFromTevoCode;
         FakeOperation<SearchMapsResponse, QString> searchMaps;
         FakeOperation<PriceRecommendationResponse, Int, QString, QString> priceRecommendation;
@@ -107,8 +107,8 @@ public:
         FakeOperation<OrderList, OrderListFilter> retrieveBrochureOrderList;
         FakeOperation<RetrieveBrochureOrderListResponse, Int> retrieveBrochureOrder;
         FakeOperation<SimpleResponse, Int, ApplicationType> deleteOrder;
-        FakeOperation<MessageResponse, Int, QString> claimOrder;
-        FakeOperation<DemandBrandQrErrorResponse, BrandQrDemand> demandBrandQr;
+        FakeOperation<MessageResponse, Int, QString, QByteArray> claimOrder;                // with its key
+        FakeOperation<DemandBrandQrErrorResponse, BrandQrDemand, QByteArray> demandBrandQr; // with its key
         FakeOperation<SimpleResponse, SaveBrochuresOrder, QString> sendRawOrder;
         FakeOperation<SaveTextileOrderResponse, SaveTextileOrder, QByteArray> createTextileOrder;
         FakeOperation<RetrieveTextileOrderResponse, Int> retrieveTextileOrder;
@@ -144,9 +144,9 @@ public:
     void profileInformation(Completion<UserProfile> done) override {
         requests.profileInformation.called(std::move(done));
     }
-    void suggestionMailboxAdd(Int categoryId, const QString& body,
-                              Completion<MessageResponse> done) override {
-        requests.suggestionMailboxAdd.called(std::move(done), categoryId, body);
+    void suggestionMailboxAdd(Int categoryId, const QString& body, Completion<MessageResponse> done,
+                              const QByteArray& idempotencyKey = {}) override {
+        requests.suggestionMailboxAdd.called(std::move(done), categoryId, body, idempotencyKey);
     }
     void getCustomerDataFromTevoCode(const QString& tevo, Completion<std::vector<Customer>> done) override {
         requests.getCustomerDataFromTevoCode.called(std::move(done), tevo);
@@ -171,11 +171,13 @@ public:
     void deleteOrder(Int id, ApplicationType type, Completion<SimpleResponse> done) override {
         requests.deleteOrder.called(std::move(done), id, type);
     }
-    void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done) override {
-        requests.claimOrder.called(std::move(done), orderId, comment);
+    void claimOrder(Int orderId, const QString& comment, Completion<MessageResponse> done,
+                    const QByteArray& idempotencyKey = {}) override {
+        requests.claimOrder.called(std::move(done), orderId, comment, idempotencyKey);
     }
-    void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done) override {
-        requests.demandBrandQr.called(std::move(done), demand);
+    void demandBrandQr(const BrandQrDemand& demand, Completion<DemandBrandQrErrorResponse> done,
+                       const QByteArray& idempotencyKey = {}) override {
+        requests.demandBrandQr.called(std::move(done), demand, idempotencyKey);
     }
     void sendRawOrder(const SaveBrochuresOrder& order, const QString& fileName,
                       Completion<SimpleResponse> done) override {

@@ -7,6 +7,7 @@ namespace kavor {
 class AlertPresenter;
 class AppSingleton;
 class AuthManager;
+class FilmPlayer;
 class Reachability;
 class ServiceOperations;
 class UrlOpener;
@@ -20,6 +21,7 @@ struct AccountServices {
     UrlOpener& urls;
     Reachability& reachability;
     SuggestionDraft& suggestion;
+    FilmPlayer& films;
 };
 
 } // namespace kavor

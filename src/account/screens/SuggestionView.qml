@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Kavor.Kit
 import Kavor.Screens
 import Kavor.Ui
 
@@ -56,27 +57,13 @@ FocusScope {
                 error: view.controller.categoryError
                 onActivated: (index) => view.controller.chooseCategory(index)
             }
-            TextAreaRow {
-                id: body
-
-                objectName: "suggestionBody"
+            MessageField {
                 width: parent.width
+                name: "suggestionBody"
+                form: view.controller
                 label: "Sugerencia"
                 placeholder: "Escribe aquí tu idea, un problema que has visto o lo que echas en falta."
-                lines: 8
                 error: view.controller.bodyError
-                onEdited: (text) => {
-                    const kept = view.controller.editBody(text);
-                    if (kept !== text)
-                        body.text = kept;
-                }
-                Component.onCompleted: body.text = view.controller.body
-            }
-            HelpText {
-                objectName: "suggestionCounter"
-                width: parent.width
-                horizontalAlignment: Text.AlignRight
-                text: view.controller.counter
             }
             AppButton {
                 objectName: "sendSuggestion"
@@ -87,13 +74,6 @@ FocusScope {
                 busy: view.controller.sending
                 onClicked: view.controller.sendAction()
             }
-        }
-    }
-    Connections {
-        target: view.controller
-
-        function onEmptied(): void {
-            body.text = "";
         }
     }
     Veil {

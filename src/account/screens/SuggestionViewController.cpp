@@ -1,13 +1,9 @@
 #include "account/screens/SuggestionViewController.h"
 
 #include "catalogue/Catalogue.h"
-#include "device/Reachability.h"
 #include "documents/Answers.h"
+#include "interaction/AlertPresenter.h"
 #include "interaction/QtText.h"
-#include "interaction/Questions.h"
-#include "network/ServiceOperations.h"
-#include "network/ShowRequestFailure.h"
-#include "screens/QueryText.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"
 
@@ -22,18 +18,23 @@ const std::vector<SuggestionCategory>& offered(const Catalogue* catalogue) {
     return catalogue ? catalogue->information().suggestionCategories : none;
 }
 
+// The draft of who is logged in.
+SuggestionDraft& ownDraft(const AccountServices& services) {
+    const auto stored = services.auth.readCredentials();
+    const std::string account = stored ? stored->account : std::string();
+    if (services.suggestion.account != account) // what somebody else wrote on this device
+        services.suggestion = {account, std::nullopt, {}};
+    return services.suggestion;
+}
+
 } // namespace
 
 SuggestionViewController::SuggestionViewController(const AccountServices& services, QObject* parent)
-    : ScreenController(parent)
-    , services_(services)
-    , catalogue_(services.session.applicationInformation) {
-    const auto stored = services_.auth.readCredentials();
-    const std::string account = stored ? stored->account : std::string();
-    if (services_.suggestion.account != account) // what somebody else wrote on this device
-        services_.suggestion = {account, std::nullopt, {}};
-    connect(&services_.reachability, &Reachability::changed, this, &SuggestionViewController::offlineChanged);
-}
+    : MessageFormController({services.network, services.alerts, services.urls, services.reachability},
+                            ownDraft(services).body,
+                            QStringLiteral("Es posible que la sugerencia ya se haya enviado."), parent)
+    , draft_(services.suggestion)
+    , catalogue_(services.session.applicationInformation) {}
 
 SuggestionViewController::~SuggestionViewController() = default;
 
@@ -41,15 +42,8 @@ void SuggestionViewController::chooseCategory(int index) {
     const auto& all = offered(catalogue_.get());
     if (index < 0 || index >= int(all.size()))
         return;
-    services_.suggestion.category = all[std::size_t(index)].id;
+    draft_.category = all[std::size_t(index)].id;
     emit formChanged();
-}
-
-QString SuggestionViewController::editBody(const QString& text) {
-    const QString kept = query_text::fitting(text);
-    services_.suggestion.body = kept.toStdString();
-    emit formChanged();
-    return kept;
 }
 
 void SuggestionViewController::sendAction() {
@@ -57,55 +51,22 @@ void SuggestionViewController::sendAction() {
         return;
     tried_ = true;
     emit formChanged();
-    if (category() < 0 || isBodyBlank())
+    if (category() < 0 || isTextBlank())
         return;
-    if (isOffline())
-        return informOffline(services_.alerts);
-    services_.network.suggestionMailboxAdd(
-        *services_.suggestion.category, body(),
-        {run_.begin(), [this](const MessageResponse& answer) { sent(fromUtf8(answer.msg)); },
-         [this](const RequestFailure& failure) { failed(failure); }});
-    emit sendingChanged();
+    const Int chosen = *draft_.category;
+    send<MessageResponse>(
+        "suggestion/" + std::to_string(chosen) + '/' + draft_.body.text,
+        [&](const Completion<MessageResponse>& done, const QByteArray& key) {
+            services().network.suggestionMailboxAdd(chosen, text(), done, key);
+        },
+        [this](const MessageResponse& answer) { sent(fromUtf8(answer.msg)); });
 }
 
 void SuggestionViewController::sent(const QString& message) {
-    run_.end();
-    services_.suggestion.category.reset();
-    services_.suggestion.body.clear();
+    draft_.category.reset();
     tried_ = false;
-    emit sendingChanged();
-    emit formChanged();
-    emit emptied();
-    services_.alerts.inform(QStringLiteral("Buzón"), message);
-}
-
-void SuggestionViewController::failed(const RequestFailure& failure) {
-    run_.end();
-    emit sendingChanged();
-    if (failure.error.updateNeeded)
-        return showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, {});
-    const QString message = failure.messages && !failure.messages->isEmpty()
-                                ? failure.messages->first()
-                                : failure.error.localizedDescription;
-    ask(services_.alerts, this, QStringLiteral("Incidencia"), message,
-        {{QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}},
-         {QStringLiteral("Intentar de nuevo"), AlertButton::Role::Normal, [this] { sendAction(); }}});
-}
-
-void SuggestionViewController::leaveVeil() {
-    run_.end();
-    emit sendingChanged();
-    services_.alerts.inform(QStringLiteral("Atención"),
-                            QStringLiteral("Es posible que la sugerencia ya se haya enviado."));
-}
-
-void SuggestionViewController::closeSceneAction() {
-    if (isBodyBlank()) {
-        emit closed();
-        return;
-    }
-    ask(services_.alerts, this, QStringLiteral("Atención"), QStringLiteral("¿Salir sin enviar?"),
-        {no(), yes([this] { emit closed(); })});
+    emptyText();
+    services().alerts.inform(QStringLiteral("Buzón"), message);
 }
 
 QStringList SuggestionViewController::categories() const {
@@ -117,22 +78,9 @@ QStringList SuggestionViewController::categories() const {
 
 int SuggestionViewController::category() const {
     const auto& all = offered(catalogue_.get());
-    const auto found = services_.suggestion.category
-                           ? std::ranges::find(all, *services_.suggestion.category, &SuggestionCategory::id)
-                           : all.end();
+    const auto found =
+        draft_.category ? std::ranges::find(all, *draft_.category, &SuggestionCategory::id) : all.end();
     return found == all.end() ? -1 : int(found - all.begin());
-}
-
-QString SuggestionViewController::body() const {
-    return fromUtf8(services_.suggestion.body);
-}
-
-bool SuggestionViewController::isBodyBlank() const {
-    return body().trimmed().isEmpty();
-}
-
-QString SuggestionViewController::counter() const {
-    return query_text::counter(body());
 }
 
 QString SuggestionViewController::categoryError() const {
@@ -140,11 +88,7 @@ QString SuggestionViewController::categoryError() const {
 }
 
 QString SuggestionViewController::bodyError() const {
-    return tried_ && isBodyBlank() ? QStringLiteral("Escribe tu sugerencia.") : QString();
-}
-
-bool SuggestionViewController::isOffline() const {
-    return !services_.network.isReachable();
+    return tried_ && isTextBlank() ? QStringLiteral("Escribe tu sugerencia.") : QString();
 }
 
 } // namespace kavor

@@ -140,7 +140,7 @@ public:
     std::vector<MenuPromotion> promotions;
     std::vector<SaveBrochuresOrder::Menu::ProductPennant> productPennant;
     bool defaultHighlightedElementVisited = false;
-    std::optional<std::string> fileName; // plain name of the order's file
+    std::optional<std::string> fileName;   // plain name of the order's file
     std::optional<std::string> outboxFile; // plain name of the file of the outbox that it was opened from
     std::optional<Int> orderIdentifier;
     // The "Tmp" fields are the working values of the four switches on the screens; only the plain ones

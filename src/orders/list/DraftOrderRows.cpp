@@ -93,7 +93,8 @@ void placeStates(std::vector<DraftOrderRow>& rows) {
 // Of a section that has rows: a kind of brochure, or one of textile.
 Int numberOf(const SectionIdentifier& section) {
     const auto brochure = section.brochureType();
-    return brochure ? static_cast<Int>(*brochure) : static_cast<Int>(std::get<ApplicationType>(section.value));
+    return brochure ? static_cast<Int>(*brochure)
+                    : static_cast<Int>(std::get<ApplicationType>(section.value));
 }
 
 std::string keyOf(const SectionIdentifier& section, Int serverId) {

@@ -53,8 +53,8 @@ public:
     // the process.
     void applyAnswer(const OrderList& answer);
 
-    // Takes in the answer of a quick filter: its brochures take the place of those sent, in any state; nothing
-    // else changes.
+    // Takes in the answer of a quick filter: its brochures take the place of those sent, in any state;
+    // nothing else changes.
     void applyQuickFilter(const OrderList& answer);
 
     // Empties the sent lists.

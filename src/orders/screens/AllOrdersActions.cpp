@@ -92,8 +92,7 @@ void AllOrdersManagementViewController::askForVersion(const DraftOrderRow& row) 
                 fetchToEdit(*found, version);
         };
     };
-    ask(services_.alerts, this, QStringLiteral("Atención"),
-        QStringLiteral("¿Qué versión quieres abrir?"),
+    ask(services_.alerts, this, QStringLiteral("Atención"), QStringLiteral("¿Qué versión quieres abrir?"),
         {{QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}},
          {QStringLiteral("La del dispositivo"), AlertButton::Role::Normal, choose(Version::Device)},
          {QStringLiteral("La de la nube"), AlertButton::Role::Normal, choose(Version::Server)}});
@@ -101,9 +100,9 @@ void AllOrdersManagementViewController::askForVersion(const DraftOrderRow& row) 
 
 void AllOrdersManagementViewController::fetchToEdit(const DraftOrderRow& row, Version version) {
     if (version == Version::Server && isOffline())
-        return services_.alerts.inform(
-            QStringLiteral("Sin conexión a internet"),
-            QStringLiteral("Se necesita conexión para descargar el pedido."), this);
+        return services_.alerts.inform(QStringLiteral("Sin conexión a internet"),
+                                       QStringLiteral("Se necesita conexión para descargar el pedido."),
+                                       this);
     const QPointer<QObject> run = beginWait(QStringLiteral("Abriendo el pedido…"));
     services_.actions.fetchToEdit(
         row, version, [this, run, row](const OrderActions::Fetched<OrderToEdit>& fetched) {
@@ -113,9 +112,9 @@ void AllOrdersManagementViewController::fetchToEdit(const DraftOrderRow& row, Ve
             if (fetched.value)
                 return open(row, *fetched.value);
             if (!fetched.failure || !fetched.failure->error.updateNeeded)
-                return services_.alerts.inform(
-                    QStringLiteral("Incidencia"),
-                    QStringLiteral("El pedido no se puede cargar de servidor"), this);
+                return services_.alerts.inform(QStringLiteral("Incidencia"),
+                                               QStringLiteral("El pedido no se puede cargar de servidor"),
+                                               this);
             tellFailure(*fetched.failure, {}, {});
         });
 }
@@ -127,7 +126,7 @@ void AllOrdersManagementViewController::open(const DraftOrderRow& row, const Ord
     services_.session.actualSection = row.sectionIdentifier;
     services_.session.actualApplicationType = applicationTypeOf(row.sectionIdentifier);
     openOrder(toEdit);
-    cover(services_.openWizard);
+    cover(ways_.wizard);
 }
 
 // ---- Send
@@ -253,7 +252,8 @@ void AllOrdersManagementViewController::removeFile(const DraftOrderRow& row) {
                           state = row.syncState](bool gone) {
         if (!gone)
             return alerts.inform(QStringLiteral("Error"),
-                                 QStringLiteral("No se ha podido borrar el pedido ") + fromUtf8(label(state)));
+                                 QStringLiteral("No se ha podido borrar el pedido ") +
+                                     fromUtf8(label(state)));
         if (self && canBeUndone)
             offerUndo(file);
     };
@@ -449,7 +449,7 @@ void AllOrdersManagementViewController::claimOrder(qlonglong id) {
     if (!order)
         return;
     closeSheet();
-    cover([this, order = *order] { services_.openClaim(order); });
+    cover([this, order = *order] { ways_.claim(order); });
 }
 
 void AllOrdersManagementViewController::demandQrOrder(qlonglong id) {
@@ -463,7 +463,7 @@ void AllOrdersManagementViewController::demandQrOrder(qlonglong id) {
                                        QStringLiteral("Este tipo de pedido ya no está en el catálogo."),
                                        this);
     closeSheet();
-    cover([this, order = *order] { services_.openQrDemand(order); });
+    cover([this, order = *order] { ways_.qrDemand(order); });
 }
 
 void AllOrdersManagementViewController::qrDemanded(Int id, std::optional<bool> canDemandQr,

@@ -198,5 +198,9 @@ FocusScope {
         sourceComponent: SentOrderSheet { controller: view.controller }
     }
     SyncHelpView { controller: view.controller }
-    ScreenVeil { objectName: "veloView"; veilState: view.controller.veil }
+    ScreenVeil {
+        objectName: "veloView"
+        veilState: view.controller.veil
+        wayOutText: "Trabajar en local"
+    }
 }

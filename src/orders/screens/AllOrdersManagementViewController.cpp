@@ -34,8 +34,10 @@ constexpr char workLocally[] = "Trabajar en local";
 constexpr char tryAgain[] = "Intentar de nuevo";
 
 constexpr std::array quickFilters{
-    QuickFilterForm{
-        QuickFilter::WithoutConfirm, &OrderListFilter::sinConfirmar, "Sin confirmar", {workLocally, tryAgain}},
+    QuickFilterForm{QuickFilter::WithoutConfirm,
+                    &OrderListFilter::sinConfirmar,
+                    "Sin confirmar",
+                    {workLocally, tryAgain}},
     // Nothing is deleted: the button only hides the veil, like the other one.
     QuickFilterForm{QuickFilter::WithoutComplete,
                     &OrderListFilter::sinCompletar,
@@ -81,10 +83,10 @@ QString explanationOf(OrderSyncState state) {
 
 } // namespace
 
-AllOrdersManagementViewController::AllOrdersManagementViewController(OrderListServices services,
+AllOrdersManagementViewController::AllOrdersManagementViewController(const OrderListServices& services,
                                                                      QObject* parent)
     : ScreenController(parent)
-    , services_(std::move(services)) {
+    , services_(services) {
     observe();
 }
 
@@ -202,11 +204,10 @@ void AllOrdersManagementViewController::fetchServerOrders() {
         return dropAnswer();
     }
     setLoad(Load::UnderWay);
-    services_.network.retrieveBrochureOrderList(
-        {active_.orderId, active_.tevo, active_.pdv, 0, 0, 0, true},
-        {beginWait(QStringLiteral("Cargando los pedidos…")),
-         [this](const OrderList& answer) { answered(answer); },
-         [this](const RequestFailure& failure) { failed(failure); }});
+    services_.network.retrieveBrochureOrderList({active_.orderId, active_.tevo, active_.pdv, 0, 0, 0, true},
+                                                {beginWait(QStringLiteral("Cargando los pedidos…")),
+                                                 [this](const OrderList& answer) { answered(answer); },
+                                                 [this](const RequestFailure& failure) { failed(failure); }});
 }
 
 void AllOrdersManagementViewController::answered(const OrderList& answer) {
@@ -457,10 +458,9 @@ void AllOrdersManagementViewController::hideNotifications() {
 }
 
 void AllOrdersManagementViewController::refreshAge() {
-    const QString age =
-        answeredAt_ ? QStringLiteral("Actualizado hace ") +
-                          elapsedText(services_.clock.now().toSecsSinceEpoch() - *answeredAt_)
-                    : QString();
+    const QString age = answeredAt_ ? QStringLiteral("Actualizado hace ") +
+                                          elapsedText(services_.clock.now().toSecsSinceEpoch() - *answeredAt_)
+                                    : QString();
     if (std::exchange(age_, age) != age)
         emit ageChanged();
     services_.clock.cancel(ageTimer_);

@@ -45,10 +45,13 @@ struct OrderListServices {
     UrlOpener& urls;
     Clock& clock;
     Reachability& reachability;
-    // The ways to further screens.
-    std::function<void()> openWizard; // with the shared draft, as it stands
-    std::function<void(const OrderList::Order&)> openClaim;
-    std::function<void(const OrderList::Order&)> openQrDemand;
+};
+
+// The ways from the list to further screens.
+struct OrderListWays {
+    std::function<void()> wizard; // with the shared draft, as it stands
+    std::function<void(const OrderList::Order&)> claim;
+    std::function<void(const OrderList::Order&)> qrDemand;
 };
 
 // All that the user ordered: on the left the drafts of device and cloud and what waits in the outbox, on the
@@ -100,8 +103,11 @@ public:
 
     static constexpr std::chrono::seconds undoTime{8};
 
-    explicit AllOrdersManagementViewController(OrderListServices services, QObject* parent = nullptr);
+    explicit AllOrdersManagementViewController(const OrderListServices& services, QObject* parent = nullptr);
     ~AllOrdersManagementViewController() override;
+
+    // Before it comes on show.
+    void setWays(OrderListWays ways) { ways_ = std::move(ways); }
 
     void viewWillAppear() override;
 
@@ -242,6 +248,7 @@ private:
     [[nodiscard]] std::vector<OrderFile> waitingFiles() const;
 
     OrderListServices services_;
+    OrderListWays ways_;
     std::vector<NotificationCenter::Subscription> observers_;
     VeilState veil_;
     PendingRun wait_;    // the request that the veil stands for

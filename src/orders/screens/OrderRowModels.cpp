@@ -20,7 +20,8 @@ QString placeText(const std::string& pointOfSale) {
 }
 
 QString nameText(const std::string& fileName) {
-    return fileName.empty() ? QStringLiteral("(Sin nombre)") : fromUtf8(fileName.substr(0, fileName.find('.')));
+    return fileName.empty() ? QStringLiteral("(Sin nombre)")
+                            : fromUtf8(fileName.substr(0, fileName.find('.')));
 }
 
 QString typeText(const SectionIdentifier& section) {
@@ -188,9 +189,9 @@ QVariant SentOrdersModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SentOrdersModel::roleNames() const {
-    return {{OrderId, "orderId"},       {SentNumber, "number"},     {SentDate, "orderDate"},
-            {SentType, "orderType"},    {SentPlace, "pointOfSale"}, {SentState, "stateText"},
-            {Pending, "pending"},       {CanDemandQr, "canDemandQr"}, {HasNote, "hasNote"}};
+    return {{OrderId, "orderId"},    {SentNumber, "number"},       {SentDate, "orderDate"},
+            {SentType, "orderType"}, {SentPlace, "pointOfSale"},   {SentState, "stateText"},
+            {Pending, "pending"},    {CanDemandQr, "canDemandQr"}, {HasNote, "hasNote"}};
 }
 
 } // namespace kavor

@@ -219,7 +219,9 @@ void OrderActions::fetchToEdit(const DraftOrderRow& row, Version version,
          [done, id = *row.serverId(), name = row.filename](const RetrieveBrochureOrderListResponse& answer) {
              done({OrderToEdit{orderOf(id, answer), name, {}, {}}});
          },
-         [done](const RequestFailure& failure) { done({std::nullopt, failure}); }});
+         [done](const RequestFailure& failure) {
+             done({std::nullopt, failure});
+         }});
 }
 
 void OrderActions::fetchFromFile(const OrderFile& file, const Then<Fetched<OrderToEdit>>& done) {

@@ -55,8 +55,8 @@ struct OrderTexts {
 
     // One that was sent out of the outbox, where its file could not be removed.
     QString fileStaysTitle = QStringLiteral("Enviado");
-    QString fileStays = QStringLiteral(
-        "El pedido se ha enviado correctamente pero no se ha podido borrar del dispositivo.");
+    QString fileStays =
+        QStringLiteral("El pedido se ha enviado correctamente pero no se ha podido borrar del dispositivo.");
 
     // An order that could not be sent; %1 is the name of its file.
     QString queuedTitle = QStringLiteral("Sin conexión a internet.");

@@ -12,7 +12,8 @@ namespace sent_files {
 // Removes the draft of the order's name where it is that order: a name may have been given to another one,
 // which nobody has sent. From any thread.
 void removeDraft(const OrderDiskManager& orders, const SaveBrochuresOrder& sent);
-// The same for an order that waited in the outbox: the user may have gone on with its draft, which stays then.
+// The same for an order that waited in the outbox: the user may have gone on with its draft, which stays
+// then.
 void removeUnchangedDraft(const OrderDiskManager& orders, const SaveBrochuresOrder& sent);
 // A draft that is gone has no changes. Main thread only.
 void forgetChanges(const OrderDiskManager& orders, const SaveBrochuresOrder& sent);

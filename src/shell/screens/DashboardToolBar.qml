@@ -13,7 +13,7 @@ Row {
         { id: "allOrders", text: "Pedidos", icon: "orders", ready: true },
         { id: "profile", text: "Perfil", icon: "user", ready: true },
         { id: "suggestions", text: "Buzón", icon: "mailbox", ready: true },
-        { id: "tutorials", text: "Tutoriales", icon: "play", ready: false },
+        { id: "tutorials", text: "Tutoriales", icon: "play", ready: true },
         { id: "logout", text: "Salir", icon: "logout", ready: true }
     ]
 

@@ -186,6 +186,8 @@ void WelcomeViewController::openTool(const QString& name) {
         emit transitionPerformed(fromUtf8(transition::allOrders));
     else if (name == QLatin1String("suggestions"))
         emit transitionPerformed(fromUtf8(transition::suggestions));
+    else if (name == QLatin1String("tutorials"))
+        emit transitionPerformed(fromUtf8(transition::tutorials));
 }
 
 void WelcomeViewController::updateInfoapp() {

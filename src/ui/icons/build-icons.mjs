@@ -13,6 +13,7 @@ const names = {
   flag: "flag", pennant: "flag-triangle-right", pennantbrand: "flag", products: "layout-grid",
   // Tool bar
   refresh: "refresh-cw", orders: "clipboard-list", list: "list", user: "user", mailbox: "mailbox", play: "play",
+  pause: "pause", expand: "maximize", shrink: "minimize",
   logout: "log-out", settings: "sliders-horizontal", help: "circle-question-mark", hamburger: "menu",
   // Actions
   search: "search", close: "x", check: "check", "chevron-left": "chevron-left", "chevron-right": "chevron-right",

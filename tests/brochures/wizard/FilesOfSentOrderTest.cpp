@@ -16,7 +16,9 @@ protected:
     static constexpr auto print = OrderRequestType::sendToPrint;
     std::unique_ptr<BrochureRoad> road;
 
-    void open() { road = std::make_unique<BrochureRoad>(services, BrochureIntermediateData::temporalBrochure()); }
+    void open() {
+        road = std::make_unique<BrochureRoad>(services, BrochureIntermediateData::temporalBrochure());
+    }
     // The order of the draft in a file of the outbox, opened from there.
     void openFromOutbox() {
         completeDraft();

@@ -1,8 +1,7 @@
-#include "orders/screens/AllOrdersManagementViewController.h"
-
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/WizardFixture.h"
 #include "orders/DraftsWithChanges.h"
+#include "orders/screens/AllOrdersManagementViewController.h"
 
 namespace kavor {
 namespace {
@@ -34,8 +33,8 @@ protected:
     void draft(const std::string& name, std::optional<Int> id = {}, Directory directory = Directory::draft,
                BrochureType type = BrochureType::beer) {
         KeptOrder order;
-        order.save = directory == Directory::draft ? OrderRequestType::saveCloud
-                                                   : OrderRequestType::sendToPrint;
+        order.save =
+            directory == Directory::draft ? OrderRequestType::saveCloud : OrderRequestType::sendToPrint;
         order.menu.orderType = type;
         order.menu.customer.name = "Local de " + name;
         order.filename = name;
@@ -59,9 +58,11 @@ protected:
     }
 
     void open() {
-        screen = std::make_unique<AllOrdersManagementViewController>(OrderListServices{
-            session, network, orders, actions, planned, alerts, urls, clock, reachability,
-            [this] { ++wizards; }, [this](const OrderList::Order& order) { claims.push_back(order.id); }, {}});
+        screen = std::make_unique<AllOrdersManagementViewController>(
+            OrderListServices{session, network, orders, actions, planned, alerts, urls, clock, reachability});
+        screen->setWays({[this] { ++wizards; },
+                         [this](const OrderList::Order& order) { claims.push_back(order.id); },
+                         {}});
         screen->viewWillAppear();
     }
     // Opens the list and lets the server answer.
@@ -77,7 +78,9 @@ protected:
         ASSERT_TRUE(waitFor([&] { return !screen->veil()->isVisible(); }));
     }
     auto& lists() { return network.requests.retrieveBrochureOrderList; }
-    [[nodiscard]] const OrderListFilter& asked(std::size_t call) { return std::get<0>(lists().calls.at(call)); }
+    [[nodiscard]] const OrderListFilter& asked(std::size_t call) {
+        return std::get<0>(lists().calls.at(call));
+    }
 
     [[nodiscard]] std::vector<std::string> saved() const {
         std::vector<std::string> lines;
@@ -133,8 +136,8 @@ TEST_F(AllOrders, TheServersAnswerJoinsTheFourStatesAndAFailureLeavesTheDevicesR
     lists().fail(failureWith({QStringLiteral("Roto.")}, 500));
     EXPECT_EQ(alert(), "Incidencia | Error");
     ASSERT_TRUE(waitFor([&] { return screen->savedOrders()->count() == 3; }));
-    EXPECT_EQ(saved(), (Lines{"Ambos Guardado local 41", "Fuera Pendiente de envío -",
-                              "Local Guardado local -"}));
+    EXPECT_EQ(saved(),
+              (Lines{"Ambos Guardado local 41", "Fuera Pendiente de envío -", "Local Guardado local -"}));
     EXPECT_EQ(screen->sentOrders()->count(), 0);
     press(QStringLiteral("Intentar de nuevo"));
     answerList(answerWith({}));

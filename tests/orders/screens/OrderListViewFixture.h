@@ -87,9 +87,9 @@ protected:
     void open(QSize size) {
         network.requests.retrieveBrochureOrderList.always(answer);
         list = std::make_unique<AllOrdersManagementViewController>(
-            OrderListServices{session, network, orders, actions, sync, alerts, urls, clock, reachability,
-                              [] {}, [this](const OrderList::Order& order) { claimed.push_back(order.id); },
-                              [this](const OrderList::Order& order) { demanded.push_back(order.id); }});
+            OrderListServices{session, network, orders, actions, sync, alerts, urls, clock, reachability});
+        list->setWays({[] {}, [this](const OrderList::Order& order) { claimed.push_back(order.id); },
+                       [this](const OrderList::Order& order) { demanded.push_back(order.id); }});
         QQmlEngine registering;
         registerScreens(registering); // for the whole process
         scene = std::make_unique<UiScene>(

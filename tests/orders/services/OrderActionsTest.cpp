@@ -139,7 +139,8 @@ TEST_F(OrderActionsTest, SendingAllGoesOnPastARefusedOrderAndSendsClothingToo) {
     std::vector<int> begun;
     const auto all = resultOf<OrderActions::SentAll>(
         [&](const auto& done) {
-            actions.sendAll(files, [&](int number) { begun.push_back(number); }, done);
+            actions.sendAll(
+                files, [&](int number) { begun.push_back(number); }, done);
         },
         [&] {
             if (sends().calls.size() == 1)

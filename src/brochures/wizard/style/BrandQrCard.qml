@@ -1,4 +1,5 @@
 import QtQuick
+import Kavor.Kit
 import Kavor.Ui
 import Kavor.Screens
 
@@ -55,59 +56,19 @@ Card {
         visible: card.form.brands.length === 0
         text: "Selecciona en Productos una marca que tenga material con QR."
     }
-    Carousel {
+    PictureCarousel {
         id: carousel
 
         objectName: card.form.wooden ? "brandQrTacoCarousel" : "brandQrCarousel"
         width: parent.width
         height: visible ? 220 : 0
         visible: card.form.brands.length > 0
-        itemWidth: 180
         text: "Marca del material con QR"
+        placeholderIcon: "qr"
         model: card.form.brands
+        chosen: card.form.currentBrand
         onSelected: (index) => card.form.brandQrCarouselDidChange(index)
         onTapped: card.zoomed()
-        onModelChanged: currentIndex = card.form.currentBrand
-        Component.onCompleted: currentIndex = card.form.currentBrand
-
-        delegate: Item {
-            id: entry
-
-            required property var modelData
-            readonly property bool current: ListView.isCurrentItem
-
-            width: carousel.itemWidth
-            height: ListView.view ? ListView.view.height : 180
-
-            ResourceImage {
-                id: picture
-
-                anchors.fill: parent
-                anchors.margins: 4
-                anchors.bottomMargin: 28
-                source: entry.modelData.source
-                text: entry.modelData.text
-                mat: Theme.paper
-                placeholderIcon: "qr"
-                fillMode: Image.PreserveAspectFit
-            }
-            Rectangle {
-                anchors.fill: picture
-                anchors.margins: -3
-                radius: Theme.radius + 3
-                color: "transparent"
-                border.width: entry.current ? 3 : 1
-                border.color: entry.current ? Theme.amber : Theme.hairline
-            }
-            HelpText {
-                anchors.bottom: parent.bottom
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                text: entry.modelData.text
-                elide: Text.ElideRight
-                maximumLineCount: 1
-            }
-        }
     }
     AppButton {
         objectName: "zoomStyleQrButton"

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "device/FilmPlayer.h"
+
+#include <QMutex>
+
+#include <memory>
+
+class QMediaPlayer;
+class QVideoFrame;
+class QVideoSink;
+
+namespace kavor {
+
+// The picture that a film shows now, for the thread that plays it and the one that shows it.
+class SharedPicture {
+public:
+    // Whether the one before was taken; else the taker has been told already.
+    bool put(const QImage& picture);
+    QImage take();
+
+private:
+    QMutex lock_;
+    QImage picture_;
+    bool taken_ = true;
+};
+
+// One film in a thread of its own: opening it, and leaving it, wait for the network.
+class FilmEngine : public QObject {
+    Q_OBJECT
+public:
+    FilmEngine(const QUrl& film, std::shared_ptr<SharedPicture> picture);
+    ~FilmEngine() override;
+
+    void begin();
+    void play();
+    void pause();
+    void seek(qint64 position);
+
+signals:
+    void told(const kavor::FilmStatus& status);
+    void pictureCame();
+
+private:
+    void takeFrame(const QVideoFrame& frame);
+    void tell();
+    [[nodiscard]] FilmStatus::State state() const;
+
+    QUrl film_;
+    std::shared_ptr<SharedPicture> picture_;
+    QMediaPlayer* player_ = nullptr;
+    bool failed_ = false;
+    bool shown_ = false; // a picture came
+    FilmStatus told_;
+};
+
+} // namespace kavor
