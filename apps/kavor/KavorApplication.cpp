@@ -4,7 +4,7 @@
 #include "base/BackgroundFileWriter.h"
 #include "base/BundleVersion.h"
 #include "base/StopProcess.h"
-#include "brochures/wizard/WizardStep.h"
+#include "brochures/wizard/BrochureMenuViewController.h"
 #include "device/AppLifecycle.h"
 #include "device/BackgroundTasks.h"
 #include "device/LocalNotifications.h"
@@ -16,6 +16,7 @@
 #include "interaction/AlertPresenter.h"
 #include "kavor/SectionScreens.h"
 #include "network/TrafficLog.h"
+#include "orders/services/OrderActions.h"
 #include "orders/services/OrderSyncManager.h"
 #include "resources/PDFCacheManager.h"
 #include "screens/ResourceImages.h"
@@ -76,17 +77,20 @@ struct KavorApplication::Parts : HeadlessCore {
         , location(locationService, geocoder)
         , application({session, *sessions, network, auth, defaults, notifications, localNotifications, push,
                        tasks, sync})
+        , orderActions(network, orders)
         , sections{{network, orders, *sessions, sync, alerts, urls, clock, downloader, photos, reachability,
                     &location},
-                   {session, network, auth, alerts, urls, reachability, suggestion}}
+                   {session, network, auth, alerts, urls, reachability, suggestion},
+                   orderActions,
+                   sync}
         , root({application,
                 alerts,
                 localNotifications,
                 {session, network, auth, defaults, notifications, alerts, urls},
                 {session, application, network, auth, catalogue, notifications, orders, alerts, urls, clock,
                  reachability},
-                [this](const QString& transition, ScreenStack&) {
-                    return makeSectionScreen(transition, sections);
+                [this](const QString& transition, ScreenStack& screens) {
+                    return makeSectionScreen(transition, sections, screens);
                 }}) {}
 
     DesktopNotifications localNotifications;
@@ -102,6 +106,7 @@ struct KavorApplication::Parts : HeadlessCore {
     QtAppLifecycle lifecycle;
     AppDelegate application;
     SuggestionDraft suggestion;
+    OrderActions orderActions;
     SectionServices sections;
     RootController root;
     QQmlApplicationEngine engine;
@@ -153,8 +158,9 @@ KavorApplication::KavorApplication(const KavorOptions& options, NetworkConfigura
     parts_->application.follow(parts_->lifecycle);
     // A run writes the number of what it sent into the shared draft, which must not be another one in the
     // making; and it needs somebody's token.
-    parts_->tasks.setGate(
-        [this] { return !parts_->session.actualSection && !parts_->network.accessToken().isEmpty(); });
+    parts_->tasks.setGate([this] {
+        return !BrochureMenuViewController::isAnyOpen() && !parts_->network.accessToken().isEmpty();
+    });
     connect(&parts_->root, &RootController::windowClosed, this, [this] {
         rememberWindowSize();
         parts_->lifecycle.reportWindowClosed();

@@ -4,10 +4,10 @@
 #include "account/screens/SuggestionViewController.h"
 #include "base/StopProcess.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
+#include "orders/screens/AllOrdersManagementViewController.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
-#include "shell/screens/RootController.h"
 #include "shell/screens/Screens.h"
 
 #include <array>
@@ -28,15 +28,33 @@ constexpr std::array comingSections{
     ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
     ComingSection{transition::textile, "Textil", "tshirt"},
     ComingSection{transition::activations, "Activaciones", "party"},
-    ComingSection{RootController::allOrdersTransition, "Pedidos", "orders"},
 };
+
+Screen wizardScreen(const SectionServices& services, BrochureMenuViewController::Opening opening) {
+    return {screenView("BrochureMenuView"),
+            new BrochureMenuViewController(services.wizard, nullptr, opening)};
+}
+
+Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
+    const WizardServices& wizard = services.wizard;
+    const auto openWizard = [&services, &screens] {
+        screens.push(wizardScreen(services, BrochureMenuViewController::Opening::OrderToEdit));
+    };
+    return {screenView("AllOrdersManagementView"),
+            new AllOrdersManagementViewController({services.account.session, wizard.network, wizard.orders,
+                                                   services.orderActions, services.sync, wizard.alerts,
+                                                   wizard.urls, wizard.clock, wizard.reachability, openWizard,
+                                                   {}, {}})};
+}
 
 } // namespace
 
-Screen makeSectionScreen(const QString& transition, const SectionServices& services) {
+Screen makeSectionScreen(const QString& transition, const SectionServices& services, ScreenStack& screens) {
     const std::string name = transition.toStdString();
     if (name == transition::brochure)
-        return {screenView("BrochureMenuView"), new BrochureMenuViewController(services.wizard)};
+        return wizardScreen(services, BrochureMenuViewController::Opening::UnfinishedMenu);
+    if (name == transition::allOrders)
+        return orderListScreen(services, screens);
     if (name == transition::profile)
         return {screenView("ProfileView"), new ProfileViewController(services.account)};
     if (name == transition::suggestions)

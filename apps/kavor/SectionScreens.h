@@ -8,14 +8,19 @@
 
 namespace kavor {
 
+class BackgroundOrderSync;
+class OrderActions;
+
 // What the sections work with. Everything outlives their screens.
 struct SectionServices {
     WizardServices wizard;
     AccountServices account;
+    OrderActions& orderActions;
+    BackgroundOrderSync& sync;
 };
 
 // Makes the screen that a transition of the dashboard or of a notification leads to. The process stops for a
 // transition that leads nowhere.
-Screen makeSectionScreen(const QString& transition, const SectionServices& services);
+Screen makeSectionScreen(const QString& transition, const SectionServices& services, ScreenStack& screens);
 
 } // namespace kavor

@@ -18,6 +18,7 @@ void addSyncCommand(CLI::App& program, CommandContext& context);
 // Commands that need the server, each added to its group.
 void addCatalogueFetch(CLI::App& group, CommandContext& context);
 void addOrderSend(CLI::App& group, CommandContext& context);
+void addOrderActions(CLI::App& group, CommandContext& context);
 
 // Runs the program; answers its exit status.
 int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);

@@ -44,16 +44,6 @@ void merge(CommandContext& context, const MergeInputs& inputs) {
     printRows(context, rows, JsonRows::Drafts);
 }
 
-void addServerOrders(OnlineSession& online, DraftOrderRows& rows) {
-    online.requireLogin();
-    const OrderListFilter filter{{}, {}, {}, 0, 0, 0, true};
-    applyAnswer(rows, online.await<OrderList>(
-                          {QStringLiteral("Consultando los pedidos"), QStringLiteral("Incidencia")},
-                          [&](const Completion<OrderList>& done) {
-                              online.network.retrieveBrochureOrderList(filter, done);
-                          }));
-}
-
 void list(CommandContext& context) {
     OnlineSession online(context);
     DraftOrderRows rows;
@@ -63,7 +53,7 @@ void list(CommandContext& context) {
         context.err << "Sólo se muestran pedidos guardados localmente.\n";
     } else {
         try {
-            addServerOrders(online, rows);
+            joinServerOrders(online, rows);
         } catch (const CommandFailure& reason) {
             failure = reason;
         }
@@ -74,6 +64,16 @@ void list(CommandContext& context) {
 }
 
 } // namespace
+
+void joinServerOrders(OnlineSession& online, DraftOrderRows& rows) {
+    online.requireLogin();
+    const OrderListFilter filter{{}, {}, {}, 0, 0, 0, true};
+    applyAnswer(rows, online.await<OrderList>(
+                          {QStringLiteral("Consultando los pedidos"), QStringLiteral("Incidencia")},
+                          [&](const Completion<OrderList>& done) {
+                              online.network.retrieveBrochureOrderList(filter, done);
+                          }));
+}
 
 void addOrderListCommands(CLI::App& program, CommandContext& context) {
     CLI::App* group = program.add_subcommand("orders", "the lists of orders")->require_subcommand(1);
@@ -88,6 +88,7 @@ void addOrderListCommands(CLI::App& program, CommandContext& context) {
     group->add_subcommand("list", "the device's files and the server's orders, merged")->callback([&context] {
         list(context);
     });
+    addOrderActions(*group, context);
 }
 
 } // namespace kavor::ctl

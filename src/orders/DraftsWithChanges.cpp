@@ -35,40 +35,37 @@ DraftsWithChanges& DraftsWithChanges::shared() {
 }
 
 const std::set<std::string>& DraftsWithChanges::names() {
-    if (names_)
-        return *names_;
-    names_.emplace();
     const auto& folder = AppSingleton::shared().documentsFolder();
-    if (folder.empty())
-        return *names_;
-    BackgroundFileWriter::shared().flush(folder / std::string(state_file::draftsWithChanges));
+    if (folder_ == folder)
+        return names_;
+    folder_ = folder;
+    names_.clear();
     if (const auto stored = state_file::read<NamesOfDrafts>(folder, state_file::draftsWithChanges))
-        names_->insert(stored->names.begin(), stored->names.end());
-    return *names_;
+        names_.insert(stored->names.begin(), stored->names.end());
+    return names_;
 }
 
 void DraftsWithChanges::add(const std::string& plainName) {
     if (names().contains(plainName))
         return;
-    names_->insert(plainName);
+    names_.insert(plainName);
     write();
 }
 
 void DraftsWithChanges::remove(const std::string& plainName) {
     if (!names().contains(plainName))
         return;
-    names_->erase(plainName);
+    names_.erase(plainName);
     write();
 }
 
 void DraftsWithChanges::write() {
-    const auto& folder = AppSingleton::shared().documentsFolder();
-    if (folder.empty())
+    if (folder_.empty())
         return;
-    const auto path = folder / std::string(state_file::draftsWithChanges);
-    if (names_->empty())
+    const auto path = folder_ / std::string(state_file::draftsWithChanges);
+    if (names_.empty())
         return BackgroundFileWriter::shared().remove(path);
-    const auto text = json::encode(NamesOfDrafts{{names_->begin(), names_->end()}});
+    const auto text = json::encode(NamesOfDrafts{{names_.begin(), names_.end()}});
     if (text)
         BackgroundFileWriter::shared().write(path, *text);
     else

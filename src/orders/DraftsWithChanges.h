@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <filesystem>
 #include <set>
 #include <string>
 
@@ -18,14 +18,12 @@ public:
     void add(const std::string& plainName);
     // The server has it, or the file is gone.
     void remove(const std::string& plainName);
-    // Reads the state file anew at the next use.
-    void forget() { names_.reset(); }
-
 private:
     DraftsWithChanges() = default;
     void write();
 
-    std::optional<std::set<std::string>> names_;
+    std::filesystem::path folder_; // that the names were read from
+    std::set<std::string> names_;
 };
 
 } // namespace kavor

@@ -30,6 +30,7 @@ inline constexpr std::string_view textile = "showTextileSegue";
 inline constexpr std::string_view activations = "showActivationsSegue";
 // Beside the sections: what is about the user.
 inline constexpr std::string_view profile = "showProfileSegue";
+inline constexpr std::string_view allOrders = "AllOrdersControllerIdentifier";
 inline constexpr std::string_view suggestions = "showSuggestionsSegue";
 } // namespace transition
 

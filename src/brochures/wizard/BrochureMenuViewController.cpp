@@ -84,28 +84,36 @@ QString styleCaption(BrochureType type) {
 
 } // namespace
 
-BrochureMenuViewController::BrochureMenuViewController(const WizardServices& services, QObject* parent)
+BrochureMenuViewController::BrochureMenuViewController(const WizardServices& services, QObject* parent,
+                                                       Opening opening)
     : ScreenController(parent)
     , services_(services)
     , visibleButtons_(entries.size(), true) {
     connect(&services_.reachability, &Reachability::changed, this,
             &BrochureMenuViewController::offlineChanged);
-    viewDidLoad();
+    ++open_;
+    viewDidLoad(opening);
     viewDidAppear();
 }
 
 BrochureMenuViewController::~BrochureMenuViewController() {
+    --open_;
     // The application ends or goes back to its start with the wizard open; a session without a section keeps
     // nothing.
     if (AppSingleton::shared().brochureType())
         viewWillDisappear();
 }
 
-void BrochureMenuViewController::viewDidLoad() {
+void BrochureMenuViewController::restoreUnfinishedMenu() {
     if (BrochureIntermediateData::temporalBrochure()->sent) // what was sent isn't resumed
         BrochureIntermediateData::replaceTemporalBrochure();
     TemporalBrochure::shared().restoreDraft();
     recoveredMessage_ = fromUtf8(TemporalBrochure::shared().takeWord());
+}
+
+void BrochureMenuViewController::viewDidLoad(Opening opening) {
+    if (opening == Opening::UnfinishedMenu)
+        restoreUnfinishedMenu();
     applyParameters();
     showStep(wizard_step::configuration);
     const auto fallenOut = BrochureIntermediateData::temporalBrochure()->takeFallenOut();

@@ -58,9 +58,17 @@ public:
         PennantBrand
     };
 
+    // With what it opens: the unfinished menu of the section, or the shared draft as it stands, into which an
+    // order to edit was loaded.
+    enum class Opening { UnfinishedMenu, OrderToEdit };
+
     // Opens the wizard on its first step. The services outlive it.
-    explicit BrochureMenuViewController(const WizardServices& services, QObject* parent = nullptr);
+    explicit BrochureMenuViewController(const WizardServices& services, QObject* parent = nullptr,
+                                        Opening opening = Opening::UnfinishedMenu);
     ~BrochureMenuViewController() override;
+
+    // Whether a wizard is open, on show or below another screen.
+    [[nodiscard]] static bool isAnyOpen() { return open_ > 0; }
 
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString subtitle() const;
@@ -96,8 +104,9 @@ signals:
     void previewChanged();
 
 private:
-    void viewDidLoad();
+    void viewDidLoad(Opening opening);
     void viewDidAppear();
+    void restoreUnfinishedMenu();
     void applyParameters();
     void showStep(int wizardStep);
     void leaveActiveStep();
@@ -129,6 +138,7 @@ private:
     bool appeared_ = false;
     bool loadingStep_ = false;
     bool askingAboutSentOrder_ = false;
+    static inline int open_ = 0;
 };
 
 } // namespace kavor

@@ -1,9 +1,11 @@
 #include "pointofsale/services/CustomerLookup.h"
 
+#include "interaction/AlertPresenter.h"
 #include "interaction/Questions.h"
 #include "interaction/VeiledRun.h"
 #include "network/ServiceOperations.h"
 #include "network/ShowRequestFailure.h"
+#include "session/AppSingleton.h"
 
 #include <utility>
 
@@ -21,6 +23,10 @@ CustomerLookup::CustomerLookup(ServiceOperations& network, AlertPresenter& alert
 void CustomerLookup::search(const QString& code, Answered answered) {
     if (!network_.isReachable()) {
         informOffline(alerts_);
+        return;
+    }
+    if (!AppSingleton::shared().actualApplicationType) { // a kind of order that the server looks nothing up for
+        alerts_.inform(QStringLiteral("Incidencia"), QStringLiteral("Error"));
         return;
     }
     network_.getCustomerDataFromTevoCode(

@@ -10,7 +10,7 @@ Row {
     property bool inverse: false
     readonly property var entries: [
         { id: "updateInfoapp", text: "Actualizar", icon: "refresh", ready: true },
-        { id: "allOrders", text: "Pedidos", icon: "orders", ready: false },
+        { id: "allOrders", text: "Pedidos", icon: "orders", ready: true },
         { id: "profile", text: "Perfil", icon: "user", ready: true },
         { id: "suggestions", text: "Buzón", icon: "mailbox", ready: true },
         { id: "tutorials", text: "Tutoriales", icon: "play", ready: false },

@@ -2,7 +2,9 @@
 
 #include "device/LocalNotifications.h"
 #include "interaction/AlertPresenter.h"
+#include "interaction/QtText.h"
 #include "session/AppSingleton.h"
+#include "shell/WelcomeOptions.h"
 #include "shell/screens/LaunchViewController.h"
 #include "shell/screens/Screens.h"
 
@@ -67,7 +69,7 @@ Screen RootController::makeRoot(AppDelegate::RootKind kind) {
     case AppDelegate::RootKind::LoginNavigation:
         return makeLogin();
     case AppDelegate::RootKind::AllOrders:
-        return services_.sections(QLatin1String(allOrdersTransition), screens_);
+        return services_.sections(fromUtf8(transition::allOrders), screens_);
     case AppDelegate::RootKind::Launch:
         break;
     }

@@ -44,9 +44,6 @@ public:
         WelcomeViewController::Services welcome;
         SectionFactory sections;
     };
-    // The transition from a notification to the list of orders.
-    static constexpr char allOrdersTransition[] = "AllOrdersControllerIdentifier";
-
     explicit RootController(Services services, QObject* parent = nullptr);
 
     // The window whose picture a transition shows; without one, or without animation, roots change at once.

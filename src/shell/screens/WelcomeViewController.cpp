@@ -182,6 +182,8 @@ void WelcomeViewController::openTool(const QString& name) {
         logout();
     else if (name == QLatin1String("profile"))
         emit transitionPerformed(fromUtf8(transition::profile));
+    else if (name == QLatin1String("allOrders"))
+        emit transitionPerformed(fromUtf8(transition::allOrders));
     else if (name == QLatin1String("suggestions"))
         emit transitionPerformed(fromUtf8(transition::suggestions));
 }

@@ -84,7 +84,7 @@ TEST_F(Roots, TheAutomaticLoginRefreshesTheDashboardItShows) {
 
 TEST_F(Roots, TheOrdersOfANotificationLeadBackToWhereASessionBelongs) {
     application.resetRoot(Root::AllOrders);
-    EXPECT_EQ(stack(), RootController::allOrdersTransition);
+    EXPECT_EQ(stack(), "AllOrdersControllerIdentifier");
     leaveSection();
     EXPECT_EQ(stack(), u"WelcomeView");
     session.loginResult.reset();

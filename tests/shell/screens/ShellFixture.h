@@ -40,6 +40,7 @@ public:
     int scheduled = 0;
     int runs = 0;
     void startOrderSync() override { scheduleBrochureSync(); }
+    void replanBrochureSync() override { scheduleBrochureSync(); }
     void scheduleBrochureSync() override { ++scheduled; }
     void handleBrochureSync(const std::shared_ptr<BackgroundTask>&) override { ++runs; }
 };
