@@ -35,7 +35,8 @@ FocusScope {
 
         property bool pinned: true // stands at its beginning, also when rows come before it
         readonly property real pulled: Math.max(0, -verticalOvershoot)
-        readonly property bool ready: pulled > 72
+        // A list that fits follows the finger half as far as one that scrolls.
+        readonly property bool ready: pulled > (contentHeight + bottomMargin > height ? 64 : 32)
 
         objectName: pane.name
         anchors.fill: parent

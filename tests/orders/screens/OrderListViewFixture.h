@@ -136,6 +136,16 @@ protected:
         const QPointF middle = item->mapToScene({item->width() / 2, item->height() / 2});
         QTest::mouseClick(scene->window(), Qt::LeftButton, {}, middle.toPoint());
     }
+    // Pulls the list on show down by so many pixels.
+    void pull(int distance) const {
+        const QPoint from(195, 450);
+        QTest::mousePress(scene->window(), Qt::LeftButton, {}, from);
+        for (int moved = 0; moved <= distance; moved += 10) {
+            QTest::mouseMove(scene->window(), from + QPoint(0, moved));
+            scene->window()->grabWindow();
+        }
+        QTest::mouseRelease(scene->window(), Qt::LeftButton, {}, from + QPoint(0, distance));
+    }
 
 private:
     static AppSingleton& openSession(const TemporaryFolder& folder) {

@@ -63,21 +63,24 @@ TEST_F(OrderListViewTest, AnOrderThatCameMeanwhileStandsInSightAtTheHeadOfTheLis
     sent(900).date = *LocalDateTime::parse("06-06-2024 07:08:09");
     network.requests.retrieveBrochureOrderList.always(answer);
     ASSERT_TRUE(loads([&] { scene->click(QStringLiteral("refreshOrders")); }));
-    EXPECT_TRUE(UiScene::waitFor([&] { return placeOf(*scene, QStringLiteral("sentOrdersTable")) == 0; }));
-    EXPECT_TRUE(scene->isOnShow(QStringLiteral("sentOrder900")));
+    const QQuickItem* table = scene->item(QStringLiteral("sentOrdersTable"));
+    const QQuickItem* newest = scene->item(QStringLiteral("sentOrder900"));
+    ASSERT_NE(newest, nullptr);
+    EXPECT_TRUE(UiScene::waitFor([&] { return newest->mapToItem(table, QPointF()).y() == 0; }));
 }
 
-TEST_F(OrderListViewTest, PullingAListFarEnoughDownLoadsItAnewOnceAndAlsoWhenItIsEmpty) {
-    draft("Bar Sol");
+TEST_F(OrderListViewTest, PullingAListFarEnoughDownLoadsItAnewOnceAlsoWhenItIsShortOrEmpty) {
+    for (int i = 0; i < 12; ++i)
+        draft("Bar " + std::to_string(i));
     open(phone);
     const std::size_t before = requests();
-    scene->swipe({195, 500}, {195, 560});
+    pull(40);
     EXPECT_EQ(requests(), before) << "a short pull";
-    EXPECT_TRUE(loads([&] { scene->swipe({195, 400}, {195, 750}); }));
+    EXPECT_TRUE(loads([&] { pull(200); }));
 
     scene->click(QStringLiteral("sentTab"));
     EXPECT_TRUE(scene->isOnShow(QStringLiteral("sentOrdersTableEmpty")));
-    EXPECT_TRUE(loads([&] { scene->swipe({195, 400}, {195, 750}); }));
+    EXPECT_TRUE(loads([&] { pull(200); }));
 }
 
 TEST_F(OrderListViewTest, OnAPhoneASearchAndAQuickFilterShowWhatTheyFound) {
