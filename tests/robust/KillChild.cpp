@@ -45,7 +45,7 @@ public:
     }
 
     void step() {
-        switch (random_() % 12) {
+        switch (random_() % 13) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -71,6 +71,8 @@ public:
         case 9:
             return storeNetPrices();
         case 10:
+            return deleteAndUndo();
+        case 11:
             return write(defaultsKey, [this](Int stamp) {
                 FileUserDefaults(folder_ / defaultsKey).setInteger(QStringLiteral("stamp"), stamp);
                 return !somethingFailed;
@@ -165,6 +167,30 @@ private:
                 removeOrder(name, Directory::draft);
         } else if (orders_.exists<SaveBrochuresOrder>(name, Directory::outbox)) {
             removeOrder(name, Directory::outbox);
+        }
+    }
+
+    // A draft that is deleted comes back as it was, or goes for good.
+    void deleteAndUndo() {
+        const std::string name = anyName();
+        const std::string file = OrderDiskManager::fileName(name);
+        const std::string key = keyOf<SaveBrochuresOrder>(name, Directory::draft);
+        const auto stamp = stampIn(folder_, key);
+        if (!stamp || *stamp == 0)
+            return;
+        bool isAside = false;
+        remove(key, [&] {
+            isAside = orders_.setAside<SaveBrochuresOrder>(file, Directory::draft);
+            return isAside;
+        });
+        if (isAside && random_() % 2 == 0) {
+            begin(key, *stamp);
+            if (orders_.bringBack<SaveBrochuresOrder>(file, Directory::draft))
+                tell('=', key, *stamp);
+            else
+                tell('!', key);
+        } else if (isAside) {
+            orders_.removeSetAside<SaveBrochuresOrder>(file, Directory::draft);
         }
     }
 

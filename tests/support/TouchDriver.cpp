@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace kavor {
@@ -53,13 +54,18 @@ TouchDriver::TouchDriver(QQuickWindow& window)
     , finger_(QTest::createTouchDevice()) {}
 
 QQuickItem* TouchDriver::find(const QString& name) const {
-    QQuickItem* found = nullptr;
-    visit(window_.contentItem(), [&](QQuickItem* item) {
-        if (item->objectName() != name)
-            return true;
-        found = item;
-        return false;
-    });
+    QQuickItem* found = window_.contentItem();
+    for (const QString& part : name.split(QLatin1Char('|'))) {
+        QQuickItem* below = std::exchange(found, nullptr);
+        visit(below, [&](QQuickItem* item) {
+            if (item->objectName() != part)
+                return true;
+            found = item;
+            return false;
+        });
+        if (!found)
+            return nullptr;
+    }
     return found;
 }
 

@@ -29,7 +29,8 @@ public:
 
     void setTimeout(int milliseconds) { timeout_ = milliseconds; }
 
-    // The visible item of that name (also in popups), nullptr without one.
+    // The visible item of that name (also in popups), nullptr without one. "row|button" is the item of the
+    // second name inside the item of the first.
     [[nodiscard]] QQuickItem* find(const QString& name) const;
     [[nodiscard]] bool isShown(const QString& name) const;
     // Waits until the item is on show and takes touches.

@@ -119,7 +119,14 @@ int Tour::run() {
                                        {"impresion", &Tour::print},
                                        {"pedido", &Tour::checkOrder},
                                        {"sin-red", &Tour::orderOffline},
-                                       {"cuenta", &Tour::showAccount}};
+                                       {"pedidos-sin-red", &Tour::showOrdersOffline},
+                                       {"pedidos", &Tour::showOrders},
+                                       {"nube", &Tour::editCloudOrder},
+                                       {"copia", &Tour::copyAndDelete},
+                                       {"enviar", &Tour::sendWaiting},
+                                       {"reclamar", &Tour::claimAndDemand},
+                                       {"cuenta", &Tour::showAccount},
+                                       {"tutoriales", &Tour::showTutorials}};
     for (const Step& step : options_.everyKind ? everyKind : mainJob) {
         try {
             (this->*step.action)();
@@ -196,7 +203,7 @@ void Tour::start() {
     QDir().mkpath(options_.folder);
     const QString serverFolder = options_.documents + QStringLiteral("-server");
     QDir().mkpath(serverFolder);
-    server_ = std::make_unique<DemoServerProcess>(serverFolder, QStringList{QStringLiteral("--no-history")});
+    server_ = std::make_unique<DemoServerProcess>(serverFolder);
 
     KavorOptions client;
     client.configuration = server_->configurationFile().toStdString();
@@ -503,7 +510,6 @@ void Tour::orderOffline() {
 }
 
 void Tour::showAccount() {
-    application_->setOffline(false);
     touch_->tap(QStringLiteral("profileButton"));
     touch_->await(QStringLiteral("profileName"));
     must(touch_->allTexts().contains(QStringLiteral("Lucía Ferrandel")), touch_->allTexts());

@@ -4,6 +4,7 @@
 #include "support/TouchDriver.h"
 #include "tour/DemoServerProcess.h"
 
+#include <QJsonArray>
 #include <QString>
 
 #include <memory>
@@ -56,6 +57,13 @@ private:
     void checkOrder();
     void orderOffline();
     void showAccount();
+    void showOrdersOffline();
+    void showOrders();
+    void editCloudOrder();
+    void copyAndDelete();
+    void sendWaiting();
+    void claimAndDemand();
+    void showTutorials();
     void orderEveryKind();
 
     void orderKind(int applicationType);
@@ -65,6 +73,11 @@ private:
     void openSection(int applicationType);
     void openStep(int menuEntry);
     // Waits for an alert and answers it with one of its buttons.
+    // The row of a draft of this name in the list of orders, or a part of it.
+    [[nodiscard]] static QString savedRow(const QString& folder, const QString& name,
+                                          const QString& part = {});
+    // The numbers of the orders that the server took to print since the tour began.
+    [[nodiscard]] QJsonArray printedOrders() const;
     void dismissAlert(const QString& title, const QString& part, int button = 0);
     // A picture at each of the three sizes, numbered.
     void shot(const QString& name);

@@ -141,13 +141,13 @@ void AllOrdersManagementViewController::sendAction(const QString& key) {
                                        QStringLiteral("Sin conexión a internet"), this);
     if (!hasSession())
         return tellOldCatalogue();
-    beginWait(QStringLiteral("Enviando el pedido…"));
-    services_.actions.send(*file, [self = QPointer(this), &alerts = services_.alerts,
+    const QPointer<QObject> run = beginWait(QStringLiteral("Enviando el pedido…"));
+    services_.actions.send(*file, [self = QPointer(this), &alerts = services_.alerts, run,
                                    key = key.toStdString()](const OrderActions::Sending& sending) {
         if (isSent(sending)) // whoever is there: the order left the device
             tellSent(alerts, sending);
         if (self)
-            self->sent(key, sending);
+            self->sent(key, sending, !run.isNull());
     });
 }
 
@@ -160,9 +160,11 @@ void AllOrdersManagementViewController::tellSent(AlertPresenter& alerts,
                                        "del dispositivo."));
 }
 
-void AllOrdersManagementViewController::sent(const std::string& key, const OrderActions::Sending& sending) {
-    endWait();
-    if (covered_)
+void AllOrdersManagementViewController::sent(const std::string& key, const OrderActions::Sending& sending,
+                                             bool isAwaited) {
+    if (isAwaited)
+        endWait();
+    if (covered_ || !isAwaited) // the row says what became of it
         return;
     if (isSent(sending) || sending.result == Result::Gone)
         return load();
@@ -190,14 +192,15 @@ void AllOrdersManagementViewController::sendAllAction() {
             if (run)
                 veil_.setText(QStringLiteral("Enviando los pedidos: %1 de %2").arg(number).arg(count));
         },
-        [self = QPointer(this), count](const OrderActions::SentAll& all) {
+        [self = QPointer(this), run, count](const OrderActions::SentAll& all) {
             if (self)
-                self->sentAll(all, count);
+                self->sentAll(all, count, !run.isNull());
         });
 }
 
-void AllOrdersManagementViewController::sentAll(const OrderActions::SentAll& all, int count) {
-    endWait();
+void AllOrdersManagementViewController::sentAll(const OrderActions::SentAll& all, int count, bool isAwaited) {
+    if (isAwaited)
+        endWait();
     if (covered_)
         return;
     if (all.updateNeeded)

@@ -102,7 +102,7 @@ void AllOrdersManagementViewController::observe() {
         }));
     connect(&services_.actions, &OrderActions::filesChanged, this, [this] {
         if (!covered_)
-            rebuildLocalRows({});
+            rebuildLocalRows();
     });
     connect(&services_.reachability, &Reachability::changed, this,
             &AllOrdersManagementViewController::reachabilityChanged);
@@ -134,28 +134,13 @@ bool AllOrdersManagementViewController::hasSession() const {
 // that nobody loses the place where he was.
 void AllOrdersManagementViewController::load() {
     quickFilter_ = QuickFilter::None;
+    isAnswerDue_ = true;
+    fetchesAfterReading_ = true;
     emit filtersChanged();
-    rebuildLocalRows([this] { fetchServerOrders(); });
+    rebuildLocalRows();
 }
 
-void AllOrdersManagementViewController::work(std::function<DraftOrderRows()> make, const Rebuilt& then) {
-    runInBackground(
-        reading_.begin(),
-        [make = std::move(make), withChanges = DraftsWithChanges::shared().names()] {
-            DraftOrderRows rows = make();
-            auto saved = savedRows(rows, withChanges);
-            auto sent = sentRows(rows);
-            return Shown{std::move(rows), std::move(saved), std::move(sent)};
-        },
-        [this, then](Shown shown) {
-            reading_.end();
-            show(std::move(shown));
-            if (then)
-                then();
-        });
-}
-
-void AllOrdersManagementViewController::rebuildLocalRows(const Rebuilt& then) {
+void AllOrdersManagementViewController::rebuildLocalRows() {
     runInBackground(
         reading_.begin(),
         [&orders = services_.orders] {
@@ -163,31 +148,50 @@ void AllOrdersManagementViewController::rebuildLocalRows(const Rebuilt& then) {
             rows.rebuildLocalRows(orders);
             return rows;
         },
-        [this, then](DraftOrderRows rows) {
+        [this](DraftOrderRows rows) {
             reading_.end();
             local_ = std::move(rows);
-            showJoined(then);
+            showJoined();
+            if (std::exchange(fetchesAfterReading_, false))
+                fetchServerOrders();
         });
 }
 
-// The rows of the device, joined with the answer that stands.
-void AllOrdersManagementViewController::showJoined(const Rebuilt& then) {
-    work(
-        [rows = local_, answer = answer_, filtered = filtered_]() mutable {
+// The rows of the device, joined with the answers that stand.
+void AllOrdersManagementViewController::showJoined() {
+    runInBackground(
+        joining_.begin(),
+        [rows = local_, answer = answer_, filtered = filtered_,
+         withChanges = DraftsWithChanges::shared().names()]() mutable {
             if (answer)
                 rows.applyAnswer(*answer);
             rows.sortSentOrders();
             if (filtered)
                 rows.applyQuickFilter(*filtered);
-            return std::move(rows);
+            auto saved = savedRows(rows, withChanges);
+            auto sent = sentRows(rows);
+            return Shown{std::move(rows), std::move(saved), std::move(sent)};
         },
-        then);
+        [this](Shown shown) {
+            joining_.end();
+            show(std::move(shown));
+            if (endsWithRows_ && endsWithRows_ == wait_.context())
+                endWait();
+        });
 }
 
+void AllOrdersManagementViewController::endWaitWithRows() {
+    endsWithRows_ = wait_.context();
+    showJoined();
+}
+
+// Of a load that began with nothing but the device's rows.
 void AllOrdersManagementViewController::dropAnswer() {
-    answer_.reset();
-    filtered_.reset();
-    showJoined({});
+    if (isAnswerDue_) {
+        answer_.reset();
+        filtered_.reset();
+    }
+    showJoined();
 }
 
 void AllOrdersManagementViewController::fetchServerOrders() {
@@ -213,12 +217,10 @@ void AllOrdersManagementViewController::fetchServerOrders() {
 void AllOrdersManagementViewController::answered(const OrderList& answer) {
     answer_ = std::make_shared<const OrderList>(answer);
     filtered_.reset();
+    isAnswerDue_ = false;
     answeredAt_ = services_.clock.now().toSecsSinceEpoch();
     refreshAge();
-    showJoined([this] {
-        setLoad(Load::Answered);
-        endWait();
-    });
+    endWaitWithRows();
 }
 
 void AllOrdersManagementViewController::failed(const RequestFailure& failure) {
@@ -233,14 +235,15 @@ void AllOrdersManagementViewController::failed(const RequestFailure& failure) {
 void AllOrdersManagementViewController::show(Shown shown) {
     rows_ = std::move(shown.rows);
     for (SavedOrderRow& row : shown.saved) {
-        if (row.syncState != OrderSyncState::pendingToSend)
+        if (!row.waiting)
             continue;
-        const OrderFile file = *rows_.find(row.key)->file();
-        row.isBusy = services_.actions.isBeingSent(file);
-        row.refusal = services_.actions.refusalOf(file);
+        row.isBusy = services_.actions.isBeingSent(*row.waiting);
+        row.refusal = services_.actions.refusalOf(*row.waiting);
     }
     saved_.show(std::move(shown.saved));
     sent_.show(std::move(shown.sent));
+    if (!isAnswerDue_ && load_ == Load::UnderWay)
+        load_ = Load::Answered;
     if (waitingFiles().empty())
         setNotice({});
     emit rowsChanged();
@@ -269,7 +272,7 @@ void AllOrdersManagementViewController::endWait() {
 void AllOrdersManagementViewController::left() {
     endWait();
     if (load_ != Load::UnderWay)
-        return;
+        return showJoined(); // which rows are being sent
     setLoad(Load::Failed);
     dropAnswer();
 }
@@ -352,7 +355,7 @@ void AllOrdersManagementViewController::runQuickFilter(QuickFilter which) {
                      filtered_ = std::make_shared<const OrderList>(answer);
                      quickFilter_ = which;
                      emit filtersChanged();
-                     showJoined([this] { endWait(); });
+                     endWaitWithRows();
                  },
                  [this, which](const RequestFailure& failure) { quickFilterFailed(which, failure); }});
 }

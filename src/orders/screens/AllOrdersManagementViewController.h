@@ -9,6 +9,7 @@
 #include "screens/ScreenController.h"
 #include "screens/VeilState.h"
 
+#include <QPointer>
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
@@ -199,20 +200,19 @@ private:
         std::vector<SentOrderRow> sent;
     };
     enum class Load { None, UnderWay, Offline, Failed, Answered };
-    using Rebuilt = std::function<void()>;
 
     void observe();
     [[nodiscard]] bool hasSession() const;
     void load();
-    void rebuildLocalRows(const Rebuilt& then);
-    void showJoined(const Rebuilt& then);
+    void rebuildLocalRows();
+    void showJoined();
+    void endWaitWithRows();
     void dropAnswer();
     void fetchServerOrders();
     void answered(const OrderList& answer);
     void failed(const RequestFailure& failure);
     void quickFilterFailed(QuickFilter which, const RequestFailure& failure);
     void runQuickFilter(QuickFilter which);
-    void work(std::function<DraftOrderRows()> make, const Rebuilt& then);
     void show(Shown shown);
     void setLoad(Load load);
     QObject* beginWait(const QString& text);
@@ -227,8 +227,8 @@ private:
     [[nodiscard]] bool canOpen(const DraftOrderRow& row);
     void open(const DraftOrderRow& row, const OrderToEdit& toEdit);
     static void tellSent(AlertPresenter& alerts, const OrderActions::Sending& sending);
-    void sent(const std::string& key, const OrderActions::Sending& sending);
-    void sentAll(const OrderActions::SentAll& all, int count);
+    void sent(const std::string& key, const OrderActions::Sending& sending, bool isAwaited);
+    void sentAll(const OrderActions::SentAll& all, int count, bool isAwaited);
     void confirmedDelete(const std::string& key);
     void deleteInCloud(const DraftOrderRow& row);
     void deletedInCloud(const DraftOrderRow& row, const OrderActions::Answer& failure);
@@ -253,6 +253,10 @@ private:
     VeilState veil_;
     PendingRun wait_;    // the request that the veil stands for
     PendingRun reading_; // of the files
+    PendingRun joining_; // of the rows that are shown next
+    bool fetchesAfterReading_ = false;
+    QPointer<QObject> endsWithRows_; // the wait that ends once they are on show
+    bool isAnswerDue_ = true;        // what stands is of a load before this one
     SavedOrdersModel saved_;
     SentOrdersModel sent_;
     // The rows on show, those of the device alone, and the answer that was joined to them.

@@ -39,6 +39,8 @@ SavedOrderRow savedRow(const DraftOrderRow& row, const std::set<std::string>& wi
     shown.type = typeText(row.sectionIdentifier);
     shown.pointOfSale = placeText(row.pointOfSale());
     shown.syncState = row.syncState;
+    if (row.syncState == OrderSyncState::pendingToSend)
+        shown.waiting = row.file();
     shown.hasChanges = row.syncState == OrderSyncState::synced && row.sectionIdentifier.brochureType() &&
                        withChanges.contains(row.filename);
     return shown;

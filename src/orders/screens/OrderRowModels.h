@@ -21,9 +21,10 @@ struct SavedOrderRow {
     QString type;
     QString pointOfSale;
     OrderSyncState syncState = OrderSyncState::savedLocally;
-    bool hasChanges = false; // the server has an older version
-    bool isBusy = false;     // it is being sent
-    QString refusal;         // why the server refused it last
+    std::optional<OrderFile> waiting; // its file, of a row of the outbox
+    bool hasChanges = false;          // the server has an older version
+    bool isBusy = false;              // it is being sent
+    QString refusal;                  // why the server refused it last
     bool operator==(const SavedOrderRow&) const = default;
 };
 

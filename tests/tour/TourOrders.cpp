@@ -1,0 +1,179 @@
+#include "interaction/AlertPresenter.h"
+#include "kavor/KavorApplication.h"
+#include "tour/Tour.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+// The part of the tour that follows what became of the orders.
+namespace kavor {
+
+namespace {
+
+void must(bool good, const QString& what) {
+    if (!good)
+        throw TouchFailure(what.toStdString());
+}
+
+const QString attention = QStringLiteral("Atención");
+
+} // namespace
+
+QString Tour::savedRow(const QString& folder, const QString& name, const QString& part) {
+    const QString row = QStringLiteral("savedOrderbrochure/%1/%2").arg(folder, name);
+    return part.isEmpty() ? row : row + QLatin1Char('|') + part;
+}
+
+QJsonArray Tour::printedOrders() const {
+    QJsonArray printed;
+    for (const auto& order : QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array()) {
+        if (order.toObject()[QLatin1String("body")].toObject()[QLatin1String("save")].toInt() == 1)
+            printed.append(order);
+    }
+    return printed;
+}
+
+// Only what is on the device, and nothing is asked of the server.
+void Tour::showOrdersOffline() {
+    touch_->tap(QStringLiteral("allOrdersButton"));
+    dismissAlert(attention, QStringLiteral("Sólo se muestran pedidos guardados localmente."));
+    touch_->await(savedRow(QStringLiteral("outbox"), QStringLiteral("Sin enviar")));
+    must(!touch_->isShown(QStringLiteral("sentOrdersTable|copyOrderButton")),
+         QStringLiteral("no order of the server is listed"));
+    shot(QStringLiteral("pedidos-sin-conexion"));
+    touch_->tap(QStringLiteral("openHelp"));
+    touch_->await(QStringLiteral("syncHelpView"));
+    shot(QStringLiteral("ayuda-estados"));
+    touch_->tap(QStringLiteral("hideNotifications"));
+    touch_->awaitGone(QStringLiteral("syncHelpView"));
+}
+
+// The network is back: a line says what waits, and the server's orders join.
+void Tour::showOrders() {
+    application_->setOffline(false);
+    touch_->await(QStringLiteral("noticeSendAll"));
+    touch_->tap(QStringLiteral("refreshOrders"));
+    touch_->await(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    shot(QStringLiteral("pedidos"));
+    touch_->type(QStringLiteral("localNameSearch"), QStringLiteral("zzz"));
+    touch_->tap(QStringLiteral("searchButton"));
+    touch_->await(QStringLiteral("filterpdv"));
+    touch_->waitUntil(QStringLiteral("an empty answer"), [&] {
+        return !touch_->isShown(QStringLiteral("sentOrdersTable|copyOrderButton")) &&
+               touch_->allTexts().contains(QStringLiteral("No hay pedidos enviados con este filtro."));
+    });
+    shot(QStringLiteral("busqueda-vacia"));
+    touch_->tap(QStringLiteral("filterpdv"));
+    touch_->await(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->tap(QStringLiteral("withoutConfirmButton"));
+    touch_->await(QStringLiteral("filterquick"));
+    touch_->tap(QStringLiteral("filterquick"));
+    touch_->awaitGone(QStringLiteral("filterquick"));
+}
+
+// An order that is only in the cloud is opened, kept under its name and stands in both places afterwards.
+void Tour::editCloudOrder() {
+    const QString name = QStringLiteral("Bar. La Nube");
+    QString row;
+    touch_->waitUntil(QStringLiteral("the cloud order"), [&] {
+        for (const auto& order :
+             QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders?all=1"))).array()) {
+            const QJsonObject record = order.toObject();
+            if (record[QLatin1String("filename")].toString() == name)
+                row = QStringLiteral("savedOrderbrochure %1 #%2")
+                          .arg(record[QLatin1String("type")].toInt())
+                          .arg(record[QLatin1String("id")].toInteger());
+        }
+        return !row.isEmpty();
+    });
+    touch_->tap(row + QStringLiteral("|editButton"));
+    dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
+    touch_->await(QStringLiteral("menuEntry8"));
+    touch_->settle();
+    if (application_->alerts().isVisible()) // what left the catalogue
+        touch_->tap(QStringLiteral("alertButton0"));
+    openStep(8);
+    shot(QStringLiteral("pedido-de-la-nube"));
+    touch_->tap(QStringLiteral("saveOrderAction"));
+    dismissAlert(QStringLiteral("Guardar como"), {});
+    dismissAlert(QStringLiteral("Pedido guardado"), QStringLiteral("sincronizado"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(savedRow(QStringLiteral("draft"), name, QStringLiteral("editButton")));
+    touch_->waitUntil(QStringLiteral("the order in both places"),
+                      [&] { return touch_->allTexts().contains(QStringLiteral("Sincronizado")); });
+    must(!touch_->isShown(row), QStringLiteral("one order is one row"));
+}
+
+// A copy is a draft of the device; deleted, it comes back as it was.
+void Tour::copyAndDelete() {
+    touch_->tap(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->waitUntil(QStringLiteral("the question for a name"),
+                      [&] { return application_->alerts().hasTextField(); });
+    touch_->type(QStringLiteral("alertTextField"), QStringLiteral("Copia para el martes"));
+    touch_->tap(QStringLiteral("alertButton0"));
+    dismissAlert(QStringLiteral("Copiar pedido."), QStringLiteral("Su pedido ha sido copiado en local."));
+    const QString copy = savedRow(QStringLiteral("draft"), QStringLiteral("Copia para el martes"));
+    touch_->await(copy);
+    shot(QStringLiteral("cuatro-estados"));
+    touch_->tap(copy + QStringLiteral("|deleteButton"));
+    dismissAlert(attention, QStringLiteral("¿Desea eliminar el pedido en borrador?"), 1);
+    touch_->awaitGone(copy);
+    shot(QStringLiteral("deshacer"));
+    touch_->tap(QStringLiteral("undoDelete"));
+    touch_->await(copy);
+}
+
+// What was ordered without a network is ordered once.
+void Tour::sendWaiting() {
+    const auto before = printedOrders().size();
+    touch_->tap(QStringLiteral("sendAllButton"));
+    dismissAlert(QStringLiteral("Enviado"), QStringLiteral("Pedido realizado correctamente."));
+    touch_->awaitGone(savedRow(QStringLiteral("outbox"), QStringLiteral("Sin enviar")));
+    must(printedOrders().size() == before + 1, QStringLiteral("one order more at the server"));
+}
+
+void Tour::claimAndDemand() {
+    touch_->awaitGone(QStringLiteral("veloView"));
+    touch_->tap(QStringLiteral("sentOrdersTable|orderTypeLabel"));
+    touch_->await(QStringLiteral("sheetClaim"));
+    shot(QStringLiteral("pedido-enviado"));
+    touch_->tap(QStringLiteral("sheetClaim"));
+    touch_->await(QStringLiteral("claimOrderView"));
+    touch_->type(QStringLiteral("commentText"), QStringLiteral("Las cartas han llegado dobladas."));
+    shot(QStringLiteral("reclamacion"));
+    touch_->tap(QStringLiteral("sendClaimButton"));
+    dismissAlert(QStringLiteral("Reclamación"), QStringLiteral("reclamación"));
+    touch_->await(QStringLiteral("allOrdersView"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    touch_->tap(QStringLiteral("sentOrdersTable|demandQrOrderButton"));
+    touch_->await(QStringLiteral("demandBrandQrView"));
+    shot(QStringLiteral("material-qr"));
+    touch_->tap(QStringLiteral("sendDemandButton"));
+    dismissAlert(QStringLiteral("Material QR"), {});
+    touch_->await(QStringLiteral("allOrdersView"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
+}
+
+void Tour::showTutorials() {
+    touch_->tap(QStringLiteral("tutorialsButton"));
+    touch_->await(QStringLiteral("film0"));
+    shot(QStringLiteral("tutoriales"));
+    touch_->tap(QStringLiteral("film0"));
+    touch_->await(QStringLiteral("filmPanel"));
+    touch_->waitUntil(QStringLiteral("the film to run"), [&] {
+        return touch_->isShown(QStringLiteral("filmTime")) &&
+               touch_->text(QStringLiteral("filmTime")).startsWith(QStringLiteral("0:02"));
+    });
+    touch_->tap(QStringLiteral("playFilm"));
+    shot(QStringLiteral("pelicula"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
+}
+
+} // namespace kavor
