@@ -2,6 +2,7 @@
 
 #include "catalogue/Shared.h"
 #include "interaction/AlertPresenter.h"
+#include "session/AppSingleton.h"
 #include "support/DeviceFakes.h"
 #include "support/FakeServices.h"
 
@@ -22,6 +23,7 @@ protected:
     PointOfSaleForm form{{network, alerts, urls, photos}, words()};
 
     void SetUp() override {
+        AppSingleton::shared().actualApplicationType = ApplicationType::textil;
         PointOfSaleFields fields;
         fields.contact = CustomerForm::fieldsOf(CustomerFieldGroup::contact, 2);
         fields.contact.back().label = "Nombre del contacto";

@@ -351,6 +351,7 @@ void AllOrdersManagementViewController::copyOrder(qlonglong id) {
         return;
     if (isOffline())
         return informOffline(services_.alerts);
+    closeSheet();
     const QString proposal = fromUtf8(order->filename.value_or(order->pdv.value_or("")));
     askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
                QStringLiteral("Guardar"), [this, id](const QString& name) {

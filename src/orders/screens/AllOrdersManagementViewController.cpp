@@ -311,7 +311,7 @@ void AllOrdersManagementViewController::searchToFilterAction() {
 void AllOrdersManagementViewController::removeFilter(const QString& id) {
     if (id == QLatin1String("quick"))
         return load();
-    for (const auto& [name, term] : termsById) {
+    for (const auto& [name, caption, term] : searchFields) {
         if (id == QLatin1String(name))
             (typed_.*term).clear();
     }
@@ -323,9 +323,9 @@ QVariantList AllOrdersManagementViewController::filters() const {
     QVariantList chips;
     if (quickFilter_ != QuickFilter::None)
         chips.append(chip(QStringLiteral("quick"), QString::fromUtf8(formOf(quickFilter_).chip)));
-    for (const auto& [name, term] : termsById) {
+    for (const auto& [name, caption, term] : searchFields) {
         if (!(active_.*term).isEmpty())
-            chips.append(chip(QString::fromLatin1(name), active_.*term));
+            chips.append(chip(QString::fromLatin1(name), QString::fromUtf8(caption) + active_.*term));
     }
     return chips;
 }

@@ -265,9 +265,15 @@ private:
     std::shared_ptr<const OrderList> answer_;
     std::shared_ptr<const OrderList> filtered_; // by the quick filter that stands
     Load load_ = Load::None;
-    // The fields of the search by their names among the filters.
-    static constexpr std::array<std::pair<const char*, QString Terms::*>, 3> termsById{
-        {{"orderId", &Terms::orderId}, {"tevo", &Terms::tevo}, {"pdv", &Terms::pdv}}};
+    // The fields of the search, as they stand among the filters.
+    struct SearchField {
+        const char* name;
+        const char* caption;
+        QString Terms::*term;
+    };
+    static constexpr std::array searchFields{SearchField{"orderId", "Nº ", &Terms::orderId},
+                                             SearchField{"tevo", "Código: ", &Terms::tevo},
+                                             SearchField{"pdv", "Local: ", &Terms::pdv}};
     Terms typed_;
     Terms active_; // orderIdToFilter, cobrixToFilter, localNameToFilter
     QuickFilter quickFilter_ = QuickFilter::None;

@@ -51,7 +51,7 @@ QColor stateColour(OrderSyncState state);
 
 // The left list. Roles: key, fileName, orderDate, number, orderType, pointOfSale, stateText, stateIcon,
 // stateColour, hasChanges, busy, refusal, canSend (else it can be edited).
-class SavedOrdersModel : public RowListModel {
+class SavedOrdersModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the list of orders")
@@ -73,7 +73,7 @@ private:
 
 // The right list. Roles: orderId, number, orderDate, orderType, pointOfSale, stateText, pending, canDemandQr,
 // hasNote.
-class SentOrdersModel : public RowListModel {
+class SentOrdersModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the list of orders")

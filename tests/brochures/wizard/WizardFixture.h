@@ -13,6 +13,7 @@
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 #include "session/services/SessionStore.h"
+#include "shell/WelcomeOptions.h"
 #include "support/Alerts.h"
 #include "support/DeviceFakes.h"
 #include "support/FakeServices.h"
@@ -84,6 +85,7 @@ protected:
             changeCatalogue(information);
         session.applicationInformation = std::make_shared<Catalogue>(std::move(information));
         session.actualSection = SectionIdentifier::brochure(type);
+        session.actualApplicationType = applicationTypeOf(*session.actualSection);
     }
 
     static BrochureIntermediateData& draft() { return *BrochureIntermediateData::temporalBrochure(); }

@@ -30,6 +30,7 @@ protected:
         WizardTest::TearDown();
     }
 
+    auto& lists() { return network.requests.retrieveBrochureOrderList; }
     void draft(const std::string& name, std::optional<Int> id = {}, Directory directory = Directory::draft,
                BrochureType type = BrochureType::beer) {
         KeptOrder order;
@@ -77,7 +78,6 @@ protected:
     void waitForRows() {
         ASSERT_TRUE(waitFor([&] { return !screen->veil()->isVisible(); }));
     }
-    auto& lists() { return network.requests.retrieveBrochureOrderList; }
     [[nodiscard]] const OrderListFilter& asked(std::size_t call) {
         return std::get<0>(lists().calls.at(call));
     }
