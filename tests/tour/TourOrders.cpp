@@ -89,6 +89,7 @@ void Tour::editCloudOrder() {
         }
         return !row.isEmpty();
     });
+    const QString count = touch_->text(QStringLiteral("savedCount"));
     touch_->tap(row + QStringLiteral("|editButton"));
     dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
     touch_->await(QStringLiteral("menuEntry8"));
@@ -104,7 +105,8 @@ void Tour::editCloudOrder() {
     touch_->await(savedRow(QStringLiteral("draft"), name, QStringLiteral("editButton")));
     touch_->waitUntil(QStringLiteral("the order in both places"),
                       [&] { return touch_->allTexts().contains(QStringLiteral("Sincronizado")); });
-    must(!touch_->isShown(row), QStringLiteral("one order is one row"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    must(touch_->text(QStringLiteral("savedCount")) == count, QStringLiteral("one order is one row"));
 }
 
 // A copy is a draft of the device; deleted, it comes back as it was.

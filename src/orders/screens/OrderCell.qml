@@ -5,11 +5,15 @@ import Kavor.Ui
 Tappable {
     id: cell
 
+    property bool pooled: false // kept by the list for another row
     property alias head: headSlot.data
     property alias told: toldSlot.data       // a column across the card
     property alias foot: footSlot.data       // a column beside the buttons
     property alias buttons: buttonSlot.data
 
+    visible: !pooled // for screen readers too
+    ListView.onPooled: pooled = true
+    ListView.onReused: pooled = false
     implicitWidth: 320
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     topPadding: Theme.spaceM
