@@ -46,7 +46,7 @@ void SuggestionViewController::chooseCategory(int index) {
 }
 
 QString SuggestionViewController::editBody(const QString& text) {
-    const QString kept = query_text::fitting(text);
+    QString kept = query_text::fitting(text);
     services_.suggestion.body = kept.toStdString();
     emit formChanged();
     return kept;
