@@ -34,31 +34,22 @@ const std::set<std::string> doubles{
 const std::set<std::string> enumerations{"application_father_id", "application_type_id",
                                          "cartas.cartatipos.id", "cartas.precios.id"};
 
-// Walks every value of a document. Each is handed over in its place, so that it can be changed and put back.
-class Walk {
-public:
-    Walk(JsonData& root, std::function<void(JsonData& value, const std::string& path)> visit)
-        : visit_(std::move(visit)) {
-        go(root, "");
-    }
-    static std::string withoutIndexes(const std::string& path) {
-        return std::regex_replace(path, std::regex(R"(\[\d+\])"), "");
-    }
+std::string withoutIndexes(const std::string& path) {
+    return std::regex_replace(path, std::regex(R"(\[\d+\])"), "");
+}
 
-private:
-    void go(JsonData& value, const std::string& path) {
-        if (!path.empty())
-            visit_(value, path);
-        for (std::size_t i = 0; i < value.members.size(); ++i) {
-            const auto key = value.members[i].first;
-            const bool list = value.kind == JsonData::Kind::list;
-            go(value.members[i].second,
-               list ? path + "[" + std::to_string(i) + "]" : path + (path.empty() ? "" : ".") + key);
-        }
+// Visits every value of a document. Each is handed over in its place, so that it can be changed and put back.
+using Visit = std::function<void(JsonData& value, const std::string& path)>;
+void walk(JsonData& value, const Visit& visit, const std::string& path = {}) {
+    if (!path.empty())
+        visit(value, path);
+    for (std::size_t i = 0; i < value.members.size(); ++i) {
+        const auto key = value.members[i].first;
+        const bool list = value.kind == JsonData::Kind::list;
+        walk(value.members[i].second, visit,
+             list ? path + "[" + std::to_string(i) + "]" : path + (path.empty() ? "" : ".") + key);
     }
-
-    std::function<void(JsonData&, const std::string&)> visit_;
-};
+}
 
 // What a value may not be replaced by.
 std::vector<std::string> wrongValues(const JsonData& value, const std::string& path) {
@@ -66,7 +57,7 @@ std::vector<std::string> wrongValues(const JsonData& value, const std::string& p
         return {"[]", "\"x\"", "1"};
     if (value.kind == JsonData::Kind::list)
         return {"{}", "\"1,2\"", "1", "[null]"};
-    const auto plain = Walk::withoutIndexes(path);
+    const auto plain = withoutIndexes(path);
     const auto key = plain.substr(plain.rfind('.') + 1);
     if (value.scalar == "true" || value.scalar == "false")
         return {"1", "\"true\"", "[]"};
@@ -98,7 +89,7 @@ TEST(CatalogueDocument, DecodesAndEncodesToTheSameDocument) {
 TEST(CatalogueDocument, OneWrongValueAnywhereFailsItAndIsNamed) {
     auto data = document();
     int count = 0;
-    Walk(data, [&](JsonData& value, const std::string& path) {
+    walk(data, [&](JsonData& value, const std::string& path) {
         const JsonData good = value;
         for (const auto& wrong : wrongValues(good, path)) {
             value = JsonData::of(wrong);
@@ -116,8 +107,8 @@ TEST(CatalogueDocument, OneWrongValueAnywhereFailsItAndIsNamed) {
 TEST(CatalogueDocument, OnlyTheOptionalMembersMayBeAbsentOrNull) {
     auto data = document();
     std::set<std::string> seen;
-    Walk(data, [&](JsonData& value, const std::string& path) {
-        const auto plain = Walk::withoutIndexes(path);
+    walk(data, [&](JsonData& value, const std::string& path) {
+        const auto plain = withoutIndexes(path);
         const bool optional = path.back() != ']' && optionalMembers.contains(plain);
         if (optional)
             seen.insert(plain);

@@ -336,16 +336,16 @@ TEST_F(Validation, SentencesStandInTheOrderOfTheRules) {
     draft().setFormatSelected(true, 101, 10);
     catalogue.parameters(BrochureType::beer).minBrandSelection = 2;
     useCatalogue();
+    const std::string price =
+        "El formato Caña para la marca Roble tiene un precio inferior al mínimo (1.5) en el "
+        "tipo de precio Barra";
     EXPECT_EQ(
         draft().validationErrors(),
-        (Messages{
-            "Faltan por seleccionar los idiomas", "No se ha introducido un número de cartas.",
-            "El nombre del establecimiento es obligatorio.", "El email es obligatorio.",
-            "El teléfono es obligatorio.", "El nombre de contacto es obligatorio.",
-            "El número de marcas seleccionadas es inferior a 2.", "No hay ningún estilo seleccionado.",
-            "No hay ningún estilo online seleccionado.",
-            "El formato Caña para la marca Roble tiene un precio inferior al mínimo (1.5) en el tipo de "
-            "precio Barra"}));
+        (Messages{"Faltan por seleccionar los idiomas", "No se ha introducido un número de cartas.",
+                  "El nombre del establecimiento es obligatorio.", "El email es obligatorio.",
+                  "El teléfono es obligatorio.", "El nombre de contacto es obligatorio.",
+                  "El número de marcas seleccionadas es inferior a 2.", "No hay ningún estilo seleccionado.",
+                  "No hay ningún estilo online seleccionado.", price}));
 }
 
 TEST_F(Validation, HighPricesAreToldButNotRefused) {

@@ -9,6 +9,7 @@ namespace kavor {
 
 void OrderSheetModel::setSheets(const std::vector<Brochures::OrderSheet>& sheets) {
     std::vector<OrderSheetEntry> entries;
+    entries.reserve(sheets.size() + 1);
     for (const Brochures::OrderSheet& sheet : sheets)
         entries.push_back({sheet});
     std::ranges::stable_sort(entries, {}, [](const OrderSheetEntry& entry) { return entry.sheet->position; });
