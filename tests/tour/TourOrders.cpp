@@ -131,7 +131,7 @@ void Tour::copyAndDelete() {
 // What was ordered without a network is ordered once.
 void Tour::sendWaiting() {
     const auto before = printedOrders().size();
-    touch_->tap(QStringLiteral("sendAllButton"));
+    touch_->tap(QStringLiteral("noticeSendAll"));
     dismissAlert(QStringLiteral("Enviado"), QStringLiteral("Pedido realizado correctamente."));
     touch_->awaitGone(savedRow(QStringLiteral("outbox"), QStringLiteral("Sin enviar")));
     must(printedOrders().size() == before + 1, QStringLiteral("one order more at the server"));

@@ -79,7 +79,9 @@ ColumnLayout {
             AppButton {
                 id: sendAll
 
-                readonly property bool wanted: text !== "" && !(Theme.compact && heads.sentCurrent)
+                // The notice has the same button.
+                readonly property bool wanted: text !== "" && heads.controller.notice === ""
+                                               && !(Theme.compact && heads.sentCurrent)
 
                 objectName: "sendAllButton"
                 visible: wanted

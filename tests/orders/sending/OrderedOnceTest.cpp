@@ -6,6 +6,7 @@
 #include "kavorctl/RunCommand.h"
 #include "network/NetworkManager.h"
 #include "orders/OrderList.h"
+#include "orders/services/OrderActions.h"
 #include "session/services/AuthManager.h"
 #include "tour/DemoServerProcess.h"
 
@@ -135,6 +136,55 @@ TEST_F(OrderedOnceTest, BySendingAgainAfterALostAnswerAlsoInAnotherProcess) {
     EXPECT_EQ(tap(*step), "Éxito");
     EXPECT_TRUE(step->isOrderSent());
     EXPECT_EQ(placedOrders(), 1);
+}
+
+TEST_F(OrderedOnceTest, OutOfTheOutboxWhateverBreaksOffAndOneIsCorrectedMeanwhile) {
+    constexpr auto outbox = OrderDiskManager::DirectoryName::outbox;
+    const auto queue = [&](const std::string& name, std::optional<Int> style) {
+        KeptOrder kept{order};
+        kept.menu.customer.name = "Bar " + name;
+        if (style)
+            kept.menu.style = style;
+        EXPECT_TRUE(orders.exists<KeptOrder>(name, outbox) ? orders.update(kept, name + ".zvo", outbox)
+                                                           : orders.create(kept, outbox, name));
+    };
+    queue("A", std::nullopt);
+    queue("B", 999'999); // the server refuses it
+    queue("C", std::nullopt);
+    const auto waiting = [&] {
+        std::vector<OrderFile> files;
+        for (const auto& file : orders.list<KeptOrder>(outbox))
+            files.push_back({OrderFile::Kind::Brochure, outbox, OrderDiskManager::plainName(file.fileName)});
+        std::ranges::sort(files);
+        return files;
+    };
+    // Each time as a client that was started anew.
+    const auto sendAll = [&] {
+        OrderActions actions(*manager, orders);
+        std::optional<OrderActions::SentAll> result;
+        actions.sendAll(waiting(), [](int) {}, [&](const OrderActions::SentAll& all) { result = all; });
+        EXPECT_TRUE(waitFor([&] { return result.has_value(); }));
+        return std::pair(result->sent, result->failed);
+    };
+    const auto path = folder.path() / "orders/outbox_orders/SaveBrochuresOrder/A.zvo";
+    const std::string bytes = contentOf(path);
+    const auto written = std::filesystem::last_write_time(path);
+
+    loseTheNextAnswer();
+    EXPECT_EQ(sendAll(), std::pair(1, 2));
+    EXPECT_EQ(placedOrders(), 2);
+    EXPECT_EQ(sendAll(), std::pair(1, 1)) << "the lost one is told now";
+    EXPECT_EQ(placedOrders(), 2);
+    queue("B", order.menu.style);
+    EXPECT_EQ(sendAll(), std::pair(1, 0));
+    EXPECT_EQ(placedOrders(), 3);
+
+    // Killed between the answer and the file, or the folder could not be written.
+    put(path, bytes);
+    std::filesystem::last_write_time(path, written);
+    EXPECT_EQ(sendAll(), std::pair(1, 0));
+    EXPECT_EQ(placedOrders(), 3);
+    EXPECT_TRUE(waiting().empty());
 }
 
 TEST_F(OrderedOnceTest, ByTheCommandThatIsRepeatedUnderTheNameOfItsIntent) {
