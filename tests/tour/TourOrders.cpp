@@ -37,7 +37,7 @@ QJsonArray Tour::printedOrders() const {
 
 // Only what is on the device, and nothing is asked of the server.
 void Tour::showOrdersOffline() {
-    touch_->tap(QStringLiteral("allOrdersButton"));
+    touch_->tap(QStringLiteral("unsentOrders"));
     dismissAlert(attention, QStringLiteral("Sólo se muestran pedidos guardados localmente."));
     touch_->await(savedRow(QStringLiteral("outbox"), QStringLiteral("Sin enviar")));
     must(!touch_->isShown(QStringLiteral("sentOrdersTable|copyOrderButton")),
@@ -169,7 +169,7 @@ void Tour::showTutorials() {
     touch_->await(QStringLiteral("filmPanel"));
     touch_->waitUntil(QStringLiteral("the film to run"), [&] {
         return touch_->isShown(QStringLiteral("filmTime")) &&
-               touch_->text(QStringLiteral("filmTime")).startsWith(QStringLiteral("0:02"));
+               touch_->text(QStringLiteral("filmTime")).startsWith(QStringLiteral("0:01"));
     });
     touch_->tap(QStringLiteral("playFilm"));
     shot(QStringLiteral("pelicula"));

@@ -32,10 +32,13 @@ Tappable {
             placeholderIcon: "video"
 
             Rectangle {
-                anchors.centerIn: parent
-                width: 56
-                height: 56
-                radius: 28
+                // In the corner: a picture may bear words, and a sign of its own.
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.margins: Theme.spaceS
+                width: 40
+                height: 40
+                radius: 20
                 color: Theme.bottle
                 opacity: card.hot ? 1 : 0.88
 
@@ -43,7 +46,7 @@ Tappable {
                     anchors.centerIn: parent
                     anchors.horizontalCenterOffset: 2
                     name: "play"
-                    size: 26
+                    size: 20
                     filled: true
                     colour: Theme.inverseInk
                 }

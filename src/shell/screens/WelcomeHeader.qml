@@ -51,6 +51,8 @@ Item {
             tone: "amber"
             icon: "send"
             text: header.controller.unsentOrders
+            tappable: true
+            onClicked: header.controller.openTool("allOrders")
         }
     }
 }
