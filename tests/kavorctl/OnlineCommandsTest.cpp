@@ -193,6 +193,35 @@ TEST_F(OnlineCommandsTest, ARunSaysWhatWentUpAndWhatDidNot) {
     EXPECT_EQ(server.requestsTo("/api/orders").size(), 2);
 }
 
+TEST_F(OnlineCommandsTest, SendsWhatWaitsOnceAndDeletesADraftInBothPlaces) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    const OrderDiskManager orders(documents);
+    SaveBrochuresOrder order;
+    order.orderIdentifier = 41;
+    ASSERT_TRUE(orders.create(order, OrderDiskManager::DirectoryName::outbox, "Sin enviar"));
+    ASSERT_TRUE(orders.create(order, OrderDiskManager::DirectoryName::draft, "Olmo"));
+
+    server.then("/api/orders", ScriptedAnswer::of(ScriptedAnswer::Kind::Reset));
+    EXPECT_EQ(online({"orders", "send", "Sin enviar"}).status, ctl::requestFailed);
+    server.answer("/api/orders", ScriptedAnswer::json("{}"));
+    EXPECT_EQ(online({"orders", "send", "Sin enviar"}).out, "Pedido realizado correctamente.\n");
+    const auto sent = server.requestsTo("/api/orders");
+    ASSERT_EQ(sent.size(), 2);
+    EXPECT_EQ(sent[0].header("idempotency-key"), sent[1].header("idempotency-key"));
+    EXPECT_EQ(online({"orders", "send", "Sin enviar"}).status, ctl::unreadableInput);
+
+    server.answer(listPath, ScriptedAnswer::json(R"({"resumen":{},"pedidos":[
+        {"id":41,"fecha":"02-03-2020 10:11:12","can_demand_qr":false,"tipo":"x","tipoId":1,"estado":"Nube",
+         "estadoId":12,"token":"t","name_archive_tablet":"Olmo"}]})"));
+    server.answer("/api/orders/delete", ScriptedAnswer::json("{}"));
+    const Outcome deleted = online({"orders", "delete", "Olmo"});
+    EXPECT_EQ(deleted.out, "El borrador se ha eliminado del dispositivo.\n"
+                           "El borrador se ha eliminado en cloud.\n")
+        << deleted.err;
+    EXPECT_EQ(server.requestsTo("/api/orders/delete").size(), 1);
+    EXPECT_FALSE(orders.exists<SaveBrochuresOrder>("Olmo", OrderDiskManager::DirectoryName::draft));
+}
+
 TEST_F(OnlineCommandsTest, FetchesThePicturesOfTheBackgroundTooAndTellsEachThatFailed) {
     ASSERT_EQ(logIn().status, ctl::fine);
     auto catalogue =
