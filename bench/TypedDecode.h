@@ -18,7 +18,7 @@ bool readMember(const typename Backend::Value& value, Record& record, const Fiel
     if constexpr (json::IsOptional<Member>::value) {
         if (!found || Backend::isNull(*found))
             return true;
-        return readTyped<Backend>(*found, member.emplace());
+        return readTyped<Backend>(*found, member.emplace(typename Member::value_type()));
     } else {
         return found && readTyped<Backend>(*found, member);
     }

@@ -117,7 +117,8 @@ TEST(CatalogueDocument, OnlyTheOptionalMembersMayBeAbsentOrNull) {
         value = good;
         if (value.kind != JsonData::Kind::object)
             return;
-        for (const auto& [key, member] : good.members) {
+        for (const auto& member : good.members) {
+            const std::string& key = member.first;
             std::erase_if(value.members, [&key](const auto& each) { return each.first == key; });
             const bool mayGo = optionalMembers.contains(plain + "." + key);
             EXPECT_EQ(fault(data), mayGo ? "" : path + "." + key + ": missing");

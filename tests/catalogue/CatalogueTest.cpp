@@ -35,7 +35,8 @@ TEST(Catalogue, AddingAndRemovingBrandsKeepsTheIndexesAndOlderCopies) {
     EXPECT_EQ(changed.freeNegativeProductId(), -1);
     Product own;
     own.id = -1;
-    own.category.emplace().propertyId = 4;
+    own.category = Product::Category();
+    own.category->propertyId = 4;
     own.productList.emplace_back().id = 1;
     for (int i = 0; i < 50; ++i, --own.id)
         changed.addProduct(own);

@@ -21,6 +21,8 @@ struct JsonData {
     std::string scalar = "null";
     std::vector<std::pair<std::string, JsonData>> members; // of an object; of a list with empty keys
 
+    JsonData();
+
     static JsonData of(std::string_view text) {
         simdjson::dom::parser parser;
         const simdjson::padded_string padded(text);
@@ -96,5 +98,8 @@ private:
         return data;
     }
 };
+
+// Its members hold it while it is incomplete, so not every compiler makes it in the class.
+inline JsonData::JsonData() = default;
 
 } // namespace kavor

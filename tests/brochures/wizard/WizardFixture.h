@@ -132,7 +132,8 @@ private:
         Product made;
         made.id = id;
         made.name = "Brava";
-        made.category.emplace().propertyId = property;
+        made.category = Product::Category();
+        made.category->propertyId = property;
         auto& format = made.productList.emplace_back();
         format.id = id * 10;
         format.icon = "Caña";
@@ -147,7 +148,7 @@ private:
         Brochures made;
         auto& kind = made.types.emplace_back();
         kind.id = type;
-        kind.parameters.emplace();
+        kind.parameters = Parameters();
         kind.parameters->maximumOrderQuantity = 100;
         auto& style = made.styles.emplace_back();
         style.id = 5;
