@@ -11,7 +11,8 @@
 
 namespace kavor::demo {
 
-/// A demonstration server on a free port with a folder of its own or a given one, and a client that talks to it.
+/// A demonstration server on a free port with a folder of its own or a given one, and a client that talks to
+/// it.
 class RunningServer {
 public:
     explicit RunningServer(Options options = {})

@@ -25,7 +25,8 @@ void CustomerLookup::search(const QString& code, Answered answered) {
         informOffline(alerts_);
         return;
     }
-    if (!AppSingleton::shared().actualApplicationType) { // a kind of order that the server looks nothing up for
+    if (!AppSingleton::shared()
+             .actualApplicationType) { // a kind of order that the server looks nothing up for
         alerts_.inform(QStringLiteral("Incidencia"), QStringLiteral("Error"));
         return;
     }

@@ -162,7 +162,8 @@ TEST_F(OrderedOnceTest, OutOfTheOutboxWhateverBreaksOffAndOneIsCorrectedMeanwhil
     const auto sendAll = [&] {
         OrderActions actions(*manager, orders);
         std::optional<OrderActions::SentAll> result;
-        actions.sendAll(waiting(), [](int) {}, [&](const OrderActions::SentAll& all) { result = all; });
+        actions.sendAll(
+            waiting(), [](int) {}, [&](const OrderActions::SentAll& all) { result = all; });
         EXPECT_TRUE(waitFor([&] { return result.has_value(); }));
         return std::pair(result->sent, result->failed);
     };
