@@ -169,7 +169,7 @@ private:
         for (const auto& entry : std::filesystem::recursive_directory_iterator(documents_)) {
             const auto name = entry.path().filename().string();
             const auto key = std::filesystem::relative(entry.path(), documents_).string();
-            if (name.starts_with(".tmp-"))
+            if (isForTheNextStart(name))
                 ++report.temporaries;
             else if (entry.is_regular_file() && key != recoveryCopyName && key != temporaryCopyName &&
                      !expected_.contains(key))
@@ -185,6 +185,11 @@ private:
         }
     }
 
+    // What a dead writer left, and what was deleted and could still be brought back.
+    static bool isForTheNextStart(const std::string& name) {
+        return name.starts_with(".tmp-") || name.ends_with(".del");
+    }
+
     static std::string textOf(const std::vector<Int>& values) {
         std::string text;
         for (const Int value : values)
@@ -196,7 +201,7 @@ private:
         const OrderDiskManager orders(documents_);
         const FileKeychain keychain(documents_ / keychainKey);
         for (const auto& entry : std::filesystem::recursive_directory_iterator(documents_)) {
-            if (entry.path().filename().string().starts_with(".tmp-"))
+            if (isForTheNextStart(entry.path().filename().string()))
                 fault(entry.path().string() + " is left after the next start");
         }
     }

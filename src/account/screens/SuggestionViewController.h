@@ -1,7 +1,7 @@
 #pragma once
 
 #include "account/screens/AccountServices.h"
-#include "screens/MessageFormController.h"
+#include "screens/messages/MessageFormController.h"
 
 #include <QString>
 #include <QStringList>

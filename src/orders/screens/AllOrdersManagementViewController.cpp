@@ -1,13 +1,11 @@
 #include "orders/screens/AllOrdersManagementViewController.h"
 
-#include "device/Background.h"
+#include "catalogue/Catalogue.h"
 #include "device/Clock.h"
 #include "device/Reachability.h"
+#include "device/UrlOpener.h"
 #include "interaction/QtText.h"
 #include "interaction/Questions.h"
-#include "network/ShowRequestFailure.h"
-#include "orders/DraftsWithChanges.h"
-#include "orders/services/OrderSync.h"
 #include "screens/ElapsedText.h"
 #include "session/AppSingleton.h"
 
@@ -86,34 +84,27 @@ QString explanationOf(OrderSyncState state) {
 AllOrdersManagementViewController::AllOrdersManagementViewController(const OrderListServices& services,
                                                                      QObject* parent)
     : ScreenController(parent)
-    , services_(services) {
-    observe();
-}
-
-AllOrdersManagementViewController::~AllOrdersManagementViewController() {
-    endUndo();
-}
-
-void AllOrdersManagementViewController::observe() {
-    observers_.push_back(
-        NotificationCenter::shared().observe(notification::reloadOrders, [this](const NotificationInfo&) {
-            if (!covered_)
-                load();
-        }));
-    connect(&services_.actions, &OrderActions::filesChanged, this, [this] {
-        if (!covered_)
-            rebuildLocalRows();
-    });
+    , services_(services)
+    , board_(services)
+    , actions_(services, board_) {
     connect(&services_.reachability, &Reachability::changed, this,
             &AllOrdersManagementViewController::reachabilityChanged);
-    connect(&veil_, &VeilState::left, this, &AllOrdersManagementViewController::left);
+    connect(&board_, &OrderListBoard::rowsChanged, this, &AllOrdersManagementViewController::rowsShown);
+    connect(&board_, &OrderListBoard::loadChanged, this, &AllOrdersManagementViewController::emptyChanged);
+    connect(&board_, &OrderListBoard::answered, this, &AllOrdersManagementViewController::answered);
+    connect(&actions_, &OrderRowActions::undoChanged, this, &AllOrdersManagementViewController::undoChanged);
+}
+
+AllOrdersManagementViewController::~AllOrdersManagementViewController() = default;
+
+void AllOrdersManagementViewController::setWays(const OrderListWays& ways) {
+    ways_ = ways;
+    actions_.setWays(ways);
 }
 
 void AllOrdersManagementViewController::viewWillAppear() {
-    covered_ = false;
-    services_.session.actualSection.reset();
-    services_.session.actualApplicationType.reset();
-    load();
+    setQuickFilter(QuickFilter::None);
+    board_.uncover();
 }
 
 void AllOrdersManagementViewController::closeSceneAction() {
@@ -121,167 +112,23 @@ void AllOrdersManagementViewController::closeSceneAction() {
 }
 
 void AllOrdersManagementViewController::refresh() {
-    load();
+    setQuickFilter(QuickFilter::None);
+    board_.load();
 }
 
-bool AllOrdersManagementViewController::hasSession() const {
-    return services_.session.loginResult && services_.session.applicationInformation;
-}
-
-// ---- Loading
-
-// The rows of the last answer stay on show until the next one, or until it is known that there is none, so
-// that nobody loses the place where he was.
-void AllOrdersManagementViewController::load() {
-    quickFilter_ = QuickFilter::None;
-    isAnswerDue_ = true;
-    fetchesAfterReading_ = true;
-    emit filtersChanged();
-    rebuildLocalRows();
-}
-
-void AllOrdersManagementViewController::rebuildLocalRows() {
-    runInBackground(
-        reading_.begin(),
-        [&orders = services_.orders] {
-            DraftOrderRows rows;
-            rows.rebuildLocalRows(orders);
-            return rows;
-        },
-        [this](DraftOrderRows rows) {
-            reading_.end();
-            local_ = std::move(rows);
-            showJoined();
-            if (std::exchange(fetchesAfterReading_, false))
-                fetchServerOrders();
-        });
-}
-
-// The rows of the device, joined with the answers that stand.
-void AllOrdersManagementViewController::showJoined() {
-    runInBackground(
-        joining_.begin(),
-        [rows = local_, answer = answer_, filtered = filtered_,
-         withChanges = DraftsWithChanges::shared().names()]() mutable {
-            if (answer)
-                rows.applyAnswer(*answer);
-            rows.sortSentOrders();
-            if (filtered)
-                rows.applyQuickFilter(*filtered);
-            auto saved = savedRows(rows, withChanges);
-            auto sent = sentRows(rows);
-            return Shown{std::move(rows), std::move(saved), std::move(sent)};
-        },
-        [this](Shown shown) {
-            joining_.end();
-            show(std::move(shown));
-            if (endsWithRows_ && endsWithRows_ == wait_.context())
-                endWait();
-        });
-}
-
-void AllOrdersManagementViewController::endWaitWithRows() {
-    endsWithRows_ = wait_.context();
-    showJoined();
-}
-
-// Of a load that began with nothing but the device's rows.
-void AllOrdersManagementViewController::dropAnswer() {
-    if (isAnswerDue_) {
-        answer_.reset();
-        filtered_.reset();
-    }
-    showJoined();
-}
-
-void AllOrdersManagementViewController::fetchServerOrders() {
-    services_.sync.replanBrochureSync();
-    if (!services_.network.isReachable()) {
-        setLoad(Load::Offline);
-        dropAnswer();
-        services_.alerts.inform(QStringLiteral("Atención"),
-                                QStringLiteral("Sólo se muestran pedidos guardados localmente."), this);
-        return;
-    }
-    if (!hasSession()) {
-        setLoad(Load::Failed);
-        return dropAnswer();
-    }
-    setLoad(Load::UnderWay);
-    services_.network.retrieveBrochureOrderList({active_.orderId, active_.tevo, active_.pdv, 0, 0, 0, true},
-                                                {beginWait(QStringLiteral("Cargando los pedidos…")),
-                                                 [this](const OrderList& answer) { answered(answer); },
-                                                 [this](const RequestFailure& failure) { failed(failure); }});
-}
-
-void AllOrdersManagementViewController::answered(const OrderList& answer) {
-    answer_ = std::make_shared<const OrderList>(answer);
-    filtered_.reset();
-    isAnswerDue_ = false;
+void AllOrdersManagementViewController::answered() {
+    setQuickFilter(QuickFilter::None);
     answeredAt_ = services_.clock.now().toSecsSinceEpoch();
     refreshAge();
-    endWaitWithRows();
 }
 
-void AllOrdersManagementViewController::failed(const RequestFailure& failure) {
-    endWait();
-    setLoad(Load::Failed);
-    dropAnswer();
-    tellFailure(failure, QStringLiteral("Error"),
-                {{QString::fromUtf8(workLocally), AlertButton::Role::Cancel, {}},
-                 {QString::fromUtf8(tryAgain), AlertButton::Role::Normal, [this] { fetchServerOrders(); }}});
-}
-
-void AllOrdersManagementViewController::show(Shown shown) {
-    rows_ = std::move(shown.rows);
-    for (SavedOrderRow& row : shown.saved) {
-        if (!row.waiting)
-            continue;
-        row.isBusy = services_.actions.isBeingSent(*row.waiting);
-        row.refusal = services_.actions.refusalOf(*row.waiting);
-    }
-    saved_.show(std::move(shown.saved));
-    sent_.show(std::move(shown.sent));
-    if (!isAnswerDue_ && load_ == Load::UnderWay)
-        load_ = Load::Answered;
-    if (waitingFiles().empty())
+void AllOrdersManagementViewController::rowsShown() {
+    if (board_.waitingFiles().empty())
         setNotice({});
     emit rowsChanged();
     emit summaryChanged();
     emit emptyChanged();
     emit sheetChanged();
-}
-
-void AllOrdersManagementViewController::setLoad(Load load) {
-    load_ = load;
-    emit emptyChanged();
-}
-
-QObject* AllOrdersManagementViewController::beginWait(const QString& text) {
-    veil_.setText(text);
-    veil_.setVisible(true, true);
-    return wait_.begin();
-}
-
-void AllOrdersManagementViewController::endWait() {
-    wait_.end();
-    veil_.setVisible(false, false);
-}
-
-// The user works with what is on the device; a late answer changes nothing.
-void AllOrdersManagementViewController::left() {
-    endWait();
-    if (load_ != Load::UnderWay)
-        return showJoined(); // which rows are being sent
-    setLoad(Load::Failed);
-    dropAnswer();
-}
-
-void AllOrdersManagementViewController::tellFailure(const RequestFailure& failure, const QString& text,
-                                                    std::vector<Choice> choices) {
-    if (failure.error.updateNeeded)
-        return showRequestFailure({services_.alerts, services_.urls}, {}, failure, true, {});
-    ask(services_.alerts, this, QStringLiteral("Incidencia"), text, std::move(choices));
 }
 
 // ---- Search and quick filters
@@ -302,15 +149,14 @@ void AllOrdersManagementViewController::editLocalNameSearch(const QString& text)
 }
 
 void AllOrdersManagementViewController::searchToFilterAction() {
-    active_ = typed_;
-    quickFilter_ = QuickFilter::None;
+    setQuickFilter(QuickFilter::None);
+    board_.search(typed_);
     emit filtersChanged();
-    fetchServerOrders();
 }
 
 void AllOrdersManagementViewController::removeFilter(const QString& id) {
     if (id == QLatin1String("quick"))
-        return load();
+        return refresh();
     for (const auto& [name, caption, term] : searchFields) {
         if (id == QLatin1String(name))
             (typed_.*term).clear();
@@ -324,8 +170,8 @@ QVariantList AllOrdersManagementViewController::filters() const {
     if (quickFilter_ != QuickFilter::None)
         chips.append(chip(QStringLiteral("quick"), QString::fromUtf8(formOf(quickFilter_).chip)));
     for (const auto& [name, caption, term] : searchFields) {
-        if (!(active_.*term).isEmpty())
-            chips.append(chip(QString::fromLatin1(name), QString::fromUtf8(caption) + active_.*term));
+        if (!(board_.terms().*term).isEmpty())
+            chips.append(chip(QString::fromLatin1(name), QString::fromUtf8(caption) + board_.terms().*term));
     }
     return chips;
 }
@@ -343,25 +189,28 @@ void AllOrdersManagementViewController::withoutFilterAction() {
 }
 
 void AllOrdersManagementViewController::runQuickFilter(QuickFilter which) {
-    if (!services_.network.isReachable())
+    if (isOffline())
         return informOffline(services_.alerts);
-    if (!hasSession())
-        return tellOldCatalogue();
+    if (!board_.hasSession())
+        return board_.tellOldCatalogue();
     OrderListFilter filter;
     filter.*formOf(which).parameter = 1;
     services_.network.retrieveBrochureOrderList(
-        filter, {beginWait(QStringLiteral("Cargando los pedidos…")),
+        filter, {board_.beginWait(QStringLiteral("Cargando los pedidos…")),
                  [this, which](const OrderList& answer) {
-                     filtered_ = std::make_shared<const OrderList>(answer);
-                     quickFilter_ = which;
-                     emit filtersChanged();
-                     endWaitWithRows();
+                     setQuickFilter(which);
+                     board_.showFiltered(answer);
                  },
                  [this, which](const RequestFailure& failure) { quickFilterFailed(which, failure); }});
 }
 
+void AllOrdersManagementViewController::setQuickFilter(QuickFilter which) {
+    if (std::exchange(quickFilter_, which) != which)
+        emit filtersChanged();
+}
+
 void AllOrdersManagementViewController::quickFilterFailed(QuickFilter which, const RequestFailure& failure) {
-    endWait();
+    board_.endWait();
     const bool hasMessage = failure.messages && !failure.messages->isEmpty();
     std::vector<Choice> choices;
     for (const char* caption : formOf(which).buttons) {
@@ -371,45 +220,35 @@ void AllOrdersManagementViewController::quickFilterFailed(QuickFilter which, con
         else
             choices.push_back({QString::fromUtf8(caption), AlertButton::Role::Cancel, {}});
     }
-    tellFailure(failure, hasMessage ? failure.messages->first() : QStringLiteral("Error"),
-                std::move(choices));
+    board_.tellFailure(failure, hasMessage ? failure.messages->first() : QStringLiteral("Error"),
+                       std::move(choices));
 }
 
 // ---- What the view shows
 
 bool AllOrdersManagementViewController::isOffline() const {
-    return !services_.network.isReachable();
+    return board_.isOffline();
 }
 
 QString AllOrdersManagementViewController::withoutConfirmNumberLabel() const {
-    return numberText(rows_.summary().noConfirm);
+    return numberText(board_.rows().summary().noConfirm);
 }
 
 QString AllOrdersManagementViewController::realizedNumberLabel() const {
-    return numberText(rows_.summary().total);
+    return numberText(board_.rows().summary().total);
 }
 
 QString AllOrdersManagementViewController::withoutCobrixCodeLabel() const {
-    return numberText(rows_.summary().noComplete);
-}
-
-std::vector<OrderFile> AllOrdersManagementViewController::waitingFiles() const {
-    std::vector<OrderFile> files;
-    for (const DraftOrderRow& row : rows_.draftsOrderList()) {
-        if (row.syncState == OrderSyncState::pendingToSend)
-            files.push_back(*row.file());
-    }
-    std::ranges::reverse(files); // what waits longest goes first
-    return files;
+    return numberText(board_.rows().summary().noComplete);
 }
 
 QString AllOrdersManagementViewController::sendAllText() const {
-    const auto count = waitingFiles().size();
+    const auto count = board_.waitingFiles().size();
     return count > 0 ? QStringLiteral("Enviar todos (%1)").arg(count) : QString();
 }
 
 QVariantMap AllOrdersManagementViewController::savedEmpty() const {
-    if (active_ != Terms())
+    if (board_.terms() != SearchTerms())
         return emptyState("search", "Ningún borrador", "La búsqueda sólo encuentra pedidos de la nube.");
     return emptyState("brochure", "Todavía no hay borradores",
                       "Los pedidos que guardes y los que esperan a ser enviados aparecen aquí.");
@@ -419,25 +258,25 @@ QVariantMap AllOrdersManagementViewController::sentEmpty() const {
     if (isOffline())
         return emptyState("offline", "Sin conexión", "Los pedidos enviados se ven cuando hay conexión.",
                           "Volver a intentarlo");
-    switch (load_) {
-    case Load::None:
-    case Load::UnderWay:
+    switch (board_.state()) {
+    case OrderListBoard::Load::None:
+    case OrderListBoard::Load::UnderWay:
         return emptyState("refresh", "Cargando los pedidos…", "");
-    case Load::Offline:
-    case Load::Failed:
+    case OrderListBoard::Load::Offline:
+    case OrderListBoard::Load::Failed:
         return emptyState("warning", "No se han podido cargar los pedidos",
                           "Puedes seguir trabajando con los del dispositivo.", "Volver a intentarlo");
-    case Load::Answered:
+    case OrderListBoard::Load::Answered:
         break;
     }
-    if (active_ != Terms() || quickFilter_ != QuickFilter::None)
+    if (board_.terms() != SearchTerms() || quickFilter_ != QuickFilter::None)
         return emptyState("search", "Ningún pedido", "No hay pedidos enviados con este filtro.");
     return emptyState("send", "Todavía no hay pedidos enviados",
                       "Cuando envíes un pedido podrás seguir aquí lo que pasa con él.");
 }
 
 bool AllOrdersManagementViewController::isSentShown() const {
-    return !isOffline() && sent_.count() > 0;
+    return !isOffline() && board_.hasSentRows();
 }
 
 QVariantList AllOrdersManagementViewController::helpStates() const {
@@ -473,7 +312,7 @@ void AllOrdersManagementViewController::refreshAge() {
 void AllOrdersManagementViewController::reachabilityChanged() {
     emit offlineChanged();
     emit emptyChanged();
-    const auto waiting = qint64(waitingFiles().size());
+    const auto waiting = qint64(board_.waitingFiles().size());
     if (isOffline() || waiting == 0)
         return setNotice({});
     setNotice(QStringLiteral("Vuelve a haber conexión: ") +
@@ -485,9 +324,71 @@ void AllOrdersManagementViewController::setNotice(const QString& notice) {
         emit noticeChanged();
 }
 
-void AllOrdersManagementViewController::tellOldCatalogue() {
-    services_.alerts.inform(QStringLiteral("Atención"),
-                            QStringLiteral("Es necesario actualizar el catálogo."), this);
+// ---- A sent row
+
+void AllOrdersManagementViewController::openSheet(qlonglong id) {
+    sheetId_ = id;
+    emit sheetChanged();
+}
+
+void AllOrdersManagementViewController::closeSheet() {
+    sheetId_.reset();
+    emit sheetChanged();
+}
+
+QVariantMap AllOrdersManagementViewController::sheet() const {
+    const OrderList::Order* order = sheetId_ ? board_.rows().findSent(*sheetId_) : nullptr;
+    if (!order)
+        return {};
+    const std::string place = order->pdv.value_or("");
+    return {{QStringLiteral("orderId"), qlonglong(order->id)},
+            {QStringLiteral("title"), QStringLiteral("Pedido %1").arg(order->id)},
+            {QStringLiteral("date"), fromUtf8(order->date.text()).left(16)},
+            {QStringLiteral("type"), fromUtf8(order->type)},
+            {QStringLiteral("pointOfSale"),
+             place.empty() ? QStringLiteral("(Sin especificar)") : fromUtf8(place)},
+            {QStringLiteral("state"), fromUtf8(order->state)},
+            {QStringLiteral("note"), fromUtf8(order->note.value_or(""))},
+            {QStringLiteral("pending"), order->pending.value_or(false)},
+            {QStringLiteral("canDemandQr"), order->canDemandQr}};
+}
+
+void AllOrdersManagementViewController::previewURLAction(qlonglong id) {
+    const OrderList::Order* order = board_.rows().findSent(id);
+    if (!order)
+        return;
+    const QString contact = QStringLiteral("Póngase en contacto con soporte.");
+    if (!order->url)
+        return services_.alerts.inform(QStringLiteral("No existe enlace para este pedido."), contact, this);
+    if (!services_.urls.openExternally(QString::fromStdString(order->url->text)))
+        services_.alerts.inform(QStringLiteral("No se puede abrir el enlace."), contact, this);
+}
+
+void AllOrdersManagementViewController::claimOrder(qlonglong id) {
+    const OrderList::Order* order = board_.rows().findSent(id);
+    if (!order)
+        return;
+    closeSheet();
+    board_.cover([this, order = *order] { ways_.claim(order); });
+}
+
+void AllOrdersManagementViewController::demandQrOrder(qlonglong id) {
+    const OrderList::Order* order = board_.rows().findSent(id);
+    if (!order || !order->canDemandQr)
+        return;
+    if (!board_.hasSession())
+        return board_.tellOldCatalogue();
+    if (!services_.session.catalogue().brochureType(order->typeId))
+        return services_.alerts.inform(QStringLiteral("Atención"),
+                                       QStringLiteral("Este tipo de pedido ya no está en el catálogo."),
+                                       this);
+    closeSheet();
+    board_.cover([this, order = *order] { ways_.qrDemand(order); });
+}
+
+void AllOrdersManagementViewController::copyOrder(qlonglong id) {
+    closeSheet();
+    actions_.copy(id);
 }
 
 } // namespace kavor

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "orders/screens/OrderMessageServices.h"
-#include "screens/MessageFormController.h"
+#include "screens/messages/MessageFormController.h"
 
 #include <QString>
 

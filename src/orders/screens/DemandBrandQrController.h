@@ -3,8 +3,8 @@
 #include "catalogue/Catalogue.h"
 #include "orders/OrderList.h"
 #include "orders/screens/OrderMessageServices.h"
-#include "screens/MessageFormController.h"
 #include "screens/PickerRows.h"
+#include "screens/messages/MessageFormController.h"
 
 #include <QString>
 #include <QStringList>

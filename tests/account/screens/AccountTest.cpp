@@ -3,7 +3,7 @@
 #include "account/screens/SuggestionViewController.h"
 #include "account/screens/TutorialsViewController.h"
 #include "interaction/AlertPresenter.h"
-#include "screens/QueryText.h"
+#include "screens/messages/QueryText.h"
 #include "session/AppSingleton.h"
 #include "session/services/AuthManager.h"
 #include "support/CatalogueBuilder.h"

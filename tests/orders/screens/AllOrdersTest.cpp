@@ -321,7 +321,7 @@ TEST_F(AllOrders, ADraftOfTheDeviceAloneCanBeBroughtBackForEightSeconds) {
     screen->undoDelete();
     ASSERT_TRUE(waitFor([&] { return screen->savedOrders()->count() == 1; }));
     remove();
-    clock.advance(AllOrdersManagementViewController::undoTime);
+    clock.advance(OrderRowActions::undoTime);
     EXPECT_TRUE(screen->undoText().isEmpty());
     screen->undoDelete();
     EXPECT_FALSE(orders.exists<KeptOrder>("Olmo", Directory::draft));

@@ -189,10 +189,9 @@ TEST_F(OrderListViewTest, NothingStandsBeyondItsCardAtAnyOfTheThreeSizes) {
         for (const bool sentList : {false, true}) {
             if (size == phone)
                 scene->click(sentList ? QStringLiteral("sentTab") : QStringLiteral("savedTab"));
-            const QString name = sentList
-                                     ? QStringLiteral("sentOrder4000000000")
-                                     : QStringLiteral("savedOrder") +
-                                           QString::fromStdString(list->rows().draftsOrderList()[0].key());
+            const QString name = sentList ? QStringLiteral("sentOrder4000000000")
+                                          : QStringLiteral("savedOrder") +
+                                                QString::fromStdString(list->savedOrders()->rows()[0].key);
             const QQuickItem* cell = scene->item(name);
             ASSERT_NE(cell, nullptr) << name.toStdString();
             for (const QQuickItem* part : cell->findChildren<QQuickItem*>()) {

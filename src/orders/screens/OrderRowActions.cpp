@@ -1,4 +1,5 @@
-// What the list of orders does with a row.
+#include "orders/screens/OrderRowActions.h"
+
 #include "brochures/engine/OrderToEdit.h"
 #include "catalogue/Catalogue.h"
 #include "device/Clock.h"
@@ -7,7 +8,6 @@
 #include "interaction/Questions.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/DraftsWithChanges.h"
-#include "orders/screens/AllOrdersManagementViewController.h"
 #include "orders/services/FiledOrderRoad.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
@@ -29,16 +29,18 @@ bool isSent(const OrderActions::Sending& sending) {
 
 } // namespace
 
-// What opens over the list reloads it when it closes.
-void AllOrdersManagementViewController::cover(const std::function<void()>& openScreen) {
-    covered_ = true;
-    openScreen();
+OrderRowActions::OrderRowActions(const OrderListServices& services, OrderListBoard& board)
+    : services_(services)
+    , board_(board) {}
+
+OrderRowActions::~OrderRowActions() {
+    endUndo();
 }
 
 // ---- Edit
 
-void AllOrdersManagementViewController::editAction(const QString& key) {
-    const DraftOrderRow* row = rows_.find(key.toStdString());
+void OrderRowActions::askToEdit(const QString& key) {
+    const DraftOrderRow* row = board_.rows().find(key.toStdString());
     if (!row)
         return;
     const QString question = QStringLiteral("¿Deseas editar el pedido \"") + fromUtf8(row->filename) +
@@ -49,8 +51,8 @@ void AllOrdersManagementViewController::editAction(const QString& key) {
         {no(), yes([this, key = key.toStdString()] { edit(key); })});
 }
 
-void AllOrdersManagementViewController::edit(const std::string& key) {
-    const DraftOrderRow* row = rows_.find(key);
+void OrderRowActions::edit(const std::string& key) {
+    const DraftOrderRow* row = board_.rows().find(key);
     if (!row || !canOpen(*row))
         return;
     const bool isOnDevice =
@@ -64,7 +66,7 @@ void AllOrdersManagementViewController::edit(const std::string& key) {
 }
 
 // Whether the wizard can show the row at all; otherwise the user hears why not.
-bool AllOrdersManagementViewController::canOpen(const DraftOrderRow& row) {
+bool OrderRowActions::canOpen(const DraftOrderRow& row) {
     const auto tell = [this](const char* text) {
         services_.alerts.inform(QStringLiteral("Atención"), QString::fromUtf8(text), this);
         return false;
@@ -75,8 +77,8 @@ bool AllOrdersManagementViewController::canOpen(const DraftOrderRow& row) {
     const auto kind = row.sectionIdentifier.brochureType();
     if (!kind)
         return tell("Los pedidos de textil todavía no se pueden editar aquí. Puedes enviarlos o borrarlos.");
-    if (!hasSession()) {
-        tellOldCatalogue();
+    if (!board_.hasSession()) {
+        board_.tellOldCatalogue();
         return false;
     }
     const auto* type = services_.session.catalogue().brochureType(*kind);
@@ -85,10 +87,10 @@ bool AllOrdersManagementViewController::canOpen(const DraftOrderRow& row) {
     return true;
 }
 
-void AllOrdersManagementViewController::askForVersion(const DraftOrderRow& row) {
+void OrderRowActions::askForVersion(const DraftOrderRow& row) {
     const auto choose = [this, key = row.key()](Version version) {
         return [this, key, version] {
-            if (const DraftOrderRow* found = rows_.find(key))
+            if (const DraftOrderRow* found = board_.rows().find(key))
                 fetchToEdit(*found, version);
         };
     };
@@ -98,50 +100,50 @@ void AllOrdersManagementViewController::askForVersion(const DraftOrderRow& row) 
          {QStringLiteral("La de la nube"), AlertButton::Role::Normal, choose(Version::Server)}});
 }
 
-void AllOrdersManagementViewController::fetchToEdit(const DraftOrderRow& row, Version version) {
-    if (version == Version::Server && isOffline())
+void OrderRowActions::fetchToEdit(const DraftOrderRow& row, Version version) {
+    if (version == Version::Server && board_.isOffline())
         return services_.alerts.inform(QStringLiteral("Sin conexión a internet"),
                                        QStringLiteral("Se necesita conexión para descargar el pedido."),
                                        this);
-    const QPointer<QObject> run = beginWait(QStringLiteral("Abriendo el pedido…"));
+    const QPointer<QObject> run = board_.beginWait(QStringLiteral("Abriendo el pedido…"));
     services_.actions.fetchToEdit(
         row, version, [this, run, row](const OrderActions::Fetched<OrderToEdit>& fetched) {
             if (!run) // nobody waits for it any more
                 return;
-            endWait();
+            board_.endWait();
             if (fetched.value)
                 return open(row, *fetched.value);
             if (!fetched.failure || !fetched.failure->error.updateNeeded)
                 return services_.alerts.inform(QStringLiteral("Incidencia"),
                                                QStringLiteral("El pedido no se puede cargar de servidor"),
                                                this);
-            tellFailure(*fetched.failure, {}, {});
+            board_.tellFailure(*fetched.failure, {}, {});
         });
 }
 
 // Section and application type stand before anything is loaded: the draft's rules look at them.
-void AllOrdersManagementViewController::open(const DraftOrderRow& row, const OrderToEdit& toEdit) {
+void OrderRowActions::open(const DraftOrderRow& row, const OrderToEdit& toEdit) {
     if (!canOpen(row))
         return;
     services_.session.actualSection = row.sectionIdentifier;
     services_.session.actualApplicationType = applicationTypeOf(row.sectionIdentifier);
     openOrder(toEdit);
-    cover(ways_.wizard);
+    board_.cover(ways_.wizard);
 }
 
 // ---- Send
 
-void AllOrdersManagementViewController::sendAction(const QString& key) {
-    const DraftOrderRow* row = rows_.find(key.toStdString());
+void OrderRowActions::send(const QString& key) {
+    const DraftOrderRow* row = board_.rows().find(key.toStdString());
     const auto file = row ? row->file() : std::nullopt;
     if (!file)
         return;
-    if (isOffline())
+    if (board_.isOffline())
         return services_.alerts.inform(QStringLiteral("No se ha podido enviar el pedido"),
                                        QStringLiteral("Sin conexión a internet"), this);
-    if (!hasSession())
-        return tellOldCatalogue();
-    const QPointer<QObject> run = beginWait(QStringLiteral("Enviando el pedido…"));
+    if (!board_.hasSession())
+        return board_.tellOldCatalogue();
+    const QPointer<QObject> run = board_.beginWait(QStringLiteral("Enviando el pedido…"));
     services_.actions.send(*file, [self = QPointer(this), &alerts = services_.alerts, run,
                                    key = key.toStdString()](const OrderActions::Sending& sending) {
         if (isSent(sending)) // whoever is there: the order left the device
@@ -151,8 +153,7 @@ void AllOrdersManagementViewController::sendAction(const QString& key) {
     });
 }
 
-void AllOrdersManagementViewController::tellSent(AlertPresenter& alerts,
-                                                 const OrderActions::Sending& sending) {
+void OrderRowActions::tellSent(AlertPresenter& alerts, const OrderActions::Sending& sending) {
     alerts.inform(QStringLiteral("Enviado"),
                   sending.result == Result::Sent
                       ? QStringLiteral("Pedido realizado correctamente.")
@@ -160,37 +161,38 @@ void AllOrdersManagementViewController::tellSent(AlertPresenter& alerts,
                                        "del dispositivo."));
 }
 
-void AllOrdersManagementViewController::sent(const std::string& key, const OrderActions::Sending& sending,
-                                             bool isAwaited) {
+void OrderRowActions::sent(const std::string& key, const OrderActions::Sending& sending, bool isAwaited) {
     if (isAwaited)
-        endWait();
-    if (covered_ || !isAwaited) // the row says what became of it
+        board_.endWait();
+    if (board_.isCovered() || !isAwaited) // the row says what became of it
         return;
     if (isSent(sending) || sending.result == Result::Gone)
-        return load();
+        return board_.load();
     if (sending.result != Result::Failed)
         return;
-    tellFailure(*sending.failure, QStringLiteral("El pedido no se puede realizar"),
-                {{QStringLiteral("Editar pedido"), AlertButton::Role::Normal, [this, key] { edit(key); }},
-                 {QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}}});
+    board_.tellFailure(
+        *sending.failure, QStringLiteral("El pedido no se puede realizar"),
+        {{QStringLiteral("Editar pedido"), AlertButton::Role::Normal, [this, key] { edit(key); }},
+         {QStringLiteral("Cancelar"), AlertButton::Role::Cancel, {}}});
 }
 
-void AllOrdersManagementViewController::sendAllAction() {
-    const auto files = waitingFiles();
+void OrderRowActions::sendAll() {
+    const auto files = board_.waitingFiles();
     if (files.empty())
         return;
-    if (isOffline())
+    if (board_.isOffline())
         return services_.alerts.inform(QStringLiteral("No se ha podido enviar el pedido"),
                                        QStringLiteral("Sin conexión a internet"), this);
-    if (!hasSession())
-        return tellOldCatalogue();
+    if (!board_.hasSession())
+        return board_.tellOldCatalogue();
     const int count = int(files.size());
-    const QPointer<QObject> run = beginWait(QStringLiteral("Enviando los pedidos…"));
+    const QPointer<QObject> run = board_.beginWait(QStringLiteral("Enviando los pedidos…"));
     services_.actions.sendAll(
         files,
         [this, run, count](int number) {
             if (run)
-                veil_.setText(QStringLiteral("Enviando los pedidos: %1 de %2").arg(number).arg(count));
+                board_.veil().setText(
+                    QStringLiteral("Enviando los pedidos: %1 de %2").arg(number).arg(count));
         },
         [self = QPointer(this), run, count](const OrderActions::SentAll& all) {
             if (self)
@@ -198,13 +200,13 @@ void AllOrdersManagementViewController::sendAllAction() {
         });
 }
 
-void AllOrdersManagementViewController::sentAll(const OrderActions::SentAll& all, int count, bool isAwaited) {
+void OrderRowActions::sentAll(const OrderActions::SentAll& all, int count, bool isAwaited) {
     if (isAwaited)
-        endWait();
-    if (covered_)
+        board_.endWait();
+    if (board_.isCovered())
         return;
     if (all.updateNeeded)
-        tellFailure(*all.updateNeeded, {}, {});
+        board_.tellFailure(*all.updateNeeded, {}, {});
     else if (all.failed == 0)
         services_.alerts.inform(QStringLiteral("Enviado"),
                                 count == 1 ? QStringLiteral("Pedido realizado correctamente.")
@@ -217,13 +219,13 @@ void AllOrdersManagementViewController::sentAll(const OrderActions::SentAll& all
                                     .arg(all.sent)
                                     .arg(count),
                                 this);
-    load();
+    board_.load();
 }
 
 // ---- Delete
 
-void AllOrdersManagementViewController::deleteOrder(const QString& key) {
-    if (!rows_.find(key.toStdString()))
+void OrderRowActions::askToDelete(const QString& key) {
+    if (!board_.rows().find(key.toStdString()))
         return;
     ask(services_.alerts, this, QStringLiteral("Atención"),
         QStringLiteral("¿Desea eliminar el pedido en borrador?"),
@@ -233,8 +235,8 @@ void AllOrdersManagementViewController::deleteOrder(const QString& key) {
 }
 
 // Neither of the two deletes waits for the other.
-void AllOrdersManagementViewController::confirmedDelete(const std::string& key) {
-    const DraftOrderRow* found = rows_.find(key);
+void OrderRowActions::confirmedDelete(const std::string& key) {
+    const DraftOrderRow* found = board_.rows().find(key);
     if (!found)
         return;
     const DraftOrderRow row = *found;
@@ -247,7 +249,7 @@ void AllOrdersManagementViewController::confirmedDelete(const std::string& key) 
         removeFile(row);
 }
 
-void AllOrdersManagementViewController::removeFile(const DraftOrderRow& row) {
+void OrderRowActions::removeFile(const DraftOrderRow& row) {
     const OrderFile file = *row.file();
     const bool canBeUndone = !row.serverId();
     endUndo();
@@ -266,14 +268,14 @@ void AllOrdersManagementViewController::removeFile(const DraftOrderRow& row) {
         services_.actions.remove(file, removed);
 }
 
-void AllOrdersManagementViewController::offerUndo(const OrderFile& file) {
+void OrderRowActions::offerUndo(const OrderFile& file) {
     endUndo();
     undo_ = file;
     undoTimer_ = services_.clock.after(undoTime, this, [this] { endUndo(); });
     emit undoChanged();
 }
 
-void AllOrdersManagementViewController::endUndo() {
+void OrderRowActions::endUndo() {
     if (!undo_)
         return;
     services_.clock.cancel(undoTimer_);
@@ -281,7 +283,7 @@ void AllOrdersManagementViewController::endUndo() {
     emit undoChanged();
 }
 
-void AllOrdersManagementViewController::undoDelete() {
+void OrderRowActions::undoDelete() {
     if (!undo_)
         return;
     services_.clock.cancel(undoTimer_);
@@ -293,17 +295,17 @@ void AllOrdersManagementViewController::undoDelete() {
     });
 }
 
-QString AllOrdersManagementViewController::undoText() const {
+QString OrderRowActions::undoText() const {
     return undo_ ? QStringLiteral("Se ha borrado «%1»").arg(fromUtf8(undo_->plainName)) : QString();
 }
 
-void AllOrdersManagementViewController::deleteInCloud(const DraftOrderRow& row) {
-    if (isOffline())
+void OrderRowActions::deleteInCloud(const DraftOrderRow& row) {
+    if (board_.isOffline())
         return informOffline(services_.alerts);
     const auto type = applicationTypeOf(row.sectionIdentifier);
     if (!type) // the server knows no such order in its cloud
         return deletedInCloud(row, RequestFailure());
-    const QPointer<QObject> run = beginWait(QStringLiteral("Borrando el pedido de la nube…"));
+    const QPointer<QObject> run = board_.beginWait(QStringLiteral("Borrando el pedido de la nube…"));
     services_.actions.deleteInCloud(*row.serverId(), *type,
                                     [self = QPointer(this), run, row](const OrderActions::Answer& failure) {
                                         if (self && run)
@@ -311,47 +313,29 @@ void AllOrdersManagementViewController::deleteInCloud(const DraftOrderRow& row) 
                                     });
 }
 
-void AllOrdersManagementViewController::deletedInCloud(const DraftOrderRow& row,
-                                                       const OrderActions::Answer& failure) {
+void OrderRowActions::deletedInCloud(const DraftOrderRow& row, const OrderActions::Answer& failure) {
     if (failure) {
-        endWait();
-        return tellFailure(*failure, QStringLiteral("Error"),
-                           {{QStringLiteral("Trabajar en local"), AlertButton::Role::Cancel, {}},
-                            {QStringLiteral("Intentar de nuevo"), AlertButton::Role::Normal,
-                             [this, row] { deleteInCloud(row); }}});
+        board_.endWait();
+        return board_.tellFailure(*failure, QStringLiteral("Error"),
+                                  {{QStringLiteral("Trabajar en local"), AlertButton::Role::Cancel, {}},
+                                   {QStringLiteral("Intentar de nuevo"), AlertButton::Role::Normal,
+                                    [this, row] { deleteInCloud(row); }}});
     }
     services_.alerts.inform(QStringLiteral("Atención"),
                             QStringLiteral("El borrador se ha eliminado en cloud."), this);
-    endWait();
-    forgetServerOrder(row);
-    load();
-}
-
-// The answer that stands no longer holds; it must not show the order until the next one.
-void AllOrdersManagementViewController::forgetServerOrder(const DraftOrderRow& row) {
-    if (!answer_)
-        return;
-    auto answer = std::make_shared<OrderList>(*answer_);
-    const auto drop = [id = *row.serverId()](auto& orders) {
-        if (orders)
-            std::erase_if(*orders, [id](const auto& order) { return order.id == id; });
-    };
-    if (row.sectionIdentifier.brochureType())
-        drop(answer->orders);
-    else
-        drop(answer->textileOrders);
-    answer_ = std::move(answer);
+    board_.endWait();
+    board_.forgetServerOrder(row);
+    board_.load();
 }
 
 // ---- Copy
 
-void AllOrdersManagementViewController::copyOrder(qlonglong id) {
-    const OrderList::Order* order = rows_.findSent(id);
+void OrderRowActions::copy(qlonglong id) {
+    const OrderList::Order* order = board_.rows().findSent(id);
     if (!order)
         return;
-    if (isOffline())
+    if (board_.isOffline())
         return informOffline(services_.alerts);
-    closeSheet();
     const QString proposal = fromUtf8(order->filename.value_or(order->pdv.value_or("")));
     askForText(services_.alerts, this, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,
                QStringLiteral("Guardar"), [this, id](const QString& name) {
@@ -364,17 +348,17 @@ void AllOrdersManagementViewController::copyOrder(qlonglong id) {
                });
 }
 
-void AllOrdersManagementViewController::tellCopy(const QString& text) {
+void OrderRowActions::tellCopy(const QString& text) {
     services_.alerts.inform(QStringLiteral("Copiar pedido."), text);
 }
 
-void AllOrdersManagementViewController::fetchCopy(Int id, const std::string& name) {
-    const QPointer<QObject> run = beginWait(QStringLiteral("Copiando el pedido…"));
+void OrderRowActions::fetchCopy(Int id, const std::string& name) {
+    const QPointer<QObject> run = board_.beginWait(QStringLiteral("Copiando el pedido…"));
     services_.actions.fetchCopy(
         id, [this, run, name](const OrderActions::Fetched<SaveBrochuresOrder>& fetched) {
             if (!run)
                 return;
-            endWait();
+            board_.endWait();
             if (!fetched.value)
                 return copyFailed(fetched.failure.value_or(RequestFailure()));
             if (!services_.actions.draftExists(name))
@@ -384,17 +368,16 @@ void AllOrdersManagementViewController::fetchCopy(Int id, const std::string& nam
         });
 }
 
-void AllOrdersManagementViewController::copyFailed(const RequestFailure& failure) {
+void OrderRowActions::copyFailed(const RequestFailure& failure) {
     if (failure.error.updateNeeded)
-        return tellFailure(failure, {}, {});
+        return board_.tellFailure(failure, {}, {});
     services_.alerts.inform(QStringLiteral("Incidencia"), QStringLiteral("El pedido no se puede replicar"),
                             this);
 }
 
-void AllOrdersManagementViewController::storeCopy(const SaveBrochuresOrder& copy, const std::string& name,
-                                                  bool overwrite) {
+void OrderRowActions::storeCopy(const SaveBrochuresOrder& copy, const std::string& name, bool overwrite) {
     QString lacks;
-    if (hasSession())
+    if (board_.hasSession())
         lacks = fromUtf8(fellOutText(fellOut(copy, services_.session.catalogue())));
     services_.actions.storeCopy(
         copy, name, overwrite, [&alerts = services_.alerts, lacks, overwrite](bool stored) {
@@ -406,76 +389,6 @@ void AllOrdersManagementViewController::storeCopy(const SaveBrochuresOrder& copy
             const QString done = QStringLiteral("Su pedido ha sido copiado en local.");
             alerts.inform(title, lacks.isEmpty() ? done : done + QLatin1Char('\n') + lacks);
         });
-}
-
-// ---- A sent row
-
-void AllOrdersManagementViewController::openSheet(qlonglong id) {
-    sheetId_ = id;
-    emit sheetChanged();
-}
-
-void AllOrdersManagementViewController::closeSheet() {
-    sheetId_.reset();
-    emit sheetChanged();
-}
-
-QVariantMap AllOrdersManagementViewController::sheet() const {
-    const OrderList::Order* order = sheetId_ ? rows_.findSent(*sheetId_) : nullptr;
-    if (!order)
-        return {};
-    const std::string place = order->pdv.value_or("");
-    return {{QStringLiteral("orderId"), qlonglong(order->id)},
-            {QStringLiteral("title"), QStringLiteral("Pedido %1").arg(order->id)},
-            {QStringLiteral("date"), fromUtf8(order->date.text()).left(16)},
-            {QStringLiteral("type"), fromUtf8(order->type)},
-            {QStringLiteral("pointOfSale"),
-             place.empty() ? QStringLiteral("(Sin especificar)") : fromUtf8(place)},
-            {QStringLiteral("state"), fromUtf8(order->state)},
-            {QStringLiteral("note"), fromUtf8(order->note.value_or(""))},
-            {QStringLiteral("pending"), order->pending.value_or(false)},
-            {QStringLiteral("canDemandQr"), order->canDemandQr}};
-}
-
-void AllOrdersManagementViewController::previewURLAction(qlonglong id) {
-    const OrderList::Order* order = rows_.findSent(id);
-    if (!order)
-        return;
-    const QString contact = QStringLiteral("Póngase en contacto con soporte.");
-    if (!order->url)
-        return services_.alerts.inform(QStringLiteral("No existe enlace para este pedido."), contact, this);
-    if (!services_.urls.openExternally(QString::fromStdString(order->url->text)))
-        services_.alerts.inform(QStringLiteral("No se puede abrir el enlace."), contact, this);
-}
-
-void AllOrdersManagementViewController::claimOrder(qlonglong id) {
-    const OrderList::Order* order = rows_.findSent(id);
-    if (!order)
-        return;
-    closeSheet();
-    cover([this, order = *order] { ways_.claim(order); });
-}
-
-void AllOrdersManagementViewController::demandQrOrder(qlonglong id) {
-    const OrderList::Order* order = rows_.findSent(id);
-    if (!order || !order->canDemandQr)
-        return;
-    if (!hasSession())
-        return tellOldCatalogue();
-    if (!services_.session.catalogue().brochureType(order->typeId))
-        return services_.alerts.inform(QStringLiteral("Atención"),
-                                       QStringLiteral("Este tipo de pedido ya no está en el catálogo."),
-                                       this);
-    closeSheet();
-    cover([this, order = *order] { ways_.qrDemand(order); });
-}
-
-void AllOrdersManagementViewController::qrDemanded(Int id, std::optional<bool> canDemandQr,
-                                                   std::optional<OrderState> state,
-                                                   const std::optional<std::string>& stateName) {
-    rows_.changeSent(id, canDemandQr, state, stateName);
-    sent_.show(sentRows(rows_));
-    emit sheetChanged();
 }
 
 } // namespace kavor

@@ -1,4 +1,4 @@
-#include "screens/QueryText.h"
+#include "screens/messages/QueryText.h"
 
 #include <QTextBoundaryFinder>
 #include <QUrl>

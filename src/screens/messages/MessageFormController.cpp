@@ -1,11 +1,11 @@
-#include "screens/MessageFormController.h"
+#include "screens/messages/MessageFormController.h"
 
 #include "device/Reachability.h"
 #include "interaction/QtText.h"
 #include "interaction/Questions.h"
 #include "network/ShowRequestFailure.h"
 #include "orders/services/SendIntent.h"
-#include "screens/QueryText.h"
+#include "screens/messages/QueryText.h"
 
 namespace kavor {
 
