@@ -27,7 +27,7 @@ MessageFormController::MessageFormController(const Services& services, MessageDr
 }
 
 QString MessageFormController::editText(const QString& text) {
-    const QString kept = query_text::fitting(text);
+    QString kept = query_text::fitting(text);
     draft_.text = kept.toStdString();
     emit formChanged();
     return kept;

@@ -342,7 +342,7 @@ TEST_F(AllOrders, ACopyTellsWhatLeftTheCatalogueAndLeavesTheDraftInWorkAlone) {
     auto& brand = answer.orderInformation.beerList.brands.emplace_back();
     brand.id = 999;
     brand.name = "Vieja";
-    brand.category.emplace();
+    brand.category = Product::Category();
     network.requests.retrieveBrochureOrder.succeed(answer);
     ASSERT_TRUE(waitFor([&] { return alerts.isVisible(); }));
     EXPECT_EQ(alert(), "Copiar pedido. | Su pedido ha sido copiado en local.\n"
