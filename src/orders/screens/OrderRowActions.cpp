@@ -34,7 +34,8 @@ OrderRowActions::OrderRowActions(const OrderListServices& services, OrderListBoa
     , board_(board) {}
 
 OrderRowActions::~OrderRowActions() {
-    endUndo();
+    if (undo_)
+        services_.actions.forget(*undo_);
 }
 
 // ---- Edit
