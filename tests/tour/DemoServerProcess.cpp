@@ -44,16 +44,30 @@ QString DemoServerProcess::nextLine() {
     return QString::fromUtf8(process_.readLine()).trimmed();
 }
 
-QByteArray DemoServerProcess::get(const QString& pathOrUrl) const {
-    QNetworkAccessManager network;
-    const QUrl url(pathOrUrl.startsWith(QLatin1String("http")) ? pathOrUrl : url_ + pathOrUrl);
-    QNetworkReply* reply = network.get(QNetworkRequest(url));
+namespace {
+
+QByteArray bodyOf(QNetworkReply* reply) {
     QEventLoop loop;
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     loop.exec();
     if (reply->error() != QNetworkReply::NoError)
-        throw std::runtime_error((url.toString() + ": " + reply->errorString()).toStdString());
+        throw std::runtime_error((reply->url().toString() + ": " + reply->errorString()).toStdString());
     return reply->readAll();
+}
+
+} // namespace
+
+QByteArray DemoServerProcess::get(const QString& pathOrUrl) const {
+    QNetworkAccessManager network;
+    const QUrl url(pathOrUrl.startsWith(QLatin1String("http")) ? pathOrUrl : url_ + pathOrUrl);
+    return bodyOf(network.get(QNetworkRequest(url)));
+}
+
+void DemoServerProcess::post(const QString& path, const QByteArray& json) const {
+    QNetworkAccessManager network;
+    QNetworkRequest request(QUrl(url_ + path));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    bodyOf(network.post(request, json));
 }
 
 } // namespace kavor

@@ -23,6 +23,8 @@ public:
 
     // A plain GET from the server, for what a tour wants to look at itself.
     [[nodiscard]] QByteArray get(const QString& pathOrUrl) const;
+    // Turns one of its switches for tests.
+    void post(const QString& path, const QByteArray& json) const;
 
 private:
     [[nodiscard]] QString nextLine();

@@ -105,6 +105,16 @@ int Tour::run() {
                                          {"entrada", &Tour::logIn},
                                          {"panel", &Tour::showDashboard},
                                          {"cartas", &Tour::orderEveryKind}};
+    const std::vector<Step> orders = {{"inicio", &Tour::start},
+                                      {"clave", &Tour::startWithWrongPassword},
+                                      {"entrada", &Tour::logIn},
+                                      {"panel", &Tour::showDashboard},
+                                      {"vacia", &Tour::openEmptyList},
+                                      {"filtros", &Tour::failFilters},
+                                      {"nube", &Tour::editCloudOrder},
+                                      {"sitios", &Tour::keepInBothPlaces},
+                                      {"borrar", &Tour::deleteAndBringBack},
+                                      {"aviso", &Tour::tapNotification}};
     const std::vector<Step> mainJob = {{"inicio", &Tour::start},
                                        {"clave", &Tour::startWithWrongPassword},
                                        {"entrada", &Tour::logIn},
@@ -127,7 +137,7 @@ int Tour::run() {
                                        {"reclamar", &Tour::claimAndDemand},
                                        {"cuenta", &Tour::showAccount},
                                        {"tutoriales", &Tour::showTutorials}};
-    for (const Step& step : options_.everyKind ? everyKind : mainJob) {
+    for (const Step& step : options_.everyKind ? everyKind : options_.orders ? orders : mainJob) {
         try {
             (this->*step.action)();
             remember();

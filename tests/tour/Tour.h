@@ -28,6 +28,7 @@ public:
         bool pictures = true;
         bool realWindow = false; // the window must be drawn by a thread of its own
         bool everyKind = false;  // orders one brochure of every kind instead of the main job
+        bool orders = false;     // goes through the corners of the list of orders instead
     };
 
     explicit Tour(Options options);
@@ -64,6 +65,11 @@ private:
     void sendWaiting();
     void claimAndDemand();
     void showTutorials();
+    void openEmptyList();
+    void failFilters();
+    void keepInBothPlaces();
+    void deleteAndBringBack();
+    void tapNotification();
     void orderEveryKind();
 
     void orderKind(int applicationType);

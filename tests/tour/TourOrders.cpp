@@ -1,7 +1,10 @@
 #include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
+#include "session/AppSingleton.h"
+#include "shell/services/AppDelegate.h"
 #include "tour/Tour.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QQuickItem>
@@ -176,6 +179,114 @@ void Tour::showTutorials() {
     touch_->tap(QStringLiteral("backButton"));
     touch_->tap(QStringLiteral("backButton"));
     touch_->await(QStringLiteral("welcomeView"));
+}
+
+// ---- The corners of the list
+
+// Nothing on the device and no network: the word, and no request.
+void Tour::openEmptyList() {
+    application_->setOffline(true);
+    touch_->tap(QStringLiteral("allOrdersButton"));
+    dismissAlert(attention, QStringLiteral("Sólo se muestran pedidos guardados localmente."));
+    touch_->await(QStringLiteral("savedOrdersTableEmpty"));
+    shot(QStringLiteral("lista-vacia"));
+    must(!server_->get(QStringLiteral("/demo/requests")).contains("/api/orders/list"),
+         QStringLiteral("nothing was asked"));
+    application_->setOffline(false);
+    touch_->tap(QStringLiteral("refreshOrders"));
+    touch_->await(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+}
+
+// The search and each quick filter fail once and are tried again.
+void Tour::failFilters() {
+    const auto fail = [&] {
+        server_->post(QStringLiteral("/demo/faults"),
+                      R"({"path": "/api/orders/list", "fault": "status", "status": 500, "times": 1})");
+    };
+    struct Filter {
+        const char* button;
+        int again; // the place of "Intentar de nuevo" in its alert
+    };
+    for (const Filter& filter : {Filter{"searchButton", 1},
+                                 {"withoutConfirmButton", 1},
+                                 {"withoutCompleteButton", 0},
+                                 {"withoutFilterButton", 0}}) {
+        const bool isSearch = QLatin1String(filter.button) == QLatin1String("searchButton");
+        if (isSearch)
+            touch_->type(QStringLiteral("localNameSearch"), QStringLiteral("bar"));
+        fail();
+        touch_->tap(QLatin1String(filter.button));
+        touch_->waitUntil(QStringLiteral("the failure"), [&] { return application_->alerts().isVisible(); });
+        if (filter.again == 0)
+            shot(QStringLiteral("filtro-fallido"));
+        dismissAlert(QStringLiteral("Incidencia"), {}, filter.again);
+        touch_->await(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
+        touch_->awaitGone(QStringLiteral("veloView"));
+        touch_->tap(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
+        touch_->awaitGone(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
+        touch_->awaitGone(QStringLiteral("veloView"));
+    }
+}
+
+// What the server no longer lists is on the device alone; the next answer joins it again.
+void Tour::keepInBothPlaces() {
+    server_->post(QStringLiteral("/demo/next-list"), R"({"resumen": {}, "pedidos": []})");
+    touch_->tap(QStringLiteral("refreshOrders"));
+    touch_->waitUntil(QStringLiteral("the order on the device alone"),
+                      [&] { return touch_->text(QStringLiteral("savedCount")) == QLatin1String("1"); });
+    must(touch_->allTexts().contains(QStringLiteral("Guardado local")), touch_->allTexts());
+    touch_->awaitGone(QStringLiteral("veloView"));
+    touch_->tap(QStringLiteral("refreshOrders"));
+    touch_->waitUntil(QStringLiteral("the order in both places"),
+                      [&] { return touch_->allTexts().contains(QStringLiteral("Sincronizado")); });
+    touch_->awaitGone(QStringLiteral("veloView"));
+}
+
+// A draft of the device comes back byte for byte; one in both places goes from both.
+void Tour::deleteAndBringBack() {
+    const auto folder =
+        AppSingleton::shared().documentsFolder() / "orders" / "draft_orders" / "SaveBrochuresOrder";
+    const auto contentOf = [&](const char* name) {
+        QFile file(QString::fromStdString((folder / name).string()));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    copyAndDelete();
+    const QByteArray copy = contentOf("Copia para el martes.zvo");
+    const QString row = savedRow(QStringLiteral("draft"), QStringLiteral("Copia para el martes"));
+    touch_->tap(row + QStringLiteral("|deleteButton"));
+    dismissAlert(attention, QStringLiteral("¿Desea eliminar"), 1);
+    touch_->awaitGone(row);
+    must(contentOf("Copia para el martes.zvo").isEmpty(), QStringLiteral("the file is gone"));
+    touch_->tap(QStringLiteral("undoDelete"));
+    touch_->await(row);
+    must(!copy.isEmpty() && contentOf("Copia para el martes.zvo") == copy,
+         QStringLiteral("the file is back as it was"));
+
+    touch_->tap(
+        savedRow(QStringLiteral("draft"), QStringLiteral("Bar. La Nube"), QStringLiteral("deleteButton")));
+    dismissAlert(attention, QStringLiteral("¿Desea eliminar"), 1);
+    dismissAlert(attention, QStringLiteral("El borrador se ha eliminado en cloud."));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    must(contentOf("Bar. La Nube.zvo").isEmpty(), QStringLiteral("the file is gone"));
+    must(printedOrders().isEmpty(), QStringLiteral("nothing was printed"));
+}
+
+// A notification with a wizard open leads to the list, and the menu in work is still there afterwards.
+void Tour::tapNotification() {
+    touch_->tap(QStringLiteral("backButton"));
+    openBeerMenu();
+    touch_->type(QStringLiteral("establishmentNameTextField"), QStringLiteral("Bar del Aviso"));
+    application_->delegate().didReceiveNotificationResponse(
+        QStringLiteral("default"), {{QStringLiteral("orderId"), QVariant::fromValue<qlonglong>(1)}});
+    touch_->await(QStringLiteral("allOrdersView"));
+    touch_->await(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
+    openBeerMenu();
+    must(touch_->text(QStringLiteral("establishmentNameTextField")) == QStringLiteral("Bar del Aviso"),
+         QStringLiteral("the menu in work is still there"));
 }
 
 } // namespace kavor

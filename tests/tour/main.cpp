@@ -24,6 +24,7 @@ bool isAsked(const char* option, int argc, char* argv[]) {
 //   --documents DIR                    the client's documents folder (default: a temporary one)
 //   --kill-after STEP                  the process kills itself after a step
 //   --every-kind                       an order of every kind of brochure instead
+//   --orders                           the corners of the list of orders instead
 //   --window                           in a real window that a thread of its own draws, as users have it
 //   --check-killed                     a new start after that: is the draft still there?
 int main(int argc, char* argv[]) {
@@ -45,7 +46,8 @@ int main(int argc, char* argv[]) {
                        {"check-killed", {}},
                        {"no-pictures", {}},
                        {"window", {}},
-                       {"every-kind", {}}});
+                       {"every-kind", {}},
+                       {"orders", {}}});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1) {
@@ -61,6 +63,7 @@ int main(int argc, char* argv[]) {
         return kavor::checkKilledDraft(options.folder, options.documents);
     options.killAfterStep = parser.value("kill-after");
     options.everyKind = parser.isSet("every-kind");
+    options.orders = parser.isSet("orders");
     options.realWindow = realWindow;
     options.pictures = !parser.isSet("no-pictures");
     const int status = kavor::Tour(options).run();
