@@ -105,16 +105,13 @@ int Tour::run() {
                                          {"entrada", &Tour::logIn},
                                          {"panel", &Tour::showDashboard},
                                          {"cartas", &Tour::orderEveryKind}};
-    const std::vector<Step> orders = {{"inicio", &Tour::start},
-                                      {"clave", &Tour::startWithWrongPassword},
-                                      {"entrada", &Tour::logIn},
-                                      {"panel", &Tour::showDashboard},
-                                      {"vacia", &Tour::openEmptyList},
-                                      {"filtros", &Tour::failFilters},
-                                      {"nube", &Tour::editCloudOrder},
-                                      {"sitios", &Tour::keepInBothPlaces},
-                                      {"borrar", &Tour::deleteAndBringBack},
-                                      {"aviso", &Tour::tapNotification}};
+    const std::vector<Step> orders = {
+        {"inicio", &Tour::start},          {"clave", &Tour::startWithWrongPassword},
+        {"entrada", &Tour::logIn},         {"panel", &Tour::showDashboard},
+        {"vacia", &Tour::openEmptyList},   {"filtros", &Tour::failFilters},
+        {"nube", &Tour::editCloudOrder},   {"sitios", &Tour::keepInBothPlaces},
+        {"version", &Tour::changeOffline}, {"borrar", &Tour::deleteAndBringBack},
+        {"aviso", &Tour::tapNotification}};
     const std::vector<Step> mainJob = {{"inicio", &Tour::start},
                                        {"clave", &Tour::startWithWrongPassword},
                                        {"entrada", &Tour::logIn},

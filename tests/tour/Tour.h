@@ -69,6 +69,8 @@ private:
     void failFilters();
     void keepInBothPlaces();
     void deleteAndBringBack();
+    void changeOffline();
+    void editFromTheDevice(const QString& name);
     void tapNotification();
     void orderEveryKind();
 

@@ -1,3 +1,4 @@
+#include "catalogue/Catalogue.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "session/AppSingleton.h"
@@ -9,6 +10,7 @@
 #include <QJsonObject>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 
 // The part of the tour that follows what became of the orders.
 namespace kavor {
@@ -155,9 +157,15 @@ void Tour::claimAndDemand() {
     touch_->awaitGone(QStringLiteral("veloView"));
     touch_->tap(QStringLiteral("sentOrdersTable|demandQrOrderButton"));
     touch_->await(QStringLiteral("demandBrandQrView"));
+    chooseFirst(QStringLiteral("brandQrQuantityTablePicker"), 1);
     shot(QStringLiteral("material-qr"));
     touch_->tap(QStringLiteral("sendDemandButton"));
     dismissAlert(QStringLiteral("Material QR"), {});
+    const Int wanted =
+        AppSingleton::shared().catalogue().information().validations.lstMenuQrTableQuantity.front();
+    must(QString::fromUtf8(server_->get(QStringLiteral("/demo/requests")))
+             .contains(QRegularExpression(QStringLiteral("\"quantity_qr\": ?\"?%1\\b").arg(wanted))),
+         QStringLiteral("the quantity on the wire"));
     touch_->await(QStringLiteral("allOrdersView"));
     touch_->awaitGone(QStringLiteral("veloView"));
     touch_->tap(QStringLiteral("backButton"));
@@ -243,6 +251,60 @@ void Tour::keepInBothPlaces() {
     touch_->awaitGone(QStringLiteral("veloView"));
 }
 
+// Opens a draft of the device in the wizard, and comes back to its row.
+void Tour::editFromTheDevice(const QString& name) {
+    touch_->tap(savedRow(QStringLiteral("draft"), name, QStringLiteral("editButton")));
+    dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
+    touch_->await(QStringLiteral("menuEntry8"));
+    touch_->settle();
+    if (application_->alerts().isVisible()) // what left the catalogue
+        touch_->tap(QStringLiteral("alertButton0"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(savedRow(QStringLiteral("draft"), name));
+    touch_->awaitGone(QStringLiteral("veloView"));
+}
+
+// A draft that the server has in an older version asks which one is meant.
+void Tour::changeOffline() {
+    const QString name = QStringLiteral("Bar. La Nube");
+    const QString edit = savedRow(QStringLiteral("draft"), name, QStringLiteral("editButton"));
+    touch_->tap(edit);
+    dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
+    touch_->await(QStringLiteral("menuEntry8"));
+    touch_->settle();
+    if (application_->alerts().isVisible())
+        touch_->tap(QStringLiteral("alertButton0"));
+    application_->setOffline(true);
+    touch_->type(QStringLiteral("contactNameTextField"), QStringLiteral("Berta Sin Red"));
+    openStep(8);
+    touch_->tap(QStringLiteral("saveOrderAction"));
+    dismissAlert(QStringLiteral("Guardar como"), {});
+    dismissAlert(attention, QStringLiteral("Ya existe un archivo con ese nombre."), 1);
+    dismissAlert(QStringLiteral("Guardado sólo localmente"), {});
+    touch_->tap(QStringLiteral("backButton"));
+    dismissAlert(attention, QStringLiteral("Sólo se muestran pedidos guardados localmente."));
+    // The upload that waits for the network fails.
+    server_->post(QStringLiteral("/demo/faults"),
+                  R"({"path": "/api/orders", "fault": "status", "status": 500, "times": 1})");
+    application_->setOffline(false);
+    touch_->tap(QStringLiteral("refreshOrders"));
+    touch_->await(savedRow(QStringLiteral("draft"), name, QStringLiteral("changesMark")));
+    touch_->awaitGone(QStringLiteral("veloView"));
+    shot(QStringLiteral("cambios-sin-subir"));
+    touch_->tap(edit);
+    dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
+    dismissAlert(attention, QStringLiteral("¿Qué versión quieres abrir?"), 1);
+    touch_->await(QStringLiteral("contactNameTextField"));
+    must(touch_->text(QStringLiteral("contactNameTextField")) == QStringLiteral("Berta Sin Red"),
+         QStringLiteral("the version of the device"));
+    touch_->settle();
+    if (application_->alerts().isVisible())
+        touch_->tap(QStringLiteral("alertButton0"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(edit);
+    touch_->awaitGone(QStringLiteral("veloView"));
+}
+
 // A draft of the device comes back byte for byte; one in both places goes from both.
 void Tour::deleteAndBringBack() {
     const auto folder =
@@ -252,6 +314,7 @@ void Tour::deleteAndBringBack() {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
     copyAndDelete();
+    editFromTheDevice(QStringLiteral("Copia para el martes"));
     const QByteArray copy = contentOf("Copia para el martes.zvo");
     const QString row = savedRow(QStringLiteral("draft"), QStringLiteral("Copia para el martes"));
     touch_->tap(row + QStringLiteral("|deleteButton"));

@@ -93,7 +93,7 @@ AppWindow {
         onTapped: window.root.bannerTapped()
         onShownChanged: {
             if (!shown)
-                window.root.bannerGone();
+                Qt.callLater(window.root.bannerGone); // shows the next one
         }
     }
     AlertHost { presenter: window.root.alerts }
