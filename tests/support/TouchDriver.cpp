@@ -178,7 +178,7 @@ void TouchDriver::type(const QString& name, const QString& text) {
     waitUntil(QStringLiteral("the keyboard in \"%1\"").arg(name), [&] {
         const QQuickItem* focused = window_.activeFocusItem();
         return focused != nullptr &&
-               focused->inherits("QQuickTextInput") | focused->inherits("QQuickTextEdit");
+               (focused->inherits("QQuickTextInput") || focused->inherits("QQuickTextEdit"));
     });
     QTest::keyClick(&window_, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&window_, Qt::Key_Delete);

@@ -39,7 +39,6 @@ const QSize tablet(1024, 768);
 const QSize otherSizes[] = {QSize(768, 1024), QSize(390, 844)};
 
 // Places in the wizard's menu.
-constexpr int configurationEntry = 1;
 constexpr int productsEntry = 2;
 constexpr int pricesEntry = 3;
 constexpr int digitalStyleEntry = 4;

@@ -28,7 +28,7 @@ FocusScope {
         anchors.bottom: controls.top
         width: parent.width
         visible: !panel.failed
-        player: panel.controller.player
+        player: panel.controller.player // qmllint disable
 
         Accessible.role: Accessible.Graphic
         Accessible.name: panel.controller.filmTitle

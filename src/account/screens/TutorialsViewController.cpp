@@ -119,7 +119,8 @@ void TutorialsViewController::seekToShare(double share) {
 void TutorialsViewController::seekBySeconds(int seconds) {
     const FilmStatus status = services_.films.status();
     if (isSeekable())
-        services_.films.seek(std::clamp<qint64>(status.position + seconds * 1000, 0, status.duration));
+        services_.films.seek(
+            std::clamp<qint64>(status.position + qint64(seconds) * 1000, 0, status.duration));
 }
 
 void TutorialsViewController::retryAction() {

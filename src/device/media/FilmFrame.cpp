@@ -74,7 +74,7 @@ QImage pictureOfMapped(const QVideoFrame& frame) {
 QImage pictureOf(QVideoFrame frame) {
     if (!frame.isValid() || !frame.map(QVideoFrame::ReadOnly))
         return {};
-    const QImage picture = pictureOfMapped(frame);
+    QImage picture = pictureOfMapped(frame);
     frame.unmap();
     return picture;
 }

@@ -93,7 +93,7 @@ AppWindow {
         onTapped: window.root.bannerTapped()
         onShownChanged: {
             if (!shown)
-                Qt.callLater(window.root.bannerGone); // shows the next one
+                Qt.callLater(window.root.bannerGone); // qmllint disable
         }
     }
     AlertHost { presenter: window.root.alerts }
