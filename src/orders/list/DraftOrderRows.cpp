@@ -248,10 +248,6 @@ void DraftOrderRows::changeSent(Int id, std::optional<bool> canDemandQr, std::op
     found->state = stateName.value_or(found->state);
 }
 
-void DraftOrderRows::remove(const std::string& key) {
-    std::erase_if(draftsOrderList_, [&](const DraftOrderRow& row) { return row.key() == key; });
-}
-
 void DraftOrderRows::clearSentOrders() {
     sentBrochureOrders_.clear();
     sentTextileOrders_.clear();

@@ -57,8 +57,6 @@ public:
     // nothing else changes.
     void applyQuickFilter(const OrderList& answer);
 
-    // Empties the sent lists.
-    void clearSentOrders();
     // Newest first; orders of one moment keep their places.
     void sortSentOrders();
 
@@ -77,10 +75,9 @@ public:
     // The server has given the order another state, or said whether its QR material can be asked for again.
     void changeSent(Int id, std::optional<bool> canDemandQr, std::optional<OrderState> state,
                     const std::optional<std::string>& stateName);
-    // Takes a row out, until the lists are made anew.
-    void remove(const std::string& key);
 
 private:
+    void clearSentOrders();
     void forgetFormerAnswer();
     void appendCloudRows(const OrderList& answer);
     void mergeLocalRows(const OrderList& answer);
