@@ -5,8 +5,7 @@
 namespace kavor {
 
 // Opens the documents folder of a tour that was killed as a new start does, and compares the draft that comes
-// back with what the tour last held: all of it, or all but the last field. Answers 0 when nothing more was
-// lost.
+// back with what the tour last held. Answers 0 when nothing was lost.
 int checkKilledDraft(const QString& folder, const QString& documents);
 
 } // namespace kavor
