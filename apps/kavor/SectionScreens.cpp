@@ -34,9 +34,11 @@ constexpr std::array comingSections{
     ComingSection{transition::activations, "Activaciones", "party"},
 };
 
-Screen wizardScreen(const SectionServices& services, BrochureMenuViewController::Opening opening) {
-    return {screenView("BrochureMenuView"),
-            new BrochureMenuViewController(services.wizard, nullptr, opening)};
+Screen wizardScreen(const SectionServices& services, ScreenStack& screens,
+                    BrochureMenuViewController::Opening opening) {
+    auto* wizard = new BrochureMenuViewController(services.wizard, nullptr, opening);
+    QObject::connect(wizard, &BrochureMenuViewController::screenRequested, &screens, &ScreenStack::push);
+    return {screenView("BrochureMenuView"), wizard};
 }
 
 using OrderListController = AllOrdersManagementViewController;
@@ -66,7 +68,7 @@ Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
                                           wizard.clock, wizard.reachability});
     list->setWays(
         {[&services, &screens] {
-             screens.push(wizardScreen(services, BrochureMenuViewController::Opening::OrderToEdit));
+             screens.push(wizardScreen(services, screens, BrochureMenuViewController::Opening::OrderToEdit));
          },
          [&services, &screens](const OrderList::Order& order) { screens.push(claimScreen(services, order)); },
          [&services, &screens, list](const OrderList::Order& order) {
@@ -80,7 +82,7 @@ Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
 Screen makeSectionScreen(const QString& transition, const SectionServices& services, ScreenStack& screens) {
     const std::string name = transition.toStdString();
     if (name == transition::brochure)
-        return wizardScreen(services, BrochureMenuViewController::Opening::UnfinishedMenu);
+        return wizardScreen(services, screens, BrochureMenuViewController::Opening::UnfinishedMenu);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)

@@ -184,6 +184,29 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
             &BrochureMenuViewController::subtitleChanged);
     connect(step, &WizardStepViewController::draftPreviewRequested, this,
             &BrochureMenuViewController::previewDraft);
+    connect(step, &WizardStepViewController::screenRequested, this, [this](const Screen& screen) {
+        cover();
+        emit screenRequested(screen);
+    });
+    connect(step, &WizardStepViewController::promotionsRequested, this,
+            [this](const MenuPromotionRequest& request) {
+                cover();
+                emit promotionsRequested(request);
+            });
+}
+
+// What is below another screen has kept what it holds, and leaves the veil to that one.
+void BrochureMenuViewController::cover() {
+    saveActiveStep();
+    veil_.unfollow();
+    covered_ = true;
+}
+
+void BrochureMenuViewController::viewWillAppear() {
+    if (!std::exchange(covered_, false)) // the first time: the constructor has shown the first step
+        return;
+    veil_.follow();
+    activeViewController_->viewWillAppear();
 }
 
 // The step stays on show below the preview, and below what the check has to say.

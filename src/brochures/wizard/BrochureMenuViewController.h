@@ -93,6 +93,8 @@ public:
     void leaveVeil() { veil_.leave(); }
     // Shows a document over the wizard.
     void showPreview(const QUrl& document);
+    // A screen that was opened over the wizard has closed.
+    void viewWillAppear() override;
     // Saves the step on show and the temporary copy, as when the wizard goes off the screen.
     void viewWillDisappear();
 
@@ -102,6 +104,9 @@ signals:
     void offlineChanged();
     void subtitleChanged();
     void previewChanged();
+    // A screen over the wizard; viewWillAppear says that it has closed.
+    void screenRequested(const kavor::Screen& screen);
+    void promotionsRequested(const kavor::MenuPromotionRequest& request);
 
 private:
     void viewDidLoad(Opening opening);
@@ -119,6 +124,7 @@ private:
     void reset();
     void previewDraft();
     void closePreview();
+    void cover();
     void connectStep(WizardStepViewController* step);
 
     WizardServices services_;
@@ -137,6 +143,7 @@ private:
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool appeared_ = false;
     bool loadingStep_ = false;
+    bool covered_ = false; // a screen is on show over the wizard
     bool askingAboutSentOrder_ = false;
     static inline int open_ = 0;
 };

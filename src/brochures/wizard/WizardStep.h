@@ -1,6 +1,8 @@
 #pragma once
 
 #include "orders/services/OrderSync.h"
+#include "promotions/MenuPromotionRequest.h"
+#include "screens/ScreenStack.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -69,6 +71,11 @@ signals:
     void previewRequested(const QUrl& document);
     // Asks the frame to show the document of the draft, which the server makes.
     void draftPreviewRequested();
+    // Asks for a screen over the wizard, which stays as it is below; the step hears viewWillAppear when that
+    // one closes. Whoever shows it owns its controller.
+    void screenRequested(const kavor::Screen& screen);
+    // Asks for the gallery of promotions over the wizard, or for the form of the promotion to edit.
+    void promotionsRequested(const kavor::MenuPromotionRequest& request);
     // The bar shows another name.
     void subtitleChanged();
 };
