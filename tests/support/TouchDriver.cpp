@@ -144,7 +144,9 @@ void TouchDriver::tap(const QString& name) {
 }
 
 void TouchDriver::swipe(const QString& name, double horizontal, double vertical) {
+    settle();
     QQuickItem* item = await(name);
+    waitUntil(QStringLiteral("a window that takes presses"), [this] { return takesPresses(window_); });
     bringIntoView(item);
     const QPointF from = middle(item);
     const QPointF way(horizontal * item->width(), vertical * item->height());

@@ -122,6 +122,8 @@ int Tour::run() {
                                        {"incompleto", &Tour::tryIncomplete},
                                        {"precios", &Tour::setPrices},
                                        {"estilo", &Tour::chooseStyle},
+                                       {"comandero", &Tour::chooseOrderSheet},
+                                       {"banderines", &Tour::hangPennants},
                                        {"previa", &Tour::preview},
                                        {"impresion", &Tour::print},
                                        {"pedido", &Tour::checkOrder},

@@ -73,6 +73,9 @@ private:
     void editFromTheDevice(const QString& name);
     void tapNotification();
     void orderEveryKind();
+    void chooseOrderSheet();
+    void hangPennants();
+    void choosePennantBrand();
 
     void orderKind(int applicationType);
     void chooseBlackboard();

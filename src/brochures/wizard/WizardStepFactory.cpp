@@ -5,6 +5,8 @@
 #include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 #include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
+#include "brochures/wizard/pennant/BrochureOrderPennantViewController.h"
+#include "brochures/wizard/pennantbrand/PennantBrandViewController.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
@@ -40,9 +42,9 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::promotions:
         return comingSoon("La selección de promociones", "promotions", parent);
     case wizard_step::pennant:
-        return comingSoon("La selección de banderines", "pennant", parent);
+        return new BrochureOrderPennantViewController(context, parent);
     case wizard_step::pennantBrand:
-        return comingSoon("El banderín de marca", "pennantbrand", parent);
+        return new PennantBrandViewController(context, parent);
     default:
         stopProcess("no step of the wizard has this number");
     }

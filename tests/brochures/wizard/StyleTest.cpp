@@ -38,8 +38,8 @@ protected:
     }
     [[nodiscard]] std::vector<Int> offered() const {
         std::vector<Int> ids;
-        for (int row = 0; row < step->styles()->count(); ++row)
-            ids.push_back(step->styles()->styleAt(row)->id);
+        for (int row = 0; row < step->gallery()->covers()->count(); ++row)
+            ids.push_back(step->gallery()->covers()->coverAt(row)->id);
         return ids;
     }
     using Ids = std::vector<Int>;
@@ -48,7 +48,7 @@ protected:
 TEST_F(StyleStep, OffersTheStylesOfTheKindByPosition) {
     show();
     EXPECT_EQ(offered(), (Ids{51, 50, 1}));
-    EXPECT_EQ(step->selectedAndTotalNumberOfStylesLabel(), "1 / 3");
+    EXPECT_EQ(step->gallery()->selectedAndTotalNumberOfStylesLabel(), "1 / 3");
     EXPECT_EQ(draft().selectedStyleIdentifier, 51);
 
     builder.brochures().blackboardFormats.front().typeId = 7;
@@ -68,13 +68,13 @@ TEST_F(StyleStep, KeepsThePaperAndTheOnlineStyleApart) {
     draft().selectedStyleIdentifier = 50;
     draft().setLogos(1, 2, 3, 1, 2, 3);
     appear(true);
-    step->carouselCurrentItemIndexDidChange(2);
+    step->gallery()->carouselCurrentItemIndexDidChange(2);
     EXPECT_EQ(draft().selectedStyleDigitalIdentifier, 1);
     EXPECT_EQ(draft().selectedStyleIdentifier, 50);
     EXPECT_TRUE(draft().selectedLogoIdentifiers); // the online style neither shows nor clears the logos
     EXPECT_FALSE(step->logos()->isVisible());
     appear();
-    EXPECT_EQ(step->currentStyle(), 1);
+    EXPECT_EQ(step->gallery()->current(), 1);
     EXPECT_EQ(draft().selectedStyleDigitalIdentifier, 1);
     const auto stored = temporaryCopy();
     ASSERT_TRUE(stored);
@@ -93,12 +93,12 @@ TEST_F(StyleStep, ClearsTheLogosWithANewStyleAndWritesThoseOfThePickers) {
     step->logos()->choose(0, 3);
     EXPECT_EQ(draft().selectedLogoIdentifiers, (BrochureIntermediateData::LogoIdentifiers{4, 2, 1, 1, 2, 3}));
 
-    step->carouselCurrentItemIndexDidChange(2); // style 1, with logos too
+    step->gallery()->carouselCurrentItemIndexDidChange(2); // style 1, with logos too
     EXPECT_FALSE(draft().selectedLogoIdentifiers);
     step->serializeAutoSave(); // leaving writes what the pickers show: three different logos
     EXPECT_EQ(draft().selectedLogoIdentifiers, (BrochureIntermediateData::LogoIdentifiers{1, 2, 3, 1, 2, 3}));
 
-    step->carouselCurrentItemIndexDidChange(0); // style 51, without logos
+    step->gallery()->carouselCurrentItemIndexDidChange(0); // style 51, without logos
     EXPECT_FALSE(step->logos()->isVisible());
     step->serializeAutoSave();
     EXPECT_FALSE(draft().selectedLogoIdentifiers);
@@ -254,7 +254,7 @@ TEST_F(StyleStep, ShowsTheBannerOnlyWhenAPreferredBrandIsSelectedAndUntilItIsClo
         EXPECT_FALSE(step->isBannerVisible());
         NotificationCenter::shared().post(notification::showPreferredBrandsBanner);
         EXPECT_EQ(step->isBannerVisible(), selected);
-        EXPECT_EQ(joined(column(*step->styles(), StyleCarouselModel::PreferredRole)),
+        EXPECT_EQ(joined(column(*step->gallery()->covers(), CoverModel::PreferredRole)),
                   selected ? "false | true | false" : "false | false | false");
     }
     step->bannerCloseAction();
@@ -291,27 +291,27 @@ TEST_F(StyleStep, WritesTheAttributesOfTheChosenStylesAndNoOthers) {
     EXPECT_EQ(again.data(again.index(1), StyleAttributesModel::ChoiceRole).toInt(), 0);
     again.switchImage(2, false);
     EXPECT_EQ(draft().valuesMenuStyleAttributes->size(), 3u);
-    step->carouselCurrentItemIndexDidChange(0);
+    step->gallery()->carouselCurrentItemIndexDidChange(0);
     step->serializeAutoSave();
     EXPECT_EQ(draft().valuesMenuStyleAttributes, (std::vector<Value>{{9, 1, "online", std::nullopt}}));
 }
 
 TEST_F(StyleStep, TurnsACoverOverAndZoomsFromTheSideOnShow) {
     show();
-    auto& styles = *step->styles();
-    const auto front = styles.data(styles.index(0), StyleCarouselModel::ImageRole);
-    step->flipStyleButtonAction();
-    EXPECT_NE(styles.data(styles.index(0), StyleCarouselModel::ImageRole), front);
-    step->zoomStyleButtonAction();
-    ASSERT_NE(step->zoom(), nullptr);
-    EXPECT_EQ(step->zoom()->imagenCount(), "2 / 2");
-    step->zoom()->rightButtonAction(); // there is no further page
-    EXPECT_EQ(step->zoom()->imagenCount(), "2 / 2");
-    step->zoom()->leftButtonAction();
-    EXPECT_EQ(step->zoom()->imagenCount(), "1 / 2");
-    EXPECT_EQ(step->zoom()->image(), front);
-    step->closeZoom();
-    EXPECT_EQ(step->zoom(), nullptr);
+    auto& styles = *step->gallery()->covers();
+    const auto front = styles.data(styles.index(0), CoverModel::ImageRole);
+    step->gallery()->flipStyleButtonAction();
+    EXPECT_NE(styles.data(styles.index(0), CoverModel::ImageRole), front);
+    step->gallery()->zoomStyleButtonAction();
+    ASSERT_NE(step->gallery()->zoom(), nullptr);
+    EXPECT_EQ(step->gallery()->zoom()->imagenCount(), "2 / 2");
+    step->gallery()->zoom()->rightButtonAction(); // there is no further page
+    EXPECT_EQ(step->gallery()->zoom()->imagenCount(), "2 / 2");
+    step->gallery()->zoom()->leftButtonAction();
+    EXPECT_EQ(step->gallery()->zoom()->imagenCount(), "1 / 2");
+    EXPECT_EQ(step->gallery()->zoom()->image(), front);
+    step->gallery()->closeZoom();
+    EXPECT_EQ(step->gallery()->zoom(), nullptr);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "brochures/wizard/send/BrochureSendViewController.h"
 
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/PennantProducts.h"
 #include "brochures/wizard/StepSupport.h"
 #include "catalogue/Catalogue.h"
 #include "interaction/AlertPresenter.h"
@@ -27,6 +28,8 @@ QUrl BrochureSendViewController::view() const {
 }
 
 void BrochureSendViewController::viewWillAppear() {
+    if (context_.parameters().withPennants)
+        dropDeselectedPennantProducts(*context_.draft, *context_.catalogue);
     styleLogosInfo_.clear();
     if (const auto* style = context_.draft->currentStyle()) {
         for (const Int identifier : style->logotypeIdentifiers) {

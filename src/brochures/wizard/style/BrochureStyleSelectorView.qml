@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Kavor.Ui
+import Kavor.Kit
 import Kavor.Screens
 
 // The graphic style of the printed or the online menu.
@@ -68,10 +69,10 @@ FormPage {
         text: page.controller.emptyMessage
     }
 
-    StyleCarouselCard {
+    CoverCarousel {
         Layout.fillWidth: true
         visible: page.hasStyles
-        controller: page.controller
+        gallery: page.controller.gallery
         coverHeight: Math.max(260, Math.min(440, page.height * 0.56))
     }
 
@@ -99,15 +100,6 @@ FormPage {
             visible: page.controller.brandQr.visible
             form: page.controller.brandQr
             onZoomed: page.controller.zoomStyleQrButtonAction()
-        }
-    }
-
-    Loader {
-        active: page.controller.zoom !== null
-        visible: false
-        sourceComponent: StyleZoomView {
-            controller: page.controller.zoom
-            onDismissed: page.controller.closeZoom()
         }
     }
 }

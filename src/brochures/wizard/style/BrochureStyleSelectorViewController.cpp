@@ -3,8 +3,11 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
-#include "screens/ResourceImages.h"
+#include "brochures/wizard/StyleCover.h"
 #include "session/AppSingleton.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace kavor {
 
@@ -15,6 +18,10 @@ BrochureStyleSelectorViewController::BrochureStyleSelectorViewController(const W
     , attributeTable_(context.services.photos, nullptr) {
     bannerObserver_ = NotificationCenter::shared().observe(
         notification::showPreferredBrandsBanner, [this](const auto&) { showPreferredBrandsBanner(); });
+    connect(&gallery_, &CoverGallery::chosen, this, [this](int index) {
+        selectStyle(index);
+        saveDraft();
+    });
     connect(&logos_, &StyleLogosForm::edited, this, &BrochureStyleSelectorViewController::saveDraft);
     connect(&quantities_, &BrochureQuantityForm::edited, this,
             &BrochureStyleSelectorViewController::saveDraft);
@@ -40,29 +47,41 @@ void BrochureStyleSelectorViewController::viewWillAppear() {
     brandQr_.appear(context_);
     const BrochureIntermediateData& draft = *context_.draft;
     const int selected =
-        brochureStyles_.indexOf(context_.isSectionStyleDigital ? draft.selectedStyleDigitalIdentifier
-                                                               : draft.selectedStyleIdentifier);
+        gallery_.covers()->indexOf(context_.isSectionStyleDigital ? draft.selectedStyleDigitalIdentifier
+                                                                  : draft.selectedStyleIdentifier);
     // The style in the middle of the carousel is the chosen one, also before anyone moved it.
-    selectStyle(std::max(selected, 0));
+    gallery_.select(std::max(selected, 0));
+    selectStyle(gallery_.current());
     saveDraft();
 }
 
+bool BrochureStyleSelectorViewController::isOffered(const Brochures::Style& style) const {
+    const BrochureType kind = context_.type->id;
+    if (style.typeId != static_cast<Int>(kind))
+        return false;
+    if (kind != BrochureType::chalkboard)
+        return true;
+    const auto chosen = context_.draft->selectedFormatIdentifier;
+    const auto* format = chosen ? context_.catalogue->blackboardFormat(*chosen) : nullptr;
+    return format != nullptr && style.blackboardFormatTypeId == format->typeId;
+}
+
 void BrochureStyleSelectorViewController::readStyles() {
-    const BrochureIntermediateData& draft = *context_.draft;
-    std::optional<Int> formatType;
-    if (draft.selectedFormatIdentifier) {
-        if (const auto* format = context_.catalogue->blackboardFormat(*draft.selectedFormatIdentifier))
-            formatType = format->typeId;
+    brochureStyles_.clear();
+    for (const Brochures::Style& style : context_.catalogue->brochures().styles) {
+        if (isOffered(style))
+            brochureStyles_.push_back(&style);
     }
-    std::set<Int> brands;
-    for (const auto& [brand, formats] : draft.selectedBrands)
-        brands.insert(brand);
-    brochureStyles_.setStyles(context_.catalogue->brochures().styles, context_.type->id, formatType, brands);
+    std::ranges::stable_sort(brochureStyles_, {}, &Brochures::Style::position);
+    const auto isSelected = [this](Int brand) { return context_.draft->selectedBrands.contains(brand); };
+    std::vector<Cover> covers;
+    for (const Brochures::Style* style : brochureStyles_)
+        covers.push_back(coverOf(*style, std::ranges::any_of(style->preferredBrands, isSelected)));
+    gallery_.setCovers(std::move(covers));
 }
 
 void BrochureStyleSelectorViewController::selectStyle(int index) {
-    currentStyle_ = index;
-    const Brochures::Style* style = brochureStyles_.styleAt(index);
+    const Brochures::Style* style = styleAt(index);
     BrochureIntermediateData& draft = *context_.draft;
     if (style && context_.isSectionStyleDigital) {
         draft.selectedStyleDigitalIdentifier = style->id;
@@ -73,13 +92,6 @@ void BrochureStyleSelectorViewController::selectStyle(int index) {
     logos_.setStyle(context_, style);
     attributeTable_.setStyle(context_, style);
     emit currentStyleChanged();
-}
-
-void BrochureStyleSelectorViewController::carouselCurrentItemIndexDidChange(int index) {
-    if (index == currentStyle_ || !brochureStyles_.styleAt(index))
-        return;
-    selectStyle(index);
-    saveDraft();
 }
 
 void BrochureStyleSelectorViewController::saveDraft() {
@@ -93,34 +105,17 @@ void BrochureStyleSelectorViewController::serializeAutoSave() {
     attributeTable_.serialize();
 }
 
-void BrochureStyleSelectorViewController::flipStyleButtonAction() {
-    brochureStyles_.flip(currentStyle_);
+const Brochures::Style* BrochureStyleSelectorViewController::styleAt(int index) const {
+    return index >= 0 && index < int(brochureStyles_.size()) ? brochureStyles_[std::size_t(index)] : nullptr;
 }
 
-void BrochureStyleSelectorViewController::showZoom(TypeZooms zoom) {
-    closeZoom();
-    if (zoom == TypeZooms::zoomStyleQr) {
-        zoom_ = new StyleSelectorOrderSheet(brandQr_.brandQrTypes().value(brandQr_.brandQrTypePicker()),
-                                            brandQr_.images(), brandQr_.currentBrand(), this);
-    } else if (const Brochures::Style* style = brochureStyles_.styleAt(currentStyle_)) {
-        zoom_ = new StyleSelectorOrderSheet(
-            fromUtf8(style->name),
-            {resourceImageUrl(style->firstImage), resourceImageUrl(style->secondImage)},
-            brochureStyles_.isCover(currentStyle_) ? 0 : 1, this);
-    }
-    emit zoomChanged();
-}
-
-void BrochureStyleSelectorViewController::closeZoom() {
-    if (!zoom_)
-        return;
-    zoom_->deleteLater();
-    zoom_ = nullptr;
-    emit zoomChanged();
+void BrochureStyleSelectorViewController::zoomStyleQrButtonAction() {
+    gallery_.showZoom(brandQr_.brandQrTypes().value(brandQr_.brandQrTypePicker()), brandQr_.images(),
+                      brandQr_.currentBrand());
 }
 
 void BrochureStyleSelectorViewController::showPreferredBrandsBanner() {
-    if (bannerVisible_ || !brochureStyles_.hasPreferred())
+    if (bannerVisible_ || !gallery_.covers()->hasPreferred())
         return;
     bannerVisible_ = true;
     emit bannerChanged();
@@ -132,19 +127,8 @@ void BrochureStyleSelectorViewController::bannerCloseAction() {
     NotificationCenter::shared().post(notification::preferredBrandsBannerClosed);
 }
 
-QString BrochureStyleSelectorViewController::currentStyleName() const {
-    const Brochures::Style* style = brochureStyles_.styleAt(currentStyle_);
-    return style ? fromUtf8(style->name) : QString();
-}
-
-QString BrochureStyleSelectorViewController::selectedAndTotalNumberOfStylesLabel() const {
-    return brochureStyles_.count() == 0
-               ? QString()
-               : QStringLiteral("%1 / %2").arg(currentStyle_ + 1).arg(brochureStyles_.count());
-}
-
 QString BrochureStyleSelectorViewController::emptyMessage() const {
-    if (brochureStyles_.count() > 0)
+    if (!brochureStyles_.empty())
         return {};
     if (context_.type && context_.type->id == BrochureType::chalkboard &&
         !context_.draft->selectedFormatIdentifier)

@@ -6,11 +6,11 @@
 
 namespace kavor {
 
-// The zoom of the style step's carousels: pages through large pictures.
+// The zoom of a carousel: pages through large pictures.
 class StyleSelectorOrderSheet : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by the style step")
+    QML_UNCREATABLE("made by the screen that shows it")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(QString image READ image NOTIFY pageChanged)

@@ -1,24 +1,25 @@
 import QtQuick
 import Kavor.Ui
-import Kavor.Screens
+import Kavor.Kit
 
-// The styles as large covers: swipe, turn over, zoom; below them a strip of miniatures.
+// Large covers: swipe, turn over, zoom; below them a strip of miniatures.
 Column {
     id: card
 
-    required property BrochureStyleSelectorViewController controller
+    required property CoverGallery gallery
+    property string text: "Estilos"
     property real coverHeight: 380
-    readonly property int currentStyle: controller.currentStyle
+    readonly property int current: gallery.current
     property bool landscape: false
     readonly property real coverRatio: landscape ? 1.414 : 0.7075 // covers are sheets of paper
 
     spacing: Theme.spaceM
 
     function follow(): void {
-        carousel.currentIndex = currentStyle;
+        carousel.currentIndex = current;
     }
 
-    onCurrentStyleChanged: follow()
+    onCurrentChanged: follow()
     Component.onCompleted: {
         const view = carousel.view;
         view.highlightMoveDuration = 0; // the chosen style stands in the middle from the first frame
@@ -29,7 +30,7 @@ Column {
     Image { // tells whether the covers lie on their side
         visible: false
         asynchronous: true
-        source: carousel.view.currentItem?.styleImage ?? ""
+        source: carousel.view.currentItem?.coverImage ?? ""
         sourceSize.width: 64
         sourceSize.height: 64
         onStatusChanged: {
@@ -48,7 +49,7 @@ Column {
             objectName: "styleName"
             anchors.left: parent.left
             anchors.right: place.left
-            text: card.controller.currentStyleName
+            text: card.gallery.currentName
             color: Theme.ink
             elide: Text.ElideRight
             font.family: Theme.fontFamily
@@ -61,7 +62,7 @@ Column {
             objectName: "selectedAndTotalNumberOfStylesLabel"
             anchors.right: parent.right
             anchors.baseline: name.baseline
-            text: card.controller.selectedAndTotalNumberOfStylesLabel
+            text: card.gallery.selectedAndTotalNumberOfStylesLabel
             color: Theme.mutedInk
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontBody
@@ -76,17 +77,17 @@ Column {
         height: (itemWidth - 8) / card.coverRatio + 8
         itemWidth: Math.min(width * (card.landscape ? 0.84 : 0.72), (card.coverHeight - 8) * card.coverRatio + 8)
         showDots: false
-        text: "Estilos"
-        model: card.controller.styles
-        onSelected: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
-        onTapped: card.controller.zoomStyleButtonAction()
+        text: card.text
+        model: card.gallery.covers
+        onSelected: (index) => card.gallery.carouselCurrentItemIndexDidChange(index)
+        onTapped: card.gallery.zoomStyleButtonAction()
 
         delegate: Item {
             id: item
 
             required property int index
-            required property string styleName
-            required property string styleImage
+            required property string coverName
+            required property string coverImage
             required property bool isCover
             required property bool isPreferred
             readonly property bool current: ListView.isCurrentItem
@@ -101,8 +102,8 @@ Column {
                 anchors.margins: item.current ? 4 : 16
                 radius: Theme.radius
                 ground: Theme.paper
-                source: item.styleImage
-                text: item.styleName + (item.isCover ? ", portada" : ", contraportada")
+                source: item.coverImage
+                text: item.coverName + (item.isCover ? ", portada" : ", contraportada")
                 placeholderIcon: "style"
                 mat: Theme.surface
                 fillMode: Image.PreserveAspectFit
@@ -157,23 +158,32 @@ Column {
             text: "Girar"
             icon: "flip"
             kind: "secondary"
-            onClicked: card.controller.flipStyleButtonAction()
+            onClicked: card.gallery.flipStyleButtonAction()
         }
         AppButton {
             objectName: "zoomStyleButton"
             text: "Ampliar"
             icon: "zoom"
             kind: "secondary"
-            onClicked: card.controller.zoomStyleButtonAction()
+            onClicked: card.gallery.zoomStyleButtonAction()
         }
     }
 
     ThumbnailStrip {
         objectName: "styleStrip"
         width: parent.width
-        model: card.controller.styles.thumbnails
-        currentIndex: card.controller.currentStyle
+        model: card.gallery.covers.thumbnails
+        currentIndex: card.gallery.current
         placeholderIcon: "style"
-        onTapped: (index) => card.controller.carouselCurrentItemIndexDidChange(index)
+        onTapped: (index) => card.gallery.carouselCurrentItemIndexDidChange(index)
+    }
+
+    Loader {
+        active: card.gallery.zoom !== null
+        visible: false
+        sourceComponent: StyleZoomView {
+            controller: card.gallery.zoom
+            onDismissed: card.gallery.closeZoom()
+        }
     }
 }

@@ -1,4 +1,4 @@
-#include "brochures/wizard/style/StyleSelectorOrderSheet.h"
+#include "screens/covers/StyleSelectorOrderSheet.h"
 
 namespace kavor {
 

@@ -1,9 +1,9 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kavor.Ui
-import Kavor.Screens
+import Kavor.Kit
 
-// Large pictures over the step: page through them, pinch or turn the wheel to look closer.
+// Large pictures over the screen: page through them, pinch or turn the wheel to look closer.
 T.Popup {
     id: view
 
