@@ -6,7 +6,7 @@ Grid {
     id: string
 
     required property var pennants
-    readonly property real pennantWidth: Math.min(112, (width - (columns - 1) * columnSpacing) / columns)
+    readonly property real pennantWidth: Math.floor(Math.min(112, (width - (columns - 1) * columnSpacing) / columns))
 
     columns: width >= 680 ? 8 : 4
     columnSpacing: Theme.spaceXS
