@@ -4,6 +4,7 @@
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "brochures/engine/SelectHighlightCheckerDelegate.h"
 #include "brochures/engine/SentOrder.h"
+#include "brochures/engine/ValidationMessage.h"
 #include "catalogue/Brochures.h"
 
 #include <map>
@@ -264,6 +265,8 @@ public:
     // Every rule that fails, as sentences for the user in their fixed order; empty when the draft may be
     // sent.
     [[nodiscard]] std::vector<std::string> validationErrors() const;
+    // The same with the place where each is mended.
+    [[nodiscard]] std::vector<ValidationMessage> validationMessages() const;
     // Prices that are allowed but look too high, a line each.
     [[nodiscard]] std::vector<std::string> priceWarnings() const;
     // The order document. With validate, messages stop the process and brands of other families stay out. The

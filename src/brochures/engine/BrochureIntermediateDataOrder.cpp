@@ -188,6 +188,7 @@ KeptOrder BrochureIntermediateData::keptOrder(OrderRequestType save, bool valida
     if (!unansweredSends.empty())
         order.unansweredSends = unansweredSends;
     order.outboxFile = outboxFile;
+    order.supportComment = supportComment;
     return order;
 }
 

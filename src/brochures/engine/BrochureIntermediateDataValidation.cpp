@@ -5,6 +5,7 @@
 #include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
+#include <utility>
 
 // The sentences are the user's, to the letter.
 namespace kavor {
@@ -12,7 +13,17 @@ namespace kavor {
 namespace {
 
 using Draft = BrochureIntermediateData;
-using Messages = std::vector<std::string>;
+using Place = ValidationPlace;
+
+// The sentences in their order, each with the place where the user mends it.
+class Messages {
+public:
+    void add(Place place, std::string sentence) { all_.push_back({std::move(sentence), place}); }
+    [[nodiscard]] std::vector<ValidationMessage> take() { return std::move(all_); }
+
+private:
+    std::vector<ValidationMessage> all_;
+};
 
 using engine::catalogue;
 
@@ -50,11 +61,11 @@ void checkQuantity(Int quantity, const std::string& which, const Draft& draft, M
     const Int least = parametersOf(draft).minimumOrderQuantity;
     const Int most = parametersOf(draft).maximumOrderQuantity;
     if (quantity < least)
-        messages.push_back("El número de cartas " + which + " es inferior al mínimo permitido (" +
-                           number(least) + ").");
+        messages.add(Place::quantity, "El número de cartas " + which + " es inferior al mínimo permitido (" +
+                                          number(least) + ").");
     else if (quantity > most)
-        messages.push_back("El número de cartas " + which + " es superior al máximo permitido (" +
-                           number(most) + ").");
+        messages.add(Place::quantity, "El número de cartas " + which + " es superior al máximo permitido (" +
+                                          number(most) + ").");
 }
 
 void checkNumberOfBrochures(const Draft& draft, std::optional<BrochureType> kind, Messages& messages) {
@@ -62,7 +73,7 @@ void checkNumberOfBrochures(const Draft& draft, std::optional<BrochureType> kind
         return;
     // The languages are tested on purpose, though the sentence speaks only of the number.
     if (!draft.selectedLanguageIdentifiers || !draft.selectedNumberOfBrochures) {
-        messages.emplace_back("No se ha introducido un número de cartas.");
+        messages.add(Place::quantity, "No se ha introducido un número de cartas.");
         return;
     }
     const auto& [main, secondary] = *draft.selectedNumberOfBrochures;
@@ -75,7 +86,7 @@ void checkLengths(const Customer& customer, Messages& messages) {
     const auto& limits = catalogue().information().validations;
     const auto check = [&messages](const std::optional<std::string>& value, Int limit, const char* opening) {
         if (value && static_cast<Int>(text::characterCount(*value)) > limit)
-            messages.push_back(opening + number(limit) + ").");
+            messages.add(Place::customerTexts, opening + number(limit) + ").");
     };
     check(customer.freeText1, limits.customerFreeText,
           "El texto libre 1 tiene una longitud mayor a la permitida (");
@@ -96,17 +107,17 @@ void checkLengths(const Customer& customer, Messages& messages) {
 
 void checkCustomer(const std::optional<Customer>& customer, Messages& messages) {
     if (engine::isCustomerCodeRequired() && (!customer || isEmpty(customer->tevo)))
-        messages.emplace_back("El código cliente debe informarse.");
+        messages.add(Place::customerCode, "El código cliente debe informarse.");
     if (customer)
         checkLengths(*customer, messages);
     if (!customer || customer->name.empty())
-        messages.emplace_back("El nombre del establecimiento es obligatorio.");
+        messages.add(Place::customerName, "El nombre del establecimiento es obligatorio.");
     if (!customer || isEmpty(customer->email))
-        messages.emplace_back("El email es obligatorio.");
+        messages.add(Place::customerEmail, "El email es obligatorio.");
     if (!customer || isEmpty(customer->telephone))
-        messages.emplace_back("El teléfono es obligatorio.");
+        messages.add(Place::customerTelephone, "El teléfono es obligatorio.");
     if (!customer || isEmpty(customer->contact))
-        messages.emplace_back("El nombre de contacto es obligatorio.");
+        messages.add(Place::customerContact, "El nombre de contacto es obligatorio.");
 }
 
 void checkBrandCount(const Draft& draft, const Brochures::Type& type, Messages& messages) {
@@ -118,14 +129,16 @@ void checkBrandCount(const Draft& draft, const Brochures::Type& type, Messages& 
     const auto count = static_cast<Int>(entries);
     if (type.id != BrochureType::chalkboard) {
         if (const Int low = draft.minimumBrands(0); count < low)
-            messages.push_back("El número de marcas seleccionadas es inferior a " + number(low) + ".");
+            messages.add(Place::brands,
+                         "El número de marcas seleccionadas es inferior a " + number(low) + ".");
         if (const Int high = draft.maximumBrands(1000000); count > high)
-            messages.push_back("El número de marcas seleccionadas es superior a " + number(high) + ".");
+            messages.add(Place::brands,
+                         "El número de marcas seleccionadas es superior a " + number(high) + ".");
         return;
     }
     const auto* format = draft.currentBlackboardFormat();
     if (!format) {
-        messages.emplace_back("Se debe elegir un formato de pizarra.");
+        messages.add(Place::blackboardFormat, "Se debe elegir un formato de pizarra.");
         return;
     }
     const auto& allowed = format->numberOfSelectableBrands;
@@ -134,7 +147,7 @@ void checkBrandCount(const Draft& draft, const Brochures::Type& type, Messages& 
     std::string numbers;
     for (const Int each : allowed)
         numbers += (numbers.empty() ? "" : " o ") + number(each);
-    messages.push_back("El número de marcas seleccionado debe ser " + numbers + ".");
+    messages.add(Place::brands, "El número de marcas seleccionado debe ser " + numbers + ".");
 }
 
 void checkFormatCounts(const Draft& draft, const Brochures::Type& type, Messages& messages) {
@@ -143,15 +156,17 @@ void checkFormatCounts(const Draft& draft, const Brochures::Type& type, Messages
     if (const auto least = type.parameters->minFormatSelected) {
         for (const auto& [brand, formats] : draft.selectedBrands) {
             if (static_cast<Int>(formats.size()) < *least)
-                messages.push_back("El número de formatos seleccionado para la marca " + nameOfBrand(brand) +
-                                   " es inferior al mínimo (" + number(*least) + ").");
+                messages.add(Place::brands, "El número de formatos seleccionado para la marca " +
+                                                nameOfBrand(brand) + " es inferior al mínimo (" +
+                                                number(*least) + ").");
         }
     }
     if (const auto most = type.parameters->maxFormatSelected) {
         for (const auto& [brand, formats] : draft.selectedBrands) {
             if (static_cast<Int>(formats.size()) > *most)
-                messages.push_back("El número de formatos seleccionados para la marca " + nameOfBrand(brand) +
-                                   " es superior al máximo (" + number(*most) + ").");
+                messages.add(Place::brands, "El número de formatos seleccionados para la marca " +
+                                                nameOfBrand(brand) + " es superior al máximo (" +
+                                                number(*most) + ").");
         }
     }
 }
@@ -160,31 +175,31 @@ void checkDrink(const Draft& draft, Int category, const std::string& categoryNam
                 const std::string& formatName, Messages& messages) {
     const auto info = draft.beverageInfo(category, product, false, formatName);
     if (!info) {
-        messages.push_back("Alguno de los productos de la categoría " + quoted(categoryName) +
-                           " no ha sido seleccionado correctamente.");
+        messages.add(Place::drinks, "Alguno de los productos de la categoría " + quoted(categoryName) +
+                                        " no ha sido seleccionado correctamente.");
         return;
     }
     const std::string where = " para el producto " + quoted(info->name) + " en la categoría " +
                               quoted(categoryName) + " se encuentra vacío.";
     if (info->name.empty())
-        messages.push_back("El nombre de un producto personalizado en la categoría " + quoted(categoryName) +
-                           " se encuentra vacío.");
+        messages.add(Place::drinks, "El nombre de un producto personalizado en la categoría " +
+                                        quoted(categoryName) + " se encuentra vacío.");
     if (!info->price1)
-        messages.push_back("El precio principal" + where);
+        messages.add(Place::drinks, "El precio principal" + where);
     if (draft.currentSecondPrice() && !info->price2)
-        messages.push_back("El precio secundario" + where);
+        messages.add(Place::drinks, "El precio secundario" + where);
 }
 
 void checkDrinks(const Draft& draft, Messages& messages) {
     for (const auto& [category, products] : draft.selectedBeverages) {
         const auto info = draft.beverageInfo(category, 0, true, std::nullopt);
         if (!info) {
-            messages.emplace_back(
-                "Alguna de las categorías de bebidas no ha sido seleccionada correctamente.");
+            messages.add(Place::drinks,
+                         "Alguna de las categorías de bebidas no ha sido seleccionada correctamente.");
             return;
         }
         if (!catalogue().drink(category) && info->name.empty())
-            messages.emplace_back("El nombre de una categoría personalizada se encuentra vacío.");
+            messages.add(Place::drinks, "El nombre de una categoría personalizada se encuentra vacío.");
         for (const Int product : products) {
             const auto names = draft.selectedProductFormat.find(product);
             if (names == draft.selectedProductFormat.end())
@@ -211,17 +226,18 @@ void checkLogos(const Draft& draft, const Brochures::Style& style, Messages& mes
         return;
     const auto logos = draft.currentLogos();
     if (!logos) {
-        messages.emplace_back("El estilo seleccionado requiere de logotipos.");
+        messages.add(Place::logos, "El estilo seleccionado requiere de logotipos.");
         return;
     }
     const auto& [first, second, third, firstPosition, secondPosition, thirdPosition] = *logos;
     const auto isOffered = [&offered](Int id) { return std::ranges::find(offered, id) != offered.end(); };
     if (!isOffered(first) || !isOffered(second) || !isOffered(third))
-        messages.emplace_back("Alguno de los logos para el estilo son incorrectos. Selecciónelos de nuevo.");
+        messages.add(Place::logos,
+                     "Alguno de los logos para el estilo son incorrectos. Selecciónelos de nuevo.");
     else if (first == second || second == third || first == third)
-        messages.emplace_back(
-            "Los logotipos que aparecen en el diseño de la portada deben mostrar tres referencias "
-            "diferentes. (Ver pantalla de “Estilo”).");
+        messages.add(Place::logos,
+                     "Los logotipos que aparecen en el diseño de la portada deben mostrar tres referencias "
+                     "diferentes. (Ver pantalla de “Estilo”).");
 }
 
 // Whether paper or online is wanted is asked of the shared draft, not of the one under test.
@@ -230,12 +246,12 @@ void checkPrintedStyle(const Draft& draft, std::optional<BrochureType> kind, Mes
         return;
     const auto* style = draft.currentStyle();
     if (!style) {
-        messages.emplace_back("No hay ningún estilo seleccionado.");
+        messages.add(Place::printedStyle, "No hay ningún estilo seleccionado.");
         return;
     }
     if (kind && style->typeId != static_cast<Int>(*kind))
-        messages.emplace_back(
-            "El estilo seleccionado no es válido para el tipo de carta que estás generando.");
+        messages.add(Place::printedStyle,
+                     "El estilo seleccionado no es válido para el tipo de carta que estás generando.");
     checkLogos(draft, *style, messages);
 }
 
@@ -243,9 +259,10 @@ void checkOnlineStyle(const Draft& draft, Messages& messages) {
     if (!Draft::temporalBrochure()->includeDigitalBrochure)
         return;
     if (!draft.selectedStyleDigitalIdentifier)
-        messages.emplace_back("No hay ningún estilo online seleccionado.");
+        messages.add(Place::onlineStyle, "No hay ningún estilo online seleccionado.");
     else if (!draft.currentStyleDigital())
-        messages.emplace_back(
+        messages.add(
+            Place::onlineStyle,
             "El estilo no está seleccionado correctamente. Vuelva a estilos y selecciónelo de nuevo.");
 }
 
@@ -253,9 +270,9 @@ void checkChalkboard(const Draft& draft, std::optional<BrochureType> kind, Messa
     if (kind != BrochureType::chalkboard)
         return;
     if (!draft.selectedFormatIdentifier)
-        messages.emplace_back("No se ha seleccionado ninguna orientación para pizarra.");
+        messages.add(Place::blackboardFormat, "No se ha seleccionado ninguna orientación para pizarra.");
     if (!draft.selectedBlackboardTypeIdentifier)
-        messages.emplace_back("No se ha seleccionado tipo de pizarra a imprimir.");
+        messages.add(Place::blackboardType, "No se ha seleccionado tipo de pizarra a imprimir.");
 }
 
 constexpr const char* unknownBrand = "No se ha conseguido validar una marca.";
@@ -265,23 +282,23 @@ void checkMinimalPrices(const Draft& draft, Messages& messages) {
     for (const auto& [brand, formats] : draft.filteredSelection().brandPrices) {
         const auto* product = catalogue().product(brand);
         if (!product) {
-            messages.emplace_back(unknownBrand);
+            messages.add(Place::brands, unknownBrand);
             return;
         }
         for (const auto& [format, prices] : formats) {
             const auto* record = catalogue().format(brand, format);
             if (!record) {
-                messages.emplace_back(unknownFormat);
+                messages.add(Place::brands, unknownFormat);
                 return;
             }
             if (draft.withoutPriceBeer)
                 continue;
             for (const auto& [type, value] : prices) {
                 if (value < record->minimalPrice)
-                    messages.push_back("El formato " + record->icon + " para la marca " + product->name +
-                                       " tiene un precio inferior al mínimo (" +
-                                       number(record->minimalPrice) + ") en el tipo de precio " +
-                                       nameOfPrice(type));
+                    messages.add(Place::prices, "El formato " + record->icon + " para la marca " +
+                                                    product->name + " tiene un precio inferior al mínimo (" +
+                                                    number(record->minimalPrice) + ") en el tipo de precio " +
+                                                    nameOfPrice(type));
             }
         }
     }
@@ -290,13 +307,20 @@ void checkMinimalPrices(const Draft& draft, Messages& messages) {
 } // namespace
 
 std::vector<std::string> BrochureIntermediateData::validationErrors() const {
+    std::vector<std::string> sentences;
+    for (ValidationMessage& message : validationMessages())
+        sentences.push_back(std::move(message.sentence));
+    return sentences;
+}
+
+std::vector<ValidationMessage> BrochureIntermediateData::validationMessages() const {
     const auto kind = engine::sectionKind();
     Messages messages;
     if (!includePaperBrochure && !includeDigitalBrochure)
-        messages.emplace_back(
-            "Ha de seleccionar un formato de generación de la Carta (Impresa, Vídeo, Online)");
+        messages.add(Place::outputFormat,
+                     "Ha de seleccionar un formato de generación de la Carta (Impresa, Vídeo, Online)");
     if (!currentLanguages())
-        messages.emplace_back("Faltan por seleccionar los idiomas");
+        messages.add(Place::languages, "Faltan por seleccionar los idiomas");
     checkNumberOfBrochures(*this, kind, messages);
     checkCustomer(customerInformation, messages);
     checkBrands(*this, kind, messages);
@@ -304,11 +328,11 @@ std::vector<std::string> BrochureIntermediateData::validationErrors() const {
     checkOnlineStyle(*this, messages);
     checkChalkboard(*this, kind, messages);
     checkMinimalPrices(*this, messages);
-    return messages;
+    return messages.take();
 }
 
 std::vector<std::string> BrochureIntermediateData::priceWarnings() const {
-    Messages lines;
+    std::vector<std::string> lines;
     // The shared draft is the one that is asked about.
     for (const auto& [brand, formats] : temporalBrochure()->filteredSelection().brandPrices) {
         const auto* product = catalogue().product(brand);

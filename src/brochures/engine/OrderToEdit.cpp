@@ -24,6 +24,7 @@ void openOrder(const OrderToEdit& toEdit) {
     draft->loadOrder(toEdit.order);
     draft->fileName = toEdit.filename;
     draft->outboxFile = toEdit.outboxFile;
+    draft->supportComment = toEdit.supportComment;
     draft->unansweredSends = toEdit.unansweredSends;
     add(draft->unansweredSends, former->unansweredSends);
 }

@@ -13,9 +13,10 @@ class Catalogue;
 // An order at hand, out of a file or from the server, that the wizard is to go on with.
 struct OrderToEdit {
     SaveBrochuresOrder order;
-    std::optional<std::string> filename; // plain name of its draft file
-    UnansweredSends unansweredSends;
-    std::optional<std::string> outboxFile; // plain name, for one that waits in the outbox
+    std::optional<std::string> filename = {}; // plain name of its draft file
+    UnansweredSends unansweredSends = {};
+    std::optional<std::string> outboxFile = {};     // plain name, for one that waits in the outbox
+    std::optional<std::string> supportComment = {}; // what only the device knows of it
 };
 
 // Puts a new shared draft, filled from the order, in the place of the one in work, whose sends without an

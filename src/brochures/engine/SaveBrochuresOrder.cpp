@@ -19,7 +19,8 @@ struct Table<KeptOrder> {
         std::tuple_cat(Table<SaveBrochuresOrder>::fields,
                        std::tuple{optional("unanswered_sends", &KeptOrder::unansweredSends),
                                   optional("outbox_file", &KeptOrder::outboxFile),
-                                  optional("prints_myself", &KeptOrder::printsMyself)});
+                                  optional("prints_myself", &KeptOrder::printsMyself),
+                                  optional("support_comment", &KeptOrder::supportComment)});
 };
 
 template <>

@@ -171,6 +171,8 @@ struct KeptOrder : SaveBrochuresOrder {
     std::optional<std::string> outboxFile = std::nullopt;
     // Who prints an order of the outbox. A draft is asked anew, so "printed_myself" is never read back.
     std::optional<bool> printsMyself = std::nullopt;
+    // The server has no place for it.
+    std::optional<std::string> supportComment = std::nullopt;
 };
 
 // The body of "sendRawOrder": the order and the name of its file beside its keys.

@@ -60,6 +60,7 @@ bool TemporalBrochure::restoreDraft() {
         draft->fileName = order.filename; // the copy has no file of its own to be named after
         draft->unansweredSends = order.unansweredSends.value_or(UnansweredSends());
         draft->outboxFile = order.outboxFile;
+        draft->supportComment = order.supportComment;
         return holdsWork(*draft);
     };
     const bool cameBack = bringBack(kindName(*kind), load, inMemory != kind);

@@ -24,6 +24,23 @@ FocusScope {
         }
     }
 
+    function find(item: Item, name: string): Item {
+        if (item.objectName === name && item.visible)
+            return item;
+        for (let i = 0; i < item.children.length; ++i) {
+            const found = find(item.children[i], name);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+    // Type here next: the page scrolls to what has the focus.
+    function enter(name: string): void {
+        const field = find(container.item, name);
+        if (field)
+            field.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     Component.onCompleted: {
         showStep();
         if (controller.recoveredMessage !== "")
@@ -34,6 +51,9 @@ FocusScope {
         target: view.controller
         function onActiveStepChanged(): void {
             view.showStep();
+        }
+        function onFieldRequested(name: string): void {
+            Qt.callLater(view.enter, name); // qmllint disable
         }
         function onPreviewChanged(): void {
             view.showPreview();

@@ -4,6 +4,7 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/BrochureRoad.h"
+#include "brochures/wizard/MissingPlace.h"
 #include "brochures/wizard/StepSupport.h"
 #include "brochures/wizard/WizardStepFactory.h"
 #include "catalogue/OwnBrand.h"
@@ -91,6 +92,10 @@ BrochureMenuViewController::BrochureMenuViewController(const WizardServices& ser
     , visibleButtons_(entries.size(), true) {
     connect(&services_.reachability, &Reachability::changed, this,
             &BrochureMenuViewController::offlineChanged);
+    // Many edits in one turn of the event loop are counted once.
+    counting_.setSingleShot(true);
+    counting_.setInterval(0);
+    connect(&counting_, &QTimer::timeout, this, &BrochureMenuViewController::countMissing);
     ++open_;
     viewDidLoad(opening);
     viewDidAppear();
@@ -128,6 +133,7 @@ void BrochureMenuViewController::viewDidAppear() {
     observers_.push_back(
         center.observe(notification::preferredBrandsBannerClosed,
                        [this](const NotificationInfo&) { alreadyDismissedPreferredBrandsBanner_ = true; }));
+    observers_.push_back(center.observe(draftSaved, [this](const NotificationInfo&) { counting_.start(); }));
     observers_.push_back(
         center.observe(sentDraftSaved, [this](const NotificationInfo&) { askAboutSentOrder(); }));
     actualOrder_ = BrochureIntermediateData::temporalBrochure();
@@ -160,6 +166,7 @@ void BrochureMenuViewController::showStep(int wizardStep) {
     loadingStep_ = false;
     if (!askingAboutSentOrder_) // a step may complete the draft by itself; the user has changed nothing
         takeAsSent(*BrochureIntermediateData::temporalBrochure());
+    countMissing();
     emit activeStepChanged();
     emit subtitleChanged();
     NotificationCenter::shared().post(notification::viewChanged);
@@ -180,6 +187,7 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
                 return buttonPushedAction(entry.button);
         }
     });
+    connect(step, &WizardStepViewController::missingPlaceRequested, this, &BrochureMenuViewController::goTo);
     connect(step, &WizardStepViewController::subtitleChanged, this,
             &BrochureMenuViewController::subtitleChanged);
     connect(step, &WizardStepViewController::draftPreviewRequested, this,
@@ -207,6 +215,47 @@ void BrochureMenuViewController::viewWillAppear() {
         return;
     veil_.follow();
     activeViewController_->viewWillAppear();
+}
+
+void BrochureMenuViewController::goTo(ValidationPlace place) {
+    const auto [button, field] = missingPlaceOf(place);
+    if (!isButtonVisible(button))
+        return;
+    buttonPushedAction(button);
+    emit fieldRequested(QString::fromLatin1(field));
+}
+
+void BrochureMenuViewController::countMissing() {
+    std::map<int, int> missing;
+    if (AppSingleton::shared().brochureType()) {
+        for (const ValidationMessage& message :
+             BrochureIntermediateData::temporalBrochure()->validationMessages())
+            ++missing[missingPlaceOf(message.place).button];
+    }
+    missing_ = std::move(missing);
+    emit menuButtonsChanged();
+}
+
+// Entries whose step no rule looks at, or that the user has not begun, are neither complete nor incomplete.
+bool BrochureMenuViewController::isComplete(MenuButton button) const {
+    const BrochureIntermediateData& draft = *BrochureIntermediateData::temporalBrochure();
+    if (!AppSingleton::shared().brochureType() || missing_.contains(button))
+        return false;
+    switch (button) {
+    case Configuration:
+        return true;
+    case Products:
+    case Prices:
+        return !draft.selectedBrands.empty();
+    case Drinks:
+        return !draft.selectedBeverages.empty();
+    case Style:
+        return draft.currentStyle() != nullptr;
+    case DigitalStyle:
+        return draft.currentStyleDigital() != nullptr;
+    default:
+        return false;
+    }
 }
 
 // The step stays on show below the preview, and below what the check has to say.
@@ -358,12 +407,15 @@ QVariantList BrochureMenuViewController::menuButtons() const {
     for (const Entry& entry : entries) {
         QString caption = QString::fromUtf8(entry.text);
         if (entry.button == Style && !styleDefaultLabel_.isEmpty())
-            caption += QLatin1Char(' ') + styleDefaultLabel_.toLower();
-        buttons.append(QVariantMap{{QStringLiteral("id"), int(entry.button)},
-                                   {QStringLiteral("text"), caption},
-                                   {QStringLiteral("icon"), QString::fromLatin1(entry.icon)},
-                                   {QStringLiteral("selected"), entry.button == selected_},
-                                   {QStringLiteral("visible"), isButtonVisible(entry.button)}});
+            caption += QStringLiteral(": ") + styleDefaultLabel_;
+        buttons.append(QVariantMap{
+            {QStringLiteral("id"), int(entry.button)},
+            {QStringLiteral("text"), caption},
+            {QStringLiteral("icon"), QString::fromLatin1(entry.icon)},
+            {QStringLiteral("selected"), entry.button == selected_},
+            {QStringLiteral("visible"), isButtonVisible(entry.button)},
+            {QStringLiteral("badge"), missing_.contains(entry.button) ? missing_.at(entry.button) : 0},
+            {QStringLiteral("done"), isComplete(entry.button)}});
     }
     return buttons;
 }

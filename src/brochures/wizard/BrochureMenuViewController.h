@@ -9,8 +9,10 @@
 
 #include <QQmlEngine>
 #include <QString>
+#include <QTimer>
 #include <QVariantList>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -107,6 +109,8 @@ signals:
     // A screen over the wizard; viewWillAppear says that it has closed.
     void screenRequested(const kavor::Screen& screen);
     void promotionsRequested(const kavor::MenuPromotionRequest& request);
+    // A field of the step on show is to be typed into, or chosen.
+    void fieldRequested(const QString& name);
 
 private:
     void viewDidLoad(Opening opening);
@@ -125,6 +129,9 @@ private:
     void previewDraft();
     void closePreview();
     void cover();
+    void goTo(ValidationPlace place);
+    void countMissing();
+    [[nodiscard]] bool isComplete(MenuButton button) const;
     void connectStep(WizardStepViewController* step);
 
     WizardServices services_;
@@ -139,6 +146,8 @@ private:
     WebPreviewViewController* preview_ = nullptr;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     std::vector<NotificationCenter::Subscription> observers_;
+    std::map<int, int> missing_; // what the check says, by the entry where it is mended
+    QTimer counting_;
     CatalogueCopy catalogueToReset_; // made while the user is asked
     bool alreadyDismissedPreferredBrandsBanner_ = false;
     bool appeared_ = false;

@@ -104,6 +104,7 @@ void BrochureRoad::removeFilesOfSent(const SaveBrochuresOrder& sent) {
 KeptOrder BrochureRoad::keep(Order order, const UnansweredSends& unanswered) const {
     KeptOrder kept{std::move(order)};
     kept.printsMyself = kept.printedMyself ? std::optional(true) : std::nullopt;
+    kept.supportComment = draft_->supportComment;
     if (!unanswered.empty())
         kept.unansweredSends = unanswered;
     return kept;

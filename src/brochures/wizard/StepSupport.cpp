@@ -41,6 +41,7 @@ void autosave(const std::shared_ptr<BrochureIntermediateData>& draft) {
         NotificationCenter::shared().post(sentDraftSaved);
     else
         TemporalBrochure::shared().write(*draft);
+    NotificationCenter::shared().post(draftSaved);
 }
 
 QString notOffered(Int quantity, const std::vector<Int>& offered) {

@@ -30,6 +30,8 @@ const Brochures::Type::Parameters* sectionParameters(const Catalogue& catalogue)
 void autosave(const std::shared_ptr<BrochureIntermediateData>& draft);
 
 inline constexpr std::string_view sentDraftSaved = "SentDraftSaved";
+// Each autosave is told, so that what depends on the draft as a whole is worked out anew.
+inline constexpr std::string_view draftSaved = "DraftSaved";
 
 // Says that a quantity of the draft is none of those that its picker offers, which are not empty.
 QString notOffered(Int quantity, const std::vector<Int>& offered);

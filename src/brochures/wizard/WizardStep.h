@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brochures/engine/ValidationMessage.h"
 #include "orders/services/OrderSync.h"
 #include "promotions/MenuPromotionRequest.h"
 #include "screens/ScreenStack.h"
@@ -67,6 +68,8 @@ signals:
     // Asks the frame to show another step by its number (for example from a message that says what is
     // missing).
     void stepRequested(int wizardStep);
+    // Asks the frame to lead to where the user mends what a sentence of the check is about.
+    void missingPlaceRequested(kavor::ValidationPlace place);
     // Asks the frame to show a document (PDF) over the wizard.
     void previewRequested(const QUrl& document);
     // Asks the frame to show the document of the draft, which the server makes.

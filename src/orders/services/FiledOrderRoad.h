@@ -53,6 +53,19 @@ public:
         });
     }
 
+    // Looks whether an order of this draft waits in the outbox; waitingInOutbox tells it, beside the window's
+    // thread and after this call.
+    void lookIntoOutbox() {
+        runInBackground(
+            this,
+            [&orders = orders_, unanswered = this->unansweredSends(), opened = outboxFile()] {
+                if (opened && orders.template exists<Order>(*opened, Directory::outbox))
+                    return *opened;
+                return send_intent::anyInOutbox<Kept>(unanswered, orders).value_or("");
+            },
+            [this](const std::string& name) { emit this->waitingInOutbox(fromUtf8(name)); });
+    }
+
 protected:
     using Directory = OrderDiskManager::DirectoryName;
 
@@ -86,6 +99,8 @@ protected:
             [this, kept, content](const QueuedOrder& queued) {
                 if (queued.result == QueuedOrder::Result::Written)
                     noteQueued(kept, content, OrderDiskManager::fileName(queued.name));
+                if (queued.result != QueuedOrder::Result::Failed)
+                    emit this->waitingInOutbox(fromUtf8(queued.name));
                 this->tell(this->texts().queuedTitle, textOf(queued, this->texts()));
             });
     }

@@ -59,7 +59,7 @@ OrderToEdit toEdit(const OrderFile& file, const KeptOrder& kept, const OrderDisk
     const bool waits = file.directory == Directory::outbox;
     OrderToEdit result{kept, waits ? kept.filename : std::optional(file.plainName),
                        kept.unansweredSends.value_or(UnansweredSends()),
-                       waits ? std::optional(file.plainName) : std::nullopt};
+                       waits ? std::optional(file.plainName) : std::nullopt, kept.supportComment};
     // Sent as it stands, it is the order of the file.
     SaveBrochuresOrder content = kept;
     content.save = waits ? OrderRequestType::sendToPrint : OrderRequestType::saveCloud;
@@ -217,7 +217,7 @@ void OrderActions::fetchToEdit(const DraftOrderRow& row, Version version,
         *row.serverId(),
         {this,
          [done, id = *row.serverId(), name = row.filename](const RetrieveBrochureOrderListResponse& answer) {
-             done({OrderToEdit{orderOf(id, answer), name, {}, {}}});
+             done({OrderToEdit{orderOf(id, answer), name, {}, {}, {}}});
          },
          [done](const RequestFailure& failure) {
              done({std::nullopt, failure});

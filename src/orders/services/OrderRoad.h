@@ -48,6 +48,8 @@ signals:
     void orderSent();
     // The draft goes on as another order than the one that was sent.
     void anotherOrderBegun();
+    // An order of this draft waits in the outbox under this plain name; empty when none does.
+    void waitingInOutbox(const QString& name);
 
 protected:
     // What the order lacks to be printed or previewed, in the order of the check.

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -79,6 +80,24 @@ std::optional<std::string> nameInOutbox(const UnansweredSends& unanswered, const
     for (const auto& file : orders.list<Kept>(outbox)) {
         const auto kept = orders.retrieve<Kept>(file.fileName, outbox);
         if (kept && keyOfFile(*kept, outbox, file.fileName, file.modificationMoment) == *key)
+            return OrderDiskManager::plainName(file.fileName);
+    }
+    return std::nullopt;
+}
+
+// The plain name of a file of the outbox that was queued from the draft of these sends, as it stands now or
+// as it was then. Reads the files.
+template <class Kept>
+std::optional<std::string> anyInOutbox(const UnansweredSends& unanswered, const OrderDiskManager& orders) {
+    constexpr auto outbox = OrderDiskManager::DirectoryName::outbox;
+    if (unanswered.empty())
+        return std::nullopt;
+    for (const auto& file : orders.list<Kept>(outbox)) {
+        const auto kept = orders.retrieve<Kept>(file.fileName, outbox);
+        const auto key =
+            kept ? keyOfFile(*kept, outbox, file.fileName, file.modificationMoment) : QByteArray();
+        if (std::ranges::any_of(unanswered,
+                                [&](const UnansweredSend& each) { return each.key == key.toStdString(); }))
             return OrderDiskManager::plainName(file.fileName);
     }
     return std::nullopt;

@@ -19,7 +19,7 @@ Card {
         Rectangle {
             Layout.preferredWidth: 96
             Layout.preferredHeight: 96
-            visible: card.present
+            visible: card.present && card.form.unreadableLabel === ""
             radius: Theme.radius
             color: Theme.sunken
 
@@ -52,5 +52,11 @@ Card {
             onClicked: card.form.removeImageButonAction()
         }
         Item { Layout.fillWidth: true }
+    }
+    HelpText {
+        objectName: "unreadableLabel"
+        width: parent.width
+        visible: text !== ""
+        text: card.form.unreadableLabel
     }
 }

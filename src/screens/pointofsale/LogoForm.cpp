@@ -21,7 +21,11 @@ LogoForm::LogoForm(PhotoPicker& photos, QObject* parent)
     , photos_(photos) {}
 
 void LogoForm::fill(const std::optional<std::string>& imageLogo) {
-    dataText_ = picture_text::asPng(imageLogo.value_or(std::string()));
+    dataText_ = imageLogo.value_or(std::string());
+    std::string png = picture_text::asPng(dataText_);
+    readable_ = !png.empty() || dataText_.empty();
+    if (readable_)
+        dataText_ = std::move(png);
     emit changed();
 }
 
@@ -47,12 +51,19 @@ void LogoForm::removeImageButonAction() {
 
 void LogoForm::take(std::string dataText) {
     dataText_ = std::move(dataText);
+    readable_ = true;
     emit changed();
     emit edited();
 }
 
 QString LogoForm::imageLogo() const {
     return fromUtf8(dataText_);
+}
+
+QString LogoForm::unreadableLabel() const {
+    return readable_
+               ? QString()
+               : QStringLiteral("Este logotipo no se puede mostrar aquí; sigue en el pedido tal como vino.");
 }
 
 QString LogoForm::attachLogoLabel() const {

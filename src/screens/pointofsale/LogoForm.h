@@ -19,12 +19,14 @@ class LogoForm : public QObject {
     // The source of the picture; empty without a logo.
     Q_PROPERTY(QString imageLogo READ imageLogo NOTIFY changed)
     Q_PROPERTY(QString attachLogoLabel READ attachLogoLabel NOTIFY changed)
+    // Says that the logo cannot be shown here and stays in the order; empty for one that can.
+    Q_PROPERTY(QString unreadableLabel READ unreadableLabel NOTIFY changed)
 
 public:
     // The photos outlive the form.
     explicit LogoForm(PhotoPicker& photos, QObject* parent = nullptr);
 
-    // Takes over the logo of a record, a data text; one that is no picture is none.
+    // Takes over the logo of a record, a data text. One that this device cannot read stays as it came.
     void fill(const std::optional<std::string>& imageLogo);
     // The logo as "data:image/png;base64,..."; none without a logo.
     [[nodiscard]] std::optional<std::string> value() const;
@@ -34,6 +36,7 @@ public:
 
     [[nodiscard]] QString imageLogo() const;
     [[nodiscard]] QString attachLogoLabel() const;
+    [[nodiscard]] QString unreadableLabel() const;
 
 signals:
     void changed();
@@ -45,6 +48,7 @@ private:
 
     PhotoPicker& photos_;
     std::string dataText_;
+    bool readable_ = true;
 };
 
 } // namespace kavor

@@ -196,6 +196,18 @@ TEST_F(ConfigurationTest, AFoundCustomerOverwritesEveryFieldButTheCode) {
     EXPECT_FALSE(draft().customerInformation->imageLogo);
 }
 
+TEST_F(ConfigurationTest, ALogoThatCannotBeReadHereStaysInTheOrderAsItCame) {
+    const std::string heic = "data:image/heic;base64,AAAAGGZ0eXBoZWlj";
+    draft().customerInformation = Customer{};
+    draft().customerInformation->imageLogo = heic;
+    open();
+    EXPECT_NE(step->pointOfSale()->logo()->unreadableLabel(), "");
+    step->pointOfSale()->editText("establishmentNameTextField", "Bar Pino");
+    step->serializeAutoSave();
+    EXPECT_EQ(draft().customerInformation->name, "Bar Pino");
+    EXPECT_EQ(draft().customerInformation->imageLogo, heic);
+}
+
 TEST_F(ConfigurationTest, WhatALookupBroughtAlongGoesWithTheCodeOrTheNameAndWhenTheNextFindsNobody) {
     auto& request = network.requests.getCustomerDataFromTevoCode;
     struct Case {

@@ -39,6 +39,48 @@ TEST_F(MenuTest, EachOptionalStepHangsOnItsSwitchAlone) {
     }
 }
 
+TEST_F(MenuTest, EntriesCountWhatIsMissingAndASentenceLeadsToWhereItIsMended) {
+    Menu menu(services);
+    menu.buttonPushedAction(Menu::Send);
+    auto* send = qobject_cast<BrochureSendViewController*>(menu.activeViewController());
+    const auto mark = [&menu](int button) {
+        for (const QVariant& entry : menu.menuButtons()) {
+            if (entry.toMap()["id"] == button)
+                return entry.toMap()["done"].toBool() ? std::string("done")
+                                                      : entry.toMap()["badge"].toString().toStdString();
+        }
+        return std::string("no entry");
+    };
+    EXPECT_EQ(mark(Menu::Configuration), "5") << "four of the bar and the languages";
+    completeDraft();
+    send->finishSupportComment("!"); // an edit counts anew
+    ASSERT_TRUE(waitFor([&] { return mark(Menu::Configuration) == "done"; }));
+    EXPECT_EQ(mark(Menu::Products) + mark(Menu::Style), "donedone");
+    EXPECT_EQ(mark(Menu::Send) + mark(Menu::Reset), "00") << "no rule looks at them";
+    draft().customerInformation->name.clear();
+    draft().customerInformation->email.reset();
+    draft().selectedStyleIdentifier.reset();
+    send->finishSupportComment("?");
+    ASSERT_TRUE(waitFor([&] { return mark(Menu::Configuration) == "2"; }));
+    EXPECT_EQ(mark(Menu::Style), "1");
+
+    std::vector<std::string> fields;
+    QObject::connect(&menu, &Menu::fieldRequested,
+                     [&fields](const QString& name) { fields.push_back(name.toStdString()); });
+    send->sendOrderAction();
+    press("Aceptar");
+    ASSERT_EQ(send->missing().size(), 3);
+    send->goToMissing(1); // "El email es obligatorio."
+    EXPECT_NE(configuration(menu), nullptr);
+    menu.buttonPushedAction(Menu::Send);
+    send = qobject_cast<BrochureSendViewController*>(menu.activeViewController());
+    send->sendOrderAction();
+    press("Aceptar");
+    send->goToMissing(2);
+    EXPECT_EQ(menu.selectedButton(), Menu::Style);
+    EXPECT_EQ(fields, (std::vector<std::string>{"contactEmailTextField", ""}));
+}
+
 TEST_F(MenuTest, TheTwoStyleEntriesTellTheStepWhichStyleItEdits) {
     Menu menu(services);
     menu.buttonPushedAction(Menu::DigitalStyle);

@@ -200,6 +200,26 @@ TEST_F(NewBrand, RefusesANameThatDiffersOnlyInAccentsOrCaseFromABrandOnShow) {
     EXPECT_FALSE(step->isFormAddNewBrandVisible());
 }
 
+TEST_F(NewBrand, MeetsTheLimitOfTheListFormToo) {
+    builder.parameters(BrochureType::beer).withMenuFormat = true;
+    builder.parameters(BrochureType::beer).maxBrandSelection = 9;
+    builder.parameters(BrochureType::beer).maxBrandListSelection = 1;
+    open(BrochureType::beer);
+    draft().selectedFormatVisualizeId = 2;
+    appear();
+    EXPECT_EQ(step->maximumBrandsSelectedLabel(), "1") << "as the check of the order counts";
+    step->toggleFormat(0, 110);
+    step->addNewBrandBtn();
+    fill("Cierva");
+    step->createNewBrandBtn();
+    EXPECT_EQ(alert(), "Atención | Ya has seleccionado el máximo de marcas. Quita una para añadir Cierva.");
+    alerts.answerButton(0);
+    EXPECT_EQ(step->formAddNewBrandView()->property("name").toString(), "Cierva") << "what was typed stays";
+    step->toggleFormat(0, 110);
+    step->createNewBrandBtn();
+    EXPECT_EQ(step->currentNumberOfSelections(), 1);
+}
+
 TEST_F(NewBrand, EntersTheCatalogueTheListAndTheDraftWithItsFormatsSelected) {
     for (const char* name : {"Cierva", "Corza"}) {
         fill(name);

@@ -115,6 +115,7 @@ TEST_F(SendTest, ButtonsFollowTheKind) {
         EXPECT_EQ(step->makeOrderButtonTitle().toStdString(), each.title);
         EXPECT_EQ(step->isPrintedKavorButtonVisible(), each.kavor);
         EXPECT_EQ(step->isPrintedMyselfVisible(), each.myself);
+        EXPECT_NE(step->buidOrderWithoutPrintedTitle(), step->makeOrderButtonTitle());
         step->printedKavorAction();
         EXPECT_EQ(alert(), std::string("Información | ") + each.help);
         press("Aceptar");
@@ -159,10 +160,14 @@ TEST_F(SendTest, AnUnchangedOrderWaitsInTheOutboxOnceHoweverOftenItIsTapped) {
     BrochureIntermediateData::replaceTemporalBrochure();
     ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
     open();
+    const auto saysThatItWaits = [&] { return step->waitingText().contains(QStringLiteral("«Sin enviar»")); };
+    EXPECT_TRUE(waitFor(saysThatItWaits));
     EXPECT_EQ(tap(), waits);
     EXPECT_EQ(files(), 1U);
 
     draft().setPrice(PriceType::main, knownFormat, knownBrand, 3);
+    open();
+    EXPECT_TRUE(waitFor(saysThatItWaits)) << "it waits as it was ordered";
     EXPECT_NE(tap(), waits);
     EXPECT_EQ(files(), 2U);
     // A file that the user erased waits no longer.
@@ -283,9 +288,19 @@ TEST_F(SendTest, AnOutboxFileIsTheOrderThatMayBeAtTheServerAndElseOneOfItsOwn) {
     EXPECT_EQ(queue("Sin enviar(1)", &BrochureSendViewController::sendOrderMyselfAction), myself);
 }
 
-TEST_F(SendTest, TheCommentForSupportGoesToTheDraftWhenItsFieldIsLeft) {
+TEST_F(SendTest, TheCommentForSupportOutlivesTheProcessWithTheMenuAndWithItsFile) {
+    completeDraft();
     open().finishSupportComment("con cuidado");
+    TemporalBrochure::shared().flush();
+    BrochureIntermediateData::replaceTemporalBrochure();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
     EXPECT_EQ(draft().supportComment, "con cuidado");
+    open();
+    saveAs("con nota");
+    ASSERT_TRUE(waitFor([&] { return network.requests.saveOrder.waiting() == 1; }));
+    const auto kept = orders.retrieve<KeptOrder>("con nota.zvo", Directory::draft);
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->supportComment, "con cuidado");
 }
 
 TEST_F(SendTest, ADocumentOnTheDeviceIsShownFromThere) {

@@ -21,6 +21,17 @@ QString labelOf(std::optional<Int> limit) {
     return limit ? fromUtf8(AppFormatter::shared().integerFormatter(*limit)) : QString();
 }
 
+// What the draft's check answers where the kind has no limit.
+constexpr Int noLimit = std::numeric_limits<Int>::min();
+
+QString fullText(const QString& brand) {
+    return QStringLiteral("Ya has seleccionado el máximo de marcas. Quita una para añadir %1.").arg(brand);
+}
+
+std::optional<Int> limitOf(Int limit) {
+    return limit == noLimit ? std::nullopt : std::optional(limit);
+}
+
 } // namespace
 
 BrochureProductListViewController::BrochureProductListViewController(const WizardStepContext& context,
@@ -54,8 +65,8 @@ void BrochureProductListViewController::readBrochureType() {
     const Brochures::Type::Parameters& parameters = context_.parameters();
     family_ = type->applicationFather;
     isChalkboard_ = type->id == BrochureType::chalkboard;
-    minimum_ = parameters.minBrandSelection;
-    maximum_ = parameters.maxBrandSelection;
+    minimum_ = limitOf(context_.draft->minimumBrands(noLimit));
+    maximum_ = limitOf(context_.draft->maximumBrands(noLimit));
     newBrandVisible_ = parameters.showProductSecondary;
     information_ = informationText(*type);
 }
@@ -115,11 +126,11 @@ void BrochureProductListViewController::brandFilterDidChange() {
     brands_.setFilter(filter_->brandFilter());
 }
 
-bool BrochureProductListViewController::mayAddBrand(Int brand) const {
+bool BrochureProductListViewController::mayAddBrand(std::optional<Int> brand) const {
     // A chalkboard has no such limit: its format names the numbers that the draft's check allows.
-    if (isChalkboard_ || context_.draft->selectedBrands.contains(brand))
+    if (isChalkboard_ || (brand && context_.draft->selectedBrands.contains(*brand)))
         return true;
-    return currentNumberOfSelections_ < context_.draft->maximumBrands(std::numeric_limits<Int>::max());
+    return !maximum_ || currentNumberOfSelections_ < *maximum_;
 }
 
 void BrochureProductListViewController::setRefusal(const QString& text) {
@@ -135,8 +146,7 @@ void BrochureProductListViewController::toggleFormat(int row, qint64 format) {
         return;
     const bool on = context_.draft->isFormatSelected(format, brand->id) == SelectionState::notSelected;
     if (on && !mayAddBrand(brand->id)) {
-        setRefusal(QStringLiteral("Ya has seleccionado el máximo de marcas. Quita una para añadir %1.")
-                       .arg(fromUtf8(brand->name)));
+        setRefusal(fullText(fromUtf8(brand->name)));
         return;
     }
     setRefusal({});
@@ -175,6 +185,10 @@ void BrochureProductListViewController::createNewBrandBtn() {
     if (brands_.hasVisibleName(text::sanitised(form_->name()))) {
         context_.services.alerts.inform(attention, QStringLiteral("Este producto ya está añadido a la Carta"),
                                         this);
+        return;
+    }
+    if (!mayAddBrand({})) { // the form stays, with all that was typed
+        context_.services.alerts.inform(attention, fullText(fromUtf8(form_->name())), this);
         return;
     }
     addBrand();

@@ -92,7 +92,7 @@ private:
     [[nodiscard]] QString informationText(const Brochures::Type& type) const;
     void readCustomer();
     void runCounter();
-    [[nodiscard]] bool mayAddBrand(Int brand) const;
+    [[nodiscard]] bool mayAddBrand(std::optional<Int> brand) const;
     void setRefusal(const QString& text);
     void addBrand();
 

@@ -43,6 +43,16 @@ FocusScope {
             SectionTitle { width: parent.width; text: "Pedido realizado"; icon: "circle-check" }
         }
         Card {
+            objectName: "waitingCard"
+            Layout.fillWidth: true
+            Layout.columnSpan: page.columns
+            visible: view.controller.waitingText !== ""
+            ground: Theme.amberTint
+
+            SectionTitle { width: parent.width; text: "Pendiente de enviar"; icon: "clock" }
+            HelpText { width: parent.width; text: view.controller.waitingText; color: Theme.ink }
+        }
+        Card {
             objectName: "missingCard"
             Layout.fillWidth: true
             Layout.columnSpan: page.columns
@@ -55,7 +65,29 @@ FocusScope {
                 detail: view.controller.missing.length === 1 ? "1 aviso" : view.controller.missing.length + " avisos"
                 icon: "warning"
             }
-            SendSummaryText { width: parent.width; text: view.controller.missingText; warning: true }
+            Column {
+                width: parent.width
+
+                Repeater {
+                    model: view.controller.missing
+
+                    ListRow {
+                        required property int index
+                        required property string modelData
+
+                        objectName: "missing" + index
+                        width: parent.width
+                        leftPadding: 0
+                        rightPadding: 0
+                        separator: index + 1 < view.controller.missing.length
+                        text: modelData
+                        icon: "warning"
+                        iconColour: Theme.danger
+                        chevron: true
+                        onClicked: view.controller.goToMissing(index)
+                    }
+                }
+            }
         }
 
         SendPictures {
@@ -107,7 +139,7 @@ FocusScope {
             objectName: "freeTextForSupport"
             Layout.fillWidth: true
             Layout.columnSpan: page.columns
-            label: "Comentario para soporte"
+            label: "Comentario para soporte (se queda en este dispositivo)"
             placeholder: "Lo que deba saber quien prepare el pedido"
             text: view.controller.freeTextForSupport
             onFinished: (typed) => view.controller.finishSupportComment(typed)

@@ -17,6 +17,8 @@ BrochureSendViewController::BrochureSendViewController(const WizardStepContext& 
     , road_(context_.services, context_.draft) {
     connect(&road_, &OrderRoad::checked, this, &BrochureSendViewController::setMissing);
     connect(&road_, &OrderRoad::documentReady, this, &WizardStepViewController::previewRequested);
+    connect(&road_, &OrderRoad::waitingInOutbox, this, &BrochureSendViewController::setWaiting);
+    connect(&road_, &OrderRoad::orderSent, this, [this] { setWaiting({}); });
     connect(&road_, &OrderRoad::orderSent, this, &BrochureSendViewController::buttonsChanged);
     connect(&road_, &OrderRoad::anotherOrderBegun, this, &BrochureSendViewController::viewWillAppear);
 }
@@ -38,6 +40,7 @@ void BrochureSendViewController::viewWillAppear() {
         }
     }
     summary_ = BrochureSendSummary::of(*context_.draft, *context_.catalogue);
+    road_.lookIntoOutbox();
     emit summaryChanged();
     emit freeTextForSupportChanged();
     emit buttonsChanged();
@@ -89,6 +92,7 @@ void BrochureSendViewController::finishSupportComment(const QString& comment) {
     if (comment == freeTextForSupport())
         return;
     context_.draft->supportComment = comment.toStdString();
+    autosave(context_.draft);
     emit freeTextForSupportChanged();
 }
 
@@ -103,7 +107,33 @@ void BrochureSendViewController::setMissing(const QStringList& sentences) {
     if (missing_ == sentences)
         return;
     missing_ = sentences;
+    missingMessages_ =
+        sentences.isEmpty() ? std::vector<ValidationMessage>() : context_.draft->validationMessages();
     emit missingChanged();
+}
+
+void BrochureSendViewController::setWaiting(const QString& name) {
+    if (waiting_ == name)
+        return;
+    waiting_ = name;
+    emit waitingChanged();
+}
+
+// Changed and ordered anew, it is an order of its own: the user decides with this in sight.
+QString BrochureSendViewController::waitingText() const {
+    if (waiting_.isEmpty())
+        return {};
+    const QString where =
+        QStringLiteral("Este pedido espera en la bandeja de salida como «%1». ").arg(waiting_);
+    return where + (context_.draft->outboxFile
+                        ? QStringLiteral("Si lo pides ahora, se envía con los cambios y deja de esperar.")
+                        : QStringLiteral("Envíalo desde Pedidos cuando haya red. Si lo cambias y lo pides "
+                                         "otra vez, serán dos pedidos."));
+}
+
+void BrochureSendViewController::goToMissing(int index) {
+    if (index >= 0 && index < int(missingMessages_.size()))
+        emit missingPlaceRequested(missingMessages_[std::size_t(index)].place);
 }
 
 QString BrochureSendViewController::brochureWord() const {
@@ -193,6 +223,12 @@ QString BrochureSendViewController::makeOrderButtonTitle() const {
         return QStringLiteral("Realizar pedido");
     return context_.kind == BrochureType::encarte ? QStringLiteral("Realizar pedido sin impresión")
                                                   : QStringLiteral("Realizar pedido con impresión");
+}
+
+// An encarte's main button bears the other text already.
+QString BrochureSendViewController::buidOrderWithoutPrintedTitle() const {
+    return context_.kind == BrochureType::encarte ? QStringLiteral("Lo imprimo yo")
+                                                  : QStringLiteral("Realizar pedido sin impresión");
 }
 
 bool BrochureSendViewController::isOrderSent() const {

@@ -50,12 +50,14 @@ class BrochureSendViewController : public kavor::WizardStepViewController {
     Q_PROPERTY(QString freeTextForSupport READ freeTextForSupport NOTIFY freeTextForSupportChanged)
     // The sentences of the last check, empty after one that passed.
     Q_PROPERTY(QStringList missing READ missing NOTIFY missingChanged)
-    Q_PROPERTY(QString missingText READ missingText NOTIFY missingChanged)
+    // Says that an order of this draft waits in the outbox; empty when none does.
+    Q_PROPERTY(QString waitingText READ waitingText NOTIFY waitingChanged)
 
     Q_PROPERTY(QString makeOrderButtonTitle READ makeOrderButtonTitle NOTIFY buttonsChanged)
     Q_PROPERTY(bool printedKavorButtonVisible READ isPrintedKavorButtonVisible NOTIFY buttonsChanged)
     Q_PROPERTY(bool printedMyselfButtonVisible READ isPrintedMyselfVisible NOTIFY buttonsChanged)
     Q_PROPERTY(bool buidOrderWithoutPrintedVisible READ isPrintedMyselfVisible NOTIFY buttonsChanged)
+    Q_PROPERTY(QString buidOrderWithoutPrintedTitle READ buidOrderWithoutPrintedTitle CONSTANT)
     Q_PROPERTY(bool orderSent READ isOrderSent NOTIFY buttonsChanged)
 
 public:
@@ -98,8 +100,11 @@ public:
     [[nodiscard]] QString logoLabel() const;
     [[nodiscard]] QString freeTextForSupport() const;
     [[nodiscard]] QStringList missing() const { return missing_; }
-    [[nodiscard]] QString missingText() const { return missing_.join(QLatin1Char('\n')); }
+    [[nodiscard]] QString waitingText() const;
+    // A tap on one of the sentences of what is missing.
+    Q_INVOKABLE void goToMissing(int index);
     [[nodiscard]] QString makeOrderButtonTitle() const;
+    [[nodiscard]] QString buidOrderWithoutPrintedTitle() const;
     [[nodiscard]] bool isPrintedKavorButtonVisible() const;
     [[nodiscard]] bool isPrintedMyselfVisible() const;
     // Whether the server has taken the order to print.
@@ -110,6 +115,7 @@ signals:
     void panelInfoOrderVisibleChanged();
     void freeTextForSupportChanged();
     void missingChanged();
+    void waitingChanged();
     void buttonsChanged();
     // The field being typed into hands over its text now.
     void editingShouldEnd();
@@ -117,13 +123,16 @@ signals:
 private:
     void sendOrder(bool printedMyself);
     void setPanelInfoOrderVisible(bool visible);
+    void setWaiting(const QString& name);
     void setMissing(const QStringList& sentences);
 
     const WizardStepContext context_;
     BrochureRoad road_;
     BrochureSendSummary summary_;
     std::vector<const Brochures::Logo*> styleLogosInfo_; // of the style, in its order
+    QString waiting_;                                    // the plain name of the file of the outbox
     QStringList missing_;
+    std::vector<ValidationMessage> missingMessages_; // with their places
     bool panelInfoOrderVisible_ = false;
 };
 

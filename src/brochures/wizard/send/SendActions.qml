@@ -52,7 +52,7 @@ Rectangle {
             Layout.preferredWidth: bar.wide ? 2 : 1
             Layout.columnSpan: bar.narrow ? 2 : 1
             visible: bar.controller.buidOrderWithoutPrintedVisible
-            text: "Realizar pedido sin impresión"
+            text: bar.controller.buidOrderWithoutPrintedTitle
             icon: "download"
             kind: "secondary"
             onClicked: bar.controller.sendOrderMyselfAction()
