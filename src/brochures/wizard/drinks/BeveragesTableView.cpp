@@ -58,6 +58,12 @@ std::vector<Beverage> selectedProducts(const Draft& draft, Int category) {
     return all;
 }
 
+void takePrices(BeverageRow& row, const Draft& draft) {
+    const auto info = draft.beverageInfo(row.category, *row.product, false, row.formatName);
+    row.price1 = info ? info->price1 : std::nullopt;
+    row.price2 = info ? info->price2 : std::nullopt;
+}
+
 // A row for each format of a product, or one without a price.
 void appendFormats(std::vector<BeverageRow>& rows, const Draft& draft, Int category,
                    const Beverage& product) {
@@ -71,10 +77,8 @@ void appendFormats(std::vector<BeverageRow>& rows, const Draft& draft, Int categ
         return;
     }
     for (const std::string& name : names->second) {
-        const auto info = draft.beverageInfo(category, product.identifier, false, name);
         row.formatName = name;
-        row.price1 = info ? info->price1 : std::nullopt;
-        row.price2 = info ? info->price2 : std::nullopt;
+        takePrices(row, draft);
         rows.push_back(row);
         row.beforeDistinct = false;
     }
@@ -102,6 +106,17 @@ void BeveragesTableView::reload(const Draft& draft) {
             appendFormats(rows, draft, category.identifier, product);
     }
     rows_.show(std::move(rows));
+}
+
+void BeveragesTableView::reloadPrices(const Draft& draft, Int product) {
+    for (int i = 0; i < count(); ++i) {
+        if (rows_.at(i)->product != product || !rows_.at(i)->formatName)
+            continue;
+        BeverageRow row = *rows_.at(i);
+        takePrices(row, draft);
+        rows_.set(i, std::move(row),
+                  {PriceTextRole, PriceEditRole, SecondPriceTextRole, SecondPriceEditRole});
+    }
 }
 
 int BeveragesTableView::products() const {

@@ -60,6 +60,8 @@ public:
 
     // Shows what the draft has, by position, the user's own behind the catalogue's.
     void reload(const BrochureIntermediateData& draft);
+    // The prices of one product, in all its categories.
+    void reloadPrices(const BrochureIntermediateData& draft, Int product);
     // Null outside the list.
     [[nodiscard]] const BeverageRow* beverageAt(int row) const { return rows_.at(row); }
     // The row of a product in a format; of its first row without one. -1 when there is none.

@@ -53,7 +53,7 @@ Item {
 
         x: Theme.spaceM
         y: Theme.spaceS
-        visible: cell.beforeDistinct
+        visible: cell.beforeDistinct || !cell.stacked
         width: cell.stacked || !cell.withFormat ? cell.inner : format.x - x - Theme.spaceS
         height: Math.max(Theme.touch, names.implicitHeight,
                          !cell.stacked && cell.withFormat ? prices.height : 0)
@@ -62,7 +62,7 @@ Item {
             id: names
 
             anchors.left: parent.left
-            anchors.right: actions.left
+            anchors.right: cell.beforeDistinct ? actions.left : parent.right
             anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
@@ -71,15 +71,15 @@ Item {
                 objectName: "beverageName" + cell.index
                 width: parent.width
                 text: cell.beverageName
-                color: Theme.ink
+                color: cell.beforeDistinct ? Theme.ink : Theme.mutedInk
                 elide: Text.ElideRight
                 font.family: Theme.fontFamily
                 font.pixelSize: Theme.fontLarge
-                font.weight: Font.Bold
+                font.weight: cell.beforeDistinct ? Font.Bold : Font.Normal
             }
             HelpText {
                 width: parent.width
-                text: cell.beverageDescription
+                text: cell.beforeDistinct ? cell.beverageDescription : ""
                 elide: Text.ElideRight
                 maximumLineCount: 2
             }
@@ -88,7 +88,8 @@ Item {
             id: actions
 
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.bottom: parent.bottom
+            visible: cell.beforeDistinct
 
             IconButton {
                 objectName: "productDescription" + cell.index

@@ -124,6 +124,7 @@ FocusScope {
         id: table
 
         anchors.top: caption.bottom
+        anchors.topMargin: Theme.spaceXS
         anchors.bottom: view.paged && view.keyboard === 0 ? bar.top : parent.bottom
         anchors.bottomMargin: view.keyboard
         x: view.margin

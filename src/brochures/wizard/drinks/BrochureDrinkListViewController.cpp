@@ -79,9 +79,8 @@ QString BrochureDrinkListViewController::notPrintedText() const {
 }
 
 QString BrochureDrinkListViewController::priceName(PriceType type, const QString& otherwise) const {
-    const auto& prices = context_.catalogue->brochures().prices;
-    const auto found = std::ranges::find(prices, type, &Brochures::Price::id);
-    return found == prices.end() ? otherwise : fromUtf8(found->name);
+    const Brochures::Price* price = context_.catalogue->price(type);
+    return price ? fromUtf8(price->name) : otherwise;
 }
 
 QString BrochureDrinkListViewController::firstPriceLabel() const {
@@ -479,9 +478,11 @@ void BrochureDrinkListViewController::setPrice(const BeverageRow& beverage, bool
     const bool readable = value || text.trimmed().isEmpty();
     if (!info || !readable || (second ? info->price2 : info->price1) == value)
         return;
-    if (context_.draft->setBeveragePrice(value, second, *beverage.formatName, *beverage.product,
-                                         beverage.category))
-        edited();
+    if (!context_.draft->setBeveragePrice(value, second, *beverage.formatName, *beverage.product,
+                                          beverage.category))
+        return;
+    autosave(context_.draft);
+    table_.reloadPrices(*context_.draft, *beverage.product);
 }
 
 } // namespace kavor

@@ -41,7 +41,9 @@ Flickable {
                 Chip {
                     objectName: "drinkCrumb" + step.index
                     anchors.verticalCenter: parent.verticalCenter
-                    text: step.modelData.text
+                    text: step.index === 0 && crumbs.controller.breadcrumb.length > 2 ? "" : step.modelData.text
+                    icon: step.index === 0 ? "list" : ""
+                    accessibleName: step.modelData.text
                     tappable: true
                     selected: step.modelData.page === crumbs.controller.page
                     onClicked: crumbs.controller.showPage(step.modelData.page)

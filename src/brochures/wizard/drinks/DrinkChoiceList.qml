@@ -92,6 +92,7 @@ FocusScope {
             target: choices.model
             function onChosenRowChanged(): void {
                 list.currentIndex = choices.model.chosenRow;
+                Qt.callLater(list.positionViewAtIndex, list.currentIndex, ListView.Contain); // qmllint disable
             }
         }
 
@@ -108,7 +109,7 @@ FocusScope {
             width: list.width
             implicitHeight: Math.max(Theme.touch, implicitContentHeight + topPadding + bottomPadding)
             leftPadding: Theme.spaceM
-            rightPadding: Theme.spaceS
+            rightPadding: Theme.spaceM
             topPadding: Theme.spaceXS
             bottomPadding: Theme.spaceXS
             activeFocusOnTab: false
