@@ -9,7 +9,7 @@ FocusScope {
 
     required property BrochureDrinkListViewController controller
     readonly property real margin: width < 600 ? Theme.spaceL : Theme.spaceXL
-    readonly property bool paged: width < 480
+    readonly property bool paged: width < 480 || height < 520
     readonly property real keyboard: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
     readonly property bool tableShown: !paged || controller.page === BrochureDrinkListViewController.Selected
     // A price being typed takes the room of the lists.
@@ -24,10 +24,10 @@ FocusScope {
     Binding { target: view.controller; property: "paged"; value: view.paged }
     Connections {
         target: view.controller
-        // The list that comes takes the keyboard's focus where the former one has gone.
+        // The list that comes takes the focus where the former one has gone.
         function onPageChanged(): void {
             if (view.paged)
-                view.forceActiveFocus();
+                [categories, products, formats][view.controller.page]?.takeFocus();
         }
     }
 
@@ -62,10 +62,13 @@ FocusScope {
         anchors.top: top.bottom
         x: view.margin
         width: parent.width - 2 * x
-        height: !view.listsShown ? 0 : view.paged ? bar.y - y - Theme.spaceM
+        height: !view.listsShown ? 0
+              : view.paged ? (view.keyboard > 0 ? view.height - view.keyboard : bar.y) - y - Theme.spaceM
               : Math.max(260, (view.height - y) * 0.46)
 
         DrinkChoiceList {
+            id: categories
+
             name: "drinkCategory"
             width: lists.columnWidth
             height: parent.height
@@ -79,6 +82,8 @@ FocusScope {
             onAdded: view.controller.addNewCategory()
         }
         DrinkChoiceList {
+            id: products
+
             name: "drinkProduct"
             x: view.paged ? 0 : lists.columnWidth + Theme.spaceM
             width: lists.columnWidth
@@ -93,6 +98,8 @@ FocusScope {
             onAdded: view.controller.addNewProduct()
         }
         DrinkChoiceList {
+            id: formats
+
             name: "drinkFormat"
             x: view.paged ? 0 : 2 * (lists.columnWidth + Theme.spaceM)
             width: lists.columnWidth

@@ -235,6 +235,11 @@ void BrochureDrinkListViewController::chooseProduct(int row) {
     setPage(Page::Formats);
 }
 
+void BrochureDrinkListViewController::tellRefusal() {
+    context_.services.alerts.inform(failed, QStringLiteral("El producto no ha podido ser seleccionado."),
+                                    this);
+}
+
 // A product that another category has brings no format beyond the limit: it shares those that it has.
 bool BrochureDrinkListViewController::addProduct(Beverage product, Int category) {
     const auto names = context_.draft->selectedProductFormat.find(product.identifier);
@@ -320,8 +325,10 @@ void BrochureDrinkListViewController::addNewProduct() {
 
 void BrochureDrinkListViewController::createProduct(const std::string& name, Int category) {
     const auto product = context_.draft->addBeverageProduct(name, category);
-    if (!product)
+    if (!product) {
+        tellRefusal();
         return;
+    }
     // As with a product of the catalogue that has no format, its price needs a place.
     context_.draft->setBeverageFormatSelected(true, "", *product, category);
     selectedProduct_ = context_.draft->beverageInfo(category, *product, false, std::nullopt);

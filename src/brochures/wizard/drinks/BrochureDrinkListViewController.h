@@ -127,6 +127,7 @@ private:
     void createProduct(const std::string& name, Int category);
     void createFormat(const std::string& name, Int category, Int product);
     [[nodiscard]] bool addProduct(DrinkStock::Beverage product, Int category);
+    void tellRefusal();
     // Refuses the format beyond the limit with its message.
     bool mayAddFormat(Int product);
     void addFormat(const std::string& name, Int category, Int product);

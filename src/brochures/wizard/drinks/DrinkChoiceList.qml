@@ -17,6 +17,12 @@ FocusScope {
     signal chosen(int row)
     signal added()
 
+    // The focus comes with the page, not by a key: the current row is not marked for it.
+    function takeFocus(): void {
+        list.marked = false;
+        list.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     objectName: name
 
     Item {
@@ -47,7 +53,6 @@ FocusScope {
         objectName: choices.name + "Search"
         anchors.top: head.bottom
         width: parent.width
-        focus: true
         placeholder: choices.searchText
         text: choices.model.filterText
         onEdited: (text) => choices.model.filterText = text
@@ -61,6 +66,8 @@ FocusScope {
     }
     ListView {
         id: list
+
+        property bool marked: true
 
         objectName: choices.name + "List"
         anchors.top: search.bottom
@@ -81,7 +88,10 @@ FocusScope {
         onActiveFocusChanged: {
             if (activeFocus && currentIndex < 0)
                 currentIndex = 0;
+            if (!activeFocus)
+                marked = true;
         }
+        Keys.onPressed: marked = true
 
         Accessible.role: Accessible.List
         Accessible.name: choices.title
@@ -129,7 +139,7 @@ FocusScope {
             onClicked: choices.chosen(index)
 
             FocusRing {
-                shown: list.activeFocus && entry.ListView.isCurrentItem
+                shown: list.activeFocus && list.marked && entry.ListView.isCurrentItem
                 anchors.margins: 2
                 corner: 8
             }
