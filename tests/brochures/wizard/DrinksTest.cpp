@@ -295,7 +295,6 @@ TEST_F(DrinkStep, ReopenedItShowsTheDrinksOfTheCatalogueAndOfTheUser) {
     EXPECT_EQ(texts(step->categoriesDataSource()), "Refrescos | Cafés | Zumos");
     choose("Zumos", "Piña");
     EXPECT_TRUE(step->selectedProduct());
-    const auto before = temporaryCopy();
     step->serializeAutoSave();
     step->serializeAutoSave();
     EXPECT_EQ(draft().makeOrder(OrderRequestType::sendToPrint, false).menu.otherDrinks.value(), sent);
