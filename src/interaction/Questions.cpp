@@ -1,5 +1,8 @@
 #include "interaction/Questions.h"
 
+#include "base/Text.h"
+#include "interaction/QtText.h"
+
 #include <utility>
 
 namespace kavor {
@@ -21,15 +24,27 @@ void ask(AlertPresenter& alerts, QObject* context, const QString& title, const Q
 
 void askForText(AlertPresenter& alerts, QObject* context, const QString& title, const QString& caption,
                 const QString& proposal, const QString& button, std::function<void(const QString&)> taken) {
+    askForText(alerts, context, {.title = title, .caption = caption, .proposal = proposal, .button = button},
+               std::move(taken));
+}
+
+void askForText(AlertPresenter& alerts, QObject* context, const TextQuestion& question,
+                std::function<void(const QString&)> taken) {
     AlertRequest request;
-    request.title = title;
-    request.buttons = {{button, AlertButton::Role::Normal},
+    request.title = question.title;
+    request.text = question.text;
+    request.buttons = {{question.button, AlertButton::Role::Normal},
                        {QStringLiteral("Cancelar"), AlertButton::Role::Cancel}};
-    request.textField = AlertTextField{caption, proposal, 0};
-    alerts.present(std::move(request), context, [taken = std::move(taken)](const AlertAnswer& answer) {
-        if (answer.button == 0 && !answer.text.isEmpty())
-            taken(answer.text);
-    });
+    request.textField = AlertTextField{question.caption, question.proposal, question.maximumLength};
+    const auto limited = [most = question.maximumLength](const QString& text) {
+        return most > 0 ? fromUtf8(text::firstCharacters(text.toStdString(), std::size_t(most))) : text;
+    };
+    alerts.present(
+        std::move(request), context,
+        [taken = std::move(taken), limited, emptyToo = question.emptyToo](const AlertAnswer& answer) {
+            if (answer.button == 0 && (emptyToo || !answer.text.isEmpty()))
+                taken(limited(answer.text));
+        });
 }
 
 void informOffline(AlertPresenter& alerts) {

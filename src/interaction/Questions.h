@@ -34,6 +34,21 @@ void ask(AlertPresenter& alerts, QObject* context, const QString& title, const Q
 void askForText(AlertPresenter& alerts, QObject* context, const QString& title, const QString& caption,
                 const QString& proposal, const QString& button, std::function<void(const QString&)> taken);
 
+// A line of text to ask for.
+struct TextQuestion {
+    QString title;
+    QString text = {};
+    QString caption;
+    QString proposal = {};
+    QString button;
+    int maximumLength = 0; // in user-perceived characters; 0 for no limit
+    bool emptyToo = false; // an empty line is an answer
+};
+
+// The same for a question with more to it; the line that taken hears is never longer than its limit.
+void askForText(AlertPresenter& alerts, QObject* context, const TextQuestion& question,
+                std::function<void(const QString&)> taken);
+
 // "No hay conexión a internet."
 void informOffline(AlertPresenter& alerts);
 

@@ -44,6 +44,7 @@ constexpr int productsEntry = 2;
 constexpr int pricesEntry = 3;
 constexpr int digitalStyleEntry = 4;
 constexpr int styleEntry = 5;
+constexpr int drinksEntry = 6;
 constexpr int sendEntry = 8;
 
 void must(bool good, const QString& what) {
@@ -557,6 +558,51 @@ void Tour::chooseBlackboard() {
     });
 }
 
+// A drink of the catalogue in two formats, and one of the user's own with a price.
+void Tour::chooseDrinks() {
+    openStep(drinksEntry);
+    touch_->type(QStringLiteral("drinkCategorySearch"), QStringLiteral("combi"));
+    touch_->tap(QStringLiteral("drinkCategory0"));
+    touch_->type(QStringLiteral("drinkProductSearch"), QStringLiteral("vermut"));
+    touch_->tap(QStringLiteral("drinkProduct0"));
+    touch_->tap(QStringLiteral("drinkFormat1"));
+    touch_->tap(QStringLiteral("drinkCategoryPlus"));
+    touch_->type(QStringLiteral("alertTextField"), QStringLiteral("Batidos de la casa"));
+    touch_->tap(QStringLiteral("alertButton0"));
+    touch_->awaitGone(QStringLiteral("alertTextField"));
+    touch_->tap(QStringLiteral("drinkProductPlus"));
+    touch_->type(QStringLiteral("alertTextField"), QStringLiteral("Batido de fresa"));
+    touch_->tap(QStringLiteral("alertButton0"));
+    touch_->awaitGone(QStringLiteral("alertTextField"));
+    touch_->type(QStringLiteral("beveragePrice4"), QStringLiteral("3,8"));
+    shot(QStringLiteral("bebidas"));
+    must(draft().selectedBeverages.size() == 2, QStringLiteral("two categories of drinks"));
+}
+
+// The order that reached the server carries the drinks with their formats and prices.
+void Tour::checkDrinks() {
+    const QJsonArray orders = QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array();
+    const auto isOfKind = [](const QJsonValue& order) {
+        const auto kind =
+            order.toObject()[QLatin1String("body")][QLatin1String("menu")][QLatin1String("order_type")];
+        return kind.toInt() == static_cast<int>(*AppSingleton::shared().brochureType());
+    };
+    const auto found = std::ranges::find_if(orders, isOfKind);
+    must(found != orders.end(), QStringLiteral("the order of the kind"));
+    const QJsonArray drinks =
+        (*found)
+            .toObject()[QLatin1String("body")][QLatin1String("menu")][QLatin1String("other_drinks")]
+            .toArray();
+    must(drinks.size() == 2, QStringLiteral("two categories of drinks at the server"));
+    const QJsonValue own = drinks[0][QLatin1String("other_products")][0];
+    must(own[QLatin1String("product_format_name")].toString() == QStringLiteral("Batido de fresa") &&
+             own[QLatin1String("sub_item_prices")][0][QLatin1String("price")].toDouble() == 3.8,
+         QStringLiteral("the drink of the user's own and its price"));
+    must(drinks[1][QLatin1String("other_products")][0][QLatin1String("sub_item_prices")].toArray().size() ==
+             2,
+         QStringLiteral("two formats of the catalogue's drink"));
+}
+
 // One order of a kind, with what the kind asks for at least.
 void Tour::orderKind(int applicationType) {
     openSection(applicationType);
@@ -578,6 +624,8 @@ void Tour::orderKind(int applicationType) {
     }
     openStep(productsEntry);
     selectBrands(type->applicationFather, std::max<std::size_t>(brands, 1), 1);
+    if (type->parameters->showOtherDrink)
+        chooseDrinks();
     openStep(pricesEntry);
     dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
     chooseStyle();
@@ -587,6 +635,8 @@ void Tour::orderKind(int applicationType) {
     if (application_->alerts().title() == QStringLiteral("¿Los precios son correctos?"))
         touch_->tap(QStringLiteral("alertButton1"));
     dismissAlert(QStringLiteral("Éxito"), QString());
+    if (type->parameters->showOtherDrink)
+        checkDrinks();
     touch_->tap(QStringLiteral("backButton"));
     touch_->await(QStringLiteral("welcomeView"));
 }

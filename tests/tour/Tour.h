@@ -79,6 +79,8 @@ private:
 
     void orderKind(int applicationType);
     void chooseBlackboard();
+    void chooseDrinks();
+    void checkDrinks();
     void chooseFirst(const QString& picker, int option = 0);
     void selectBrands(ApplicationFather family, std::size_t number, std::size_t step);
     void openSection(int applicationType);

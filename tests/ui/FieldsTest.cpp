@@ -1,4 +1,5 @@
 #include "UiScene.h"
+#include "ui/TextLimit.h"
 
 #include <gtest/gtest.h>
 
@@ -57,6 +58,36 @@ TEST(TextRow, HandsItsTextOverBeforeATappedButtonActs) {
     scene.type("Marisol");
     scene.click("send");
     EXPECT_EQ(scene.log(), QStringList({"finished Maris", "sent"}));
+}
+
+TEST(TextRow, CountsWhatTheUserSeesAsCharactersAgainstItsLimit) {
+    struct Case {
+        QString before;
+        QString text;
+        int cursor;
+        QString kept;
+    };
+    const QString flag = QStringLiteral("🇪🇸");
+    const QString accent = QString::fromUtf8("e\u0301");
+    const TextLimit limit;
+    for (const Case& each :
+         {Case{"ab", "abc", 3, "abc"}, Case{"abc", "abcd", 4, "abc"}, Case{"abc", "axbc", 2, "abc"},
+          Case{"a", "aXYZb", 4, "aXb"}, Case{flag + flag, flag + flag + flag, 12, flag + flag + flag},
+          Case{"ae" + flag, "a" + accent + flag, 3, "a" + accent + flag},
+          Case{"too long", "too lon", 7, "too lon"}, Case{"long", "xlong", 1, "long"}})
+        EXPECT_EQ(limit.typed(each.before, each.text, each.cursor, 3), each.kept) << each.text.toStdString();
+    EXPECT_EQ(limit.length(flag + accent), 2);
+
+    UiScene scene(R"(
+        Item { id: owner; objectName: "owner"; property string value: "abc" }
+        TextRow { objectName: "name"; x: 20; y: 20; width: 300; maximumLength: 3; text: owner.value }
+    )");
+    scene.click("name");
+    scene.key(Qt::Key_Home);
+    scene.type("x");
+    EXPECT_EQ(fieldText(scene, "name"), "abc");
+    scene.window()->findChild<QQuickItem*>("owner")->setProperty("value", "de");
+    EXPECT_EQ(fieldText(scene, "name"), "de") << "the owner still says what stands there";
 }
 
 TEST(QuantityField, AsksOnlyForValuesWithinItsLimits) {

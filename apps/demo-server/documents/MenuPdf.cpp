@@ -454,12 +454,31 @@ private:
         return "Otras bebidas";
     }
 
+    /// By position, what the user added behind what the catalogue has.
+    static std::vector<const Json*> inOrder(const Json& list, const char* name, const char* position) {
+        std::vector<const Json*> sorted;
+        for (const Json& each : list) {
+            sorted.push_back(&each);
+        }
+        std::ranges::stable_sort(sorted, {}, [&](const Json* each) {
+            return std::pair(each->contains(name), each->value(position, 0));
+        });
+        return sorted;
+    }
+
     void drawDrinks() {
-        for (const Json& category : menu_.value("other_drinks", Json::array())) {
+        const Json categories = menu_.value("other_drinks", Json::array());
+        for (const Json* category : inOrder(categories, "category_name", "category_position")) {
             need(110);
-            drawHeading(text(drinkCategoryName(category)));
-            for (const Json& element : category["other_products"]) {
-                drawDrink(element);
+            drawHeading(text(drinkCategoryName(*category)));
+            const std::string description = category->value("description", "");
+            if (!description.empty()) {
+                drawRemark(description);
+                y_ += 6;
+            }
+            for (const Json* element :
+                 inOrder((*category)["other_products"], "product_format_name", "product_format_position")) {
+                drawDrink(*element);
             }
             y_ += 10;
         }
@@ -491,11 +510,15 @@ private:
             y_ += 25;
         }
         if (!description.empty()) {
-            painter().setPen(mixed(colour(theme_.ink), colour(theme_.paper), 0.3));
-            drawFitted(painter(), QRectF(margin + 6, y_ - 3, page().width() * 0.6, 17),
-                       Qt::AlignLeft | Qt::AlignVCenter, text(description), face(Face::body, 13));
-            y_ += 17;
+            drawRemark(description);
         }
+    }
+
+    void drawRemark(const std::string& words) {
+        painter().setPen(mixed(colour(theme_.ink), colour(theme_.paper), 0.3));
+        drawFitted(painter(), QRectF(margin + 6, y_ - 3, page().width() * 0.6, 17),
+                   Qt::AlignLeft | Qt::AlignVCenter, text(words), face(Face::body, 13));
+        y_ += 17;
     }
 
     void drawPromotions() {

@@ -18,10 +18,11 @@ std::optional<Beverage> catalogueCategory(Int category) {
     return Beverage{drink->id, true, drink->name, drink->position, drink->description, {}, {}, {}};
 }
 
+// A record without a format is found under the empty name.
 const Brochures::Drink::Product* findIn(const Brochures::Drink& drink, Int product,
                                         const std::optional<std::string>& formatName) {
     const auto found = std::ranges::find_if(drink.products, [&](const Brochures::Drink::Product& each) {
-        return each.id == product && (!formatName || each.formatName == formatName);
+        return each.id == product && (!formatName || each.formatName.value_or("") == *formatName);
     });
     return found == drink.products.end() ? nullptr : &*found;
 }

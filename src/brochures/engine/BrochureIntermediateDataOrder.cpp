@@ -1,5 +1,6 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/DrinkKinds.h"
 #include "brochures/engine/EngineSession.h"
 
 namespace kavor {
@@ -134,7 +135,7 @@ DrinkCategory drinkCategoryOf(const Draft& draft, Int category, const std::set<I
 
 std::vector<DrinkCategory> otherDrinksOf(const Draft& draft, BrochureType kind, OrderRequestType save) {
     std::vector<DrinkCategory> result;
-    if (kind != BrochureType::beverage && kind != BrochureType::menu)
+    if (!printsDrinks(kind))
         return result;
     const auto& selected = draft.selectedBeverages;
     // The user's own first, from -1 down: loading numbers them anew in the order in which they stand.

@@ -2,6 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/Text.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/DrinkKinds.h"
 #include "brochures/engine/EngineSession.h"
 
 #include <algorithm>
@@ -216,7 +217,7 @@ void checkBrands(const Draft& draft, std::optional<BrochureType> kind, Messages&
         return;
     checkBrandCount(draft, *type, messages);
     checkFormatCounts(draft, *type, messages);
-    if (kind == BrochureType::beverage || kind == BrochureType::menu)
+    if (printsDrinks(*kind))
         checkDrinks(draft, messages);
 }
 

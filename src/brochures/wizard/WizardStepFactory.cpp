@@ -4,6 +4,7 @@
 #include "brochures/wizard/ComingSoonStep.h"
 #include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
+#include "brochures/wizard/drinks/BrochureDrinkListViewController.h"
 #include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
 #include "brochures/wizard/pennant/BrochureOrderPennantViewController.h"
 #include "brochures/wizard/pennantbrand/PennantBrandViewController.h"
@@ -32,7 +33,7 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::products:
         return new BrochureProductListViewController(context, parent);
     case wizard_step::drinks:
-        return comingSoon("La lista de bebidas", "drinks", parent);
+        return new BrochureDrinkListViewController(context, parent);
     case wizard_step::prices:
         return new BrochurePriceSetterViewController(context, parent);
     case wizard_step::orderSheet:

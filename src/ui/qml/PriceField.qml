@@ -128,6 +128,7 @@ FocusScope {
         Keys.onEscapePressed: {
             text = before = price.editText;
             selectAll();
+            price.edited(text);
         }
         // Enter goes on to the next field, as one types a column of prices.
         Keys.onReturnPressed: goOn()

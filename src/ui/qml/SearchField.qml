@@ -19,6 +19,7 @@ TextRow {
         colour: Theme.mutedInk
         text: "Borrar la búsqueda"
         activeFocusOnTab: false
+        focusPolicy: Qt.ClickFocus // or it would be a stop for Tab all the same
         onClicked: {
             search.text = "";
             search.edited("");

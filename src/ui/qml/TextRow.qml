@@ -3,7 +3,8 @@ import QtQuick.Templates as T
 import Kavor.Ui
 
 // A labelled line of text. `edited` on each change by the user, `finished` when the field is left or Enter is
-// pressed. The counter appears near maximumLength; `error` stands under the field in red.
+// pressed. The counter appears near maximumLength, which counts what the user sees as characters; `error` stands
+// under the field in red.
 FocusScope {
     id: row
 
@@ -64,10 +65,12 @@ FocusScope {
             Text {
                 id: counter
 
+                readonly property int length: row.maximumLength > 0 ? TextLimit.length(field.text) : 0
+
                 anchors.right: parent.right
-                visible: row.maximumLength > 0 && field.length >= row.maximumLength * 0.7
-                text: field.length + "/" + row.maximumLength
-                color: field.length >= row.maximumLength ? Theme.dangerDark : Theme.mutedInk
+                visible: row.maximumLength > 0 && length >= row.maximumLength * 0.7
+                text: length + "/" + row.maximumLength
+                color: length >= row.maximumLength ? Theme.dangerDark : Theme.mutedInk
                 font.family: Theme.fontFamily
                 font.pixelSize: Theme.fontSmall
             }
@@ -75,6 +78,17 @@ FocusScope {
 
         T.TextField {
             id: field
+
+            property string shown: ""
+            property string before: "" // the text before the last change
+
+            // Drops what was just typed beyond the limit; a binding of the text stays.
+            function keepToLimit(): void {
+                const previous = shown !== text ? shown : before;
+                const wanted = TextLimit.typed(previous, text, cursorPosition, row.maximumLength);
+                if (wanted.length < text.length)
+                    remove(cursorPosition - (text.length - wanted.length), cursorPosition);
+            }
 
             width: parent.width
             height: Theme.touch + 2
@@ -89,7 +103,6 @@ FocusScope {
             selectByMouse: true
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontBody
-            maximumLength: row.maximumLength > 0 ? row.maximumLength : 32767
             echoMode: row.secret && !row.revealed ? TextInput.Password : TextInput.Normal
 
             Accessible.role: Accessible.EditableText
@@ -97,7 +110,15 @@ FocusScope {
             Accessible.description: row.error
             Accessible.passwordEdit: row.secret
 
-            onTextEdited: row.edited(text)
+            onTextChanged: {
+                before = shown;
+                shown = text;
+            }
+            onTextEdited: {
+                if (row.maximumLength > 0)
+                    keepToLimit();
+                row.edited(text);
+            }
             onAccepted: row.accepted()
             onEditingFinished: row.finished(text)
             onActiveFocusChanged: {
