@@ -7,7 +7,7 @@ import Kavor.Screens
 ListView {
     id: list
 
-    property list<int> shownColumns: [0]
+    property var shownColumns: [0] // their numbers, ascending
     property real roomBelow: 0 // what stands below the list, which the keyboard covers first
     property bool pinned: true // stands at its beginning, also when the window turns
     readonly property real keyboard: Math.max(0, (InputMethod.visible ? InputMethod.keyboardRectangle.height : 0) - roomBelow)

@@ -46,9 +46,9 @@ QString sortByText(std::vector<Row>& rows, int& status, std::string Row::*text) 
 // By a number; what is infinite or not a number stands last, up and down.
 template <class Row>
 QString sortByNumber(std::vector<Row>& rows, int& status, double Row::*number) {
-    const auto finite =
-        std::ranges::stable_partition(rows, [number](const Row& row) { return std::isfinite(row.*number); });
-    return sortUpTo(rows, finite.begin(), status, 2, number);
+    const auto finite = std::stable_partition(
+        rows.begin(), rows.end(), [number](const Row& row) { return std::isfinite(row.*number); });
+    return sortUpTo(rows, finite, status, 2, number);
 }
 
 } // namespace kavor::row_sorting

@@ -168,7 +168,7 @@ void BrochurePriceAssistantViewController::fillAreas() {
     areas_.clear();
     for (std::size_t area = 0; area < shownAreas(); ++area) {
         const Range range = rangeOf(area);
-        const QString menus = numbers[qsizetype(area)];
+        const QString& menus = numbers[qsizetype(area)];
         areas_.append(QVariantMap{
             {QStringLiteral("caption"), captions.value(qsizetype(area))},
             {QStringLiteral("menus"), menus.isEmpty() ? menus
