@@ -1,8 +1,21 @@
 # The view controllers and their QML views: one QML module, "Kavor.Screens".
-set(SCREEN_FOLDERS shell/screens account/screens orders/screens brochures/wizard brochures/wizard/configuration
-                   brochures/wizard/style brochures/wizard/products brochures/wizard/drinks brochures/wizard/prices
-                   brochures/wizard/ordersheet brochures/wizard/pennant brochures/wizard/pennantbrand
-                   brochures/wizard/send)
+set(SCREEN_FOLDERS
+    shell/screens
+    account/screens
+    orders/screens
+    brochures/wizard
+    brochures/wizard/configuration
+    brochures/wizard/style
+    brochures/wizard/products
+    brochures/wizard/drinks
+    brochures/wizard/prices
+    brochures/wizard/prices/profit
+    brochures/wizard/prices/recommendation
+    brochures/wizard/ordersheet
+    brochures/wizard/pennant
+    brochures/wizard/pennantbrand
+    brochures/wizard/send
+)
 kavor_sources(SCREENS ${SCREEN_FOLDERS})
 set(SCREEN_VIEWS)
 foreach(folder ${SCREEN_FOLDERS})

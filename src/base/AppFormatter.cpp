@@ -27,7 +27,10 @@ std::string formatted(const LocalizedNumberFormatter& formatter, Value value) {
     UErrorCode status = U_ZERO_ERROR;
     std::string result;
     if constexpr (std::is_same_v<Value, double>)
-        formatter.formatDouble(value, status).toString(status).toUTF8String(result);
+        formatter
+            .formatDouble(std::isnan(value) ? std::abs(value) : value, status) // no number, no sign
+            .toString(status)
+            .toUTF8String(result);
     else if constexpr (std::is_same_v<Value, std::int64_t>)
         formatter.formatInt(value, status).toString(status).toUTF8String(result);
     else

@@ -15,8 +15,10 @@ class PriceInput : public QObject {
 public:
     using QObject::QObject;
 
-    // What the field holds after a change of `before` into `text`, with the cursor behind what was typed.
-    [[nodiscard]] Q_INVOKABLE QString typed(const QString& before, const QString& text, int cursor) const;
+    // What the field holds after a change of `before` into `text`, with the cursor behind what was typed. A
+    // signed one may begin with a minus.
+    [[nodiscard]] Q_INVOKABLE QString typed(const QString& before, const QString& text, int cursor,
+                                            bool isSigned = false) const;
 };
 
 } // namespace kavor

@@ -46,6 +46,28 @@ TEST(DemoServer, LetsInOnlyWhoKnowsThePassword) {
     EXPECT_EQ(server.get("/demo/requests").text.find("malta2024"), std::string::npos);
 }
 
+TEST(DemoServer, FindsTheTownThatAnAddressNamesAndPricesAroundIt) {
+    RunningServer server;
+    server.login();
+    for (const char* direction : {"Calle Mayor 3, Soria", "Calle Mayor, 3, 42001", "42001, Soria"}) {
+        const auto found = server.form("/api/places", {{"direction", direction}}).json["addresses"];
+        EXPECT_EQ(found.front()["zip"], "42001") << direction;
+        EXPECT_EQ(found.front()["number"].is_null(), std::string(direction) == "42001, Soria") << direction;
+        EXPECT_TRUE(found.back()["zip"].is_null()) << "a province has none";
+    }
+    bool few = false;
+    for (const Brand& brand : catalogue().brands().first(12)) {
+        const auto answer =
+            server.form("/api/prices", {{"product_id", std::to_string(brand.formats.front().id)},
+                                        {"placePostalCode", "42001"},
+                                        {"placeLocality", "Soria"}});
+        EXPECT_EQ(answer.json["tabla"].size(), 5u);
+        EXPECT_EQ(answer.json["columnas"][1], "Soria");
+        few = few || answer.json["tabla"][0][0].is_null();
+    }
+    EXPECT_TRUE(few) << "somewhere there are too few menus to tell the least";
+}
+
 TEST(DemoServer, SlowsDownWhoGuessesPasswords) {
     RunningServer server;
     int status = 422;

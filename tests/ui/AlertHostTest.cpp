@@ -104,6 +104,26 @@ TEST_F(AlertHost, HandsOverTheTypedTextAndStartsTheNextAlertAfresh) {
     EXPECT_EQ(answers_.last().text, "Bar");
 }
 
+TEST_F(AlertHost, GoesOnWithATextOnlyWhereThereIsOne) {
+    AlertRequest address = question();
+    address.buttons = {{"Usar", Role::Normal}, {"Cancelar", Role::Cancel}};
+    address.textField = AlertTextField{"Dirección", "", 0};
+    show(address);
+    ASSERT_TRUE(UiScene::waitFor([this] { return scene_.focusName() == "alertTextField"; }));
+    EXPECT_EQ(scene_.value("alertButton0", "enabled"), false);
+    scene_.type(" ");
+    scene_.key(Qt::Key_Return);
+    EXPECT_TRUE(answers_.isEmpty());
+    scene_.type("Calle Mayor");
+    EXPECT_EQ(scene_.value("alertButton0", "enabled"), true);
+    scene_.key(Qt::Key_Return);
+    ASSERT_EQ(answers_.size(), 1);
+    EXPECT_EQ(answers_[0].text, " Calle Mayor");
+    show(address);
+    scene_.key(Qt::Key_Escape);
+    EXPECT_EQ(answers_.last().button, 1) << "the way out needs none";
+}
+
 TEST_F(AlertHost, AnswersAChoiceByTapAndByKeyboard) {
     AlertRequest choices = question();
     choices.choices = {"Uno", "Dos", "Tres"};

@@ -48,6 +48,27 @@ TEST(PriceField, EscapeGivesBackWhatStoodThereAndEnterGoesOn) {
     EXPECT_EQ(scene.log(), QStringList({"entered", "finished 2,5"}));
 }
 
+TEST(PriceField, TakesALeadingMinusOnlyWhereItIsSigned) {
+    UiScene scene(R"(
+        PriceField { objectName: "price"; x: 20; y: 20; width: 160 }
+        PriceField { objectName: "margin"; x: 20; y: 120; width: 160; signed: true }
+    )");
+    struct Case {
+        const char* typed;
+        const char* price;
+        const char* margin;
+    };
+    for (const Case& each :
+         {Case{"-3.5", "3,5", "-3,5"}, {"3-5%", "35", "35"}, {"-1,2,3", "1,23", "-1,23"}}) {
+        for (const char* field : {"price", "margin"}) {
+            scene.click(field);
+            scene.type(each.typed);
+            EXPECT_EQ(fieldText(scene, field), *field == 'p' ? each.price : each.margin) << each.typed;
+            scene.key(Qt::Key_Escape);
+        }
+    }
+}
+
 TEST(TextRow, HandsItsTextOverBeforeATappedButtonActs) {
     UiScene scene(R"(
         TextRow { objectName: "name"; x: 20; y: 20; width: 300; label: "Nombre"; maximumLength: 5

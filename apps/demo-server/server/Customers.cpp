@@ -148,6 +148,35 @@ Json optionalText(const std::string& text) {
     return text.empty() ? Json(nullptr) : Json(text);
 }
 
+// The town that an address names, by its postal code or its name; none where it names no town.
+const Town* townIn(const std::string& direction) {
+    const auto* found = std::ranges::find_if(towns, [&](const Town& town) {
+        return direction.find(town.postalCode) != std::string::npos ||
+               direction.find(town.name) != std::string::npos;
+    });
+    return found == towns.end() ? nullptr : &*found;
+}
+
+// What stands before the first comma or number: the street, unless it is a town.
+std::string streetIn(const std::string& direction) {
+    std::string street = direction.substr(0, direction.find_first_of(",0123456789"));
+    street.erase(street.find_last_not_of(' ') + 1);
+    return townIn(street) ? std::string() : street;
+}
+
+// The first number that is no postal code.
+std::string houseNumberIn(const std::string& direction) {
+    const char* const digits = "0123456789";
+    for (auto at = direction.find_first_of(digits); at != std::string::npos;) {
+        const auto end = std::min(direction.find_first_not_of(digits, at), direction.size());
+        if (end - at < 5) {
+            return direction.substr(at, end - at);
+        }
+        at = direction.find_first_of(digits, end);
+    }
+    return {};
+}
+
 } // namespace
 
 const std::vector<Bar>& bars() {
@@ -218,36 +247,44 @@ Json addressesFor(const std::string& direction) {
     if (direction.empty()) {
         return addresses;
     }
-    const auto digit =
-        std::ranges::find_if(direction, [](unsigned char letter) { return std::isdigit(letter); });
-    std::string number(digit, std::ranges::find_if_not(digit, direction.end(), [](unsigned char letter) {
-                           return std::isdigit(letter);
-                       }));
-    std::string street(direction.begin(), digit);
-    while (!street.empty() && (street.back() == ' ' || street.back() == ',')) {
-        street.pop_back();
-    }
+    const std::string number = houseNumberIn(direction);
+    const std::string street = streetIn(direction);
     Dice dice{markOf(direction)};
-    const int first = dice.below(int(towns.size()));
-    for (int i = 0; i < 3; ++i) {
-        const Town& town = towns[size_t(first + i * 5) % towns.size()];
+    const auto add = [&](const Town& town) {
         std::string address = street;
         address.append(number.empty() ? "" : " ").append(number);
-        address.append(", ").append(town.postalCode).append(" ").append(town.name);
+        address.append(address.empty() ? "" : ", ").append(town.postalCode).append(" ").append(town.name);
         address.append(", ").append(town.province);
-        Json record = {{"full_address", address},
-                       {"number", number.empty() ? Json(nullptr) : Json(number)},
-                       {"address", street},
-                       {"city", town.name},
-                       {"province", town.province},
-                       {"comunidad_autonoma", town.region},
-                       {"country_code", "ES"},
-                       {"country", "España"},
-                       {"zip", town.postalCode},
-                       {"latitude", std::to_string(town.latitude + dice.fraction() / 100)},
-                       {"longitude", std::to_string(town.longitude + dice.fraction() / 100)}};
-        addresses.push_back(std::move(record));
+        addresses.push_back({{"full_address", address},
+                             {"number", number.empty() ? Json(nullptr) : Json(number)},
+                             {"address", street},
+                             {"city", town.name},
+                             {"province", town.province},
+                             {"comunidad_autonoma", town.region},
+                             {"country_code", "ES"},
+                             {"country", "España"},
+                             {"zip", town.postalCode},
+                             {"latitude", std::to_string(town.latitude + dice.fraction() / 100)},
+                             {"longitude", std::to_string(town.longitude + dice.fraction() / 100)}});
+    };
+    const Town* named = townIn(direction);
+    if (named) {
+        add(*named);
     }
+    const int first = dice.below(int(towns.size()));
+    for (int i = 0; i < (named ? 1 : 3); ++i) {
+        add(towns[size_t(first + i * 5) % towns.size()]);
+    }
+    // A whole province: neither a postal code nor a town.
+    const Town& town = named ? *named : towns[size_t(first)];
+    addresses.push_back({{"full_address", "Provincia de " + std::string(town.province) + ", España"},
+                         {"province", town.province},
+                         {"comunidad_autonoma", town.region},
+                         {"country_code", "ES"},
+                         {"country", "España"},
+                         {"zip", nullptr},
+                         {"latitude", std::to_string(town.latitude)},
+                         {"longitude", std::to_string(town.longitude)}});
     return addresses;
 }
 

@@ -35,6 +35,11 @@ const Record* current(const std::optional<Int>& field, const Record* (Catalogue:
     return field ? (catalogue().*find)(*field) : nullptr;
 }
 
+// The number of an own brand is another brand's in the next order.
+bool isOfOwnBrand(const BrochureIntermediateData::NetPrices::value_type& brand) {
+    return brand.first < 0;
+}
+
 } // namespace
 
 BrochureIntermediateData::BrochureIntermediateData() {
@@ -44,6 +49,7 @@ BrochureIntermediateData::BrochureIntermediateData() {
     BackgroundFileWriter::shared().flush(folder / state_file::netPrices);
     if (auto stored = state_file::read<NetPrices>(folder, state_file::netPrices))
         netPrices = std::move(*stored);
+    std::erase_if(netPrices, isOfOwnBrand);
 }
 
 const std::shared_ptr<BrochureIntermediateData>& BrochureIntermediateData::temporalBrochure() {
@@ -61,7 +67,9 @@ void BrochureIntermediateData::storeNetPrices() const {
     const auto& folder = engine::documentsFolder();
     if (folder.empty())
         return;
-    const auto text = json::encode(netPrices);
+    NetPrices kept = netPrices;
+    std::erase_if(kept, isOfOwnBrand);
+    const auto text = json::encode(kept);
     if (!text) {
         logLine(std::string(state_file::netPrices) + ": " + text.error().text());
         return;

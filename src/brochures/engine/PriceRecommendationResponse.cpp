@@ -1,17 +1,3 @@
-#include "brochures/engine/PriceRecommendationResponse.h"
-
-#include "base/json/Table.h"
-
-namespace kavor::json {
-
-template <>
-struct Table<PriceRecommendationResponse> {
-    using R = PriceRecommendationResponse;
-    static constexpr auto fields = std::tuple{
-        required("tabla", &R::table), required("columnas", &R::columns), required("filas", &R::files),
-        optional("brand_name", &R::brandName), optional("product_name", &R::productName)};
-};
-
-} // namespace kavor::json
+#include "brochures/engine/PriceRecommendationTable.h"
 
 KAVOR_JSON_DOCUMENT(kavor::PriceRecommendationResponse)

@@ -1,21 +1,14 @@
 #pragma once
 
-#include "device/ReverseLocationManager.h"
-
-#include <QObject>
-
-#include <functional>
+#include "pointofsale/services/LocationFinder.h"
 
 namespace kavor {
 
-class AlertPresenter;
-class VeiledRun;
-
-// Finds where the device is, behind a veil, and asks the user whether the place is the one that is meant.
+// Finds where the device is and asks the user whether the place is the one that is meant.
 class LocationQuestion : public QObject {
     Q_OBJECT
 public:
-    using Taken = std::function<void(const Placemark&)>;
+    using Taken = LocationFinder::Found;
 
     // What it works with outlives it. A device without location has no manager.
     LocationQuestion(ReverseLocationManager* location, AlertPresenter& alerts, VeiledRun& wait,
@@ -25,13 +18,10 @@ public:
     void ask(const Taken& taken);
 
 private:
-    bool start(QObject* run, const Taken& taken);
-    void retry(const Taken& taken);
     void confirm(const Placemark& place, const Taken& taken);
 
-    ReverseLocationManager* location_;
     AlertPresenter& alerts_;
-    VeiledRun& wait_;
+    LocationFinder finder_;
 };
 
 } // namespace kavor

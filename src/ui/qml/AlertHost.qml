@@ -21,8 +21,14 @@ Item {
     readonly property bool stacked: dialog.width < 340 || buttons.length > 2
         || buttons.some((button) => button.text.length > 16)
 
+    // What goes on with the text needs one.
+    readonly property bool lacksText: shown && presenter.hasTextField && entry.text.trim() === ""
+
+    function isUsable(index: int): bool {
+        return index >= 0 && (!lacksText || buttons[index].role === "cancel");
+    }
     function answer(index: int): void {
-        if (shown && index >= 0)
+        if (shown && isUsable(index))
             presenter.answerButton(index, presenter.hasTextField ? entry.text : "");
     }
     // A new alert starts, once, with its own text and the focus where an answer is given.
@@ -211,6 +217,7 @@ Item {
                         objectName: "alertButton" + index
                         width: buttonGrid.cell
                         text: modelData.text
+                        enabled: host.isUsable(index)
                         kind: modelData.role === "destructive" ? "danger"
                             : modelData.role === "normal" && index === host.defaultIndex || host.buttons.length === 1
                               && host.choices.length === 0 ? "primary" : "secondary"

@@ -15,7 +15,9 @@ FocusScope {
     property string placeholder: "0,00 €"
     property string error: ""
     property bool readOnly: false
+    property string accessibleName: label !== "" ? label : "Precio"
     property bool emphasised: false
+    property bool signed: false // takes a leading minus
     property bool inColumn: false // Enter is the owner's
     property bool lastInColumn: false
     readonly property alias field: field
@@ -105,7 +107,7 @@ FocusScope {
         inputMethodHints: Qt.ImhFormattedNumbersOnly
 
         Accessible.role: Accessible.EditableText
-        Accessible.name: price.label !== "" ? price.label : "Precio"
+        Accessible.name: price.accessibleName
         Accessible.description: price.error
 
         onActiveFocusChanged: {
@@ -115,7 +117,7 @@ FocusScope {
                 end();
         }
         onTextEdited: {
-            const wanted = PriceInput.typed(before, text, cursorPosition);
+            const wanted = PriceInput.typed(before, text, cursorPosition, price.signed);
             if (wanted !== text) {
                 const fromEnd = text.length - cursorPosition;
                 text = wanted;
@@ -127,6 +129,7 @@ FocusScope {
         }
         Keys.onEscapePressed: {
             text = before = price.editText;
+            price.edited(text);
             selectAll();
             price.edited(text);
         }

@@ -400,7 +400,16 @@ TEST_F(SentOrderTest, TheNextOpeningAndTheResetStartAnew) {
     EXPECT_FALSE(draft().sent);
 }
 
+// Keeps silent about every place.
+class SilentGeocoder : public ReverseGeocoder {
+public:
+    void reverse(const Coordinate&, Callback) override {}
+};
+
 TEST_F(MenuTest, TheVeilOfARequestCanBeLeftAndItsAnswerFillsNothing) {
+    SilentGeocoder silent;
+    ReverseLocationManager waiting(locationService, silent);
+    services.location = &waiting;
     Menu menu(services);
     NotificationCenter::shared().post(notification::visibilityVeilView, {{"show", true}});
     EXPECT_FALSE(menu.isVeilLeavable()) << "a file that is being written is waited for";
@@ -418,12 +427,14 @@ TEST_F(MenuTest, TheVeilOfARequestCanBeLeftAndItsAnswerFillsNothing) {
     menu.buttonPushedAction(Menu::Products);
     EXPECT_EQ(draft().customerInformation->name, "Bar Olmo");
 
-    // A place of which nothing is known is never answered.
     menu.buttonPushedAction(Menu::Configuration);
     configuration(menu)->pointOfSale()->locateDeviceAndFillFields();
     EXPECT_TRUE(menu.isVeilLeavable());
+    waiting.onReverseHandler(std::nullopt, std::nullopt); // nothing is known of the place
+    EXPECT_FALSE(menu.isVeilVisible() || alerts.isVisible());
+    configuration(menu)->pointOfSale()->locateDeviceAndFillFields();
     menu.leaveVeil();
-    location.onReverseHandler(Placemark{"28001", "Madrid", "Madrid", {}}, std::nullopt);
+    waiting.onReverseHandler(Placemark{"28001", "Madrid", "Madrid", {}}, std::nullopt);
     EXPECT_FALSE(menu.isVeilVisible() || alerts.isVisible());
 }
 

@@ -101,6 +101,25 @@ TEST_F(PriceCells, APriceBeingTypedOutlivesItsCell) {
     EXPECT_EQ(price(1), 7);
 }
 
+TEST_F(PriceCells, BelowAnotherScreenTheTableKeepsItsOrderAndItsPlace) {
+    show(60);
+    alerts.answerButton(0);
+    auto* table = scene->item(QStringLiteral("priceTable"));
+    step->priceFieldDidEndEditing(100, QStringLiteral("9"));
+    step->orderByPrimaryPVPButton();
+    table->setProperty("contentY", 700.0);
+    const auto order = column(*step->table(), PriceTableModel::TypeRole);
+    std::unique_ptr<QObject> account;
+    QObject::connect(step.get(), &WizardStepViewController::screenRequested,
+                     [&account](const Screen& screen) { account.reset(screen.controller); });
+    step->showProfitAccount();
+    ASSERT_TRUE(account);
+    step->viewWillAppear();
+    EXPECT_EQ(column(*step->table(), PriceTableModel::TypeRole), order);
+    EXPECT_EQ(table->property("contentY").toDouble(), 700.0);
+    EXPECT_FALSE(alerts.isVisible()) << "nothing is said again";
+}
+
 TEST_F(PriceCells, WhatIsNoPriceKeepsTheOldOneAlsoInTheLastRow) {
     show(1);
     enter(primary(100));

@@ -11,65 +11,15 @@ FocusScope {
 
     objectName: "brochurePriceSetter"
 
-    ListView {
+    PriceTable {
         id: list
 
-        property bool pinned: true // stands at its beginning, also when the window turns
-        readonly property real keyboard: InputMethod.visible ? InputMethod.keyboardRectangle.height : 0
-        readonly property Item focused: Window.activeFocusItem
-
-        // The field being typed into stays above the keyboard, also when Enter goes on to the next one.
-        function keepInView(): void {
-            let inside = false;
-            for (let it = focused; it; it = it.parent)
-                inside = inside || it === contentItem;
-            if (!inside || moving)
-                return;
-            const top = focused.mapToItem(contentItem, 0, 0).y;
-            if (top - Theme.spaceXXL < contentY)
-                contentY = Math.max(originY, top - Theme.spaceXXL);
-            else if (top + focused.height + Theme.spaceL > contentY + height)
-                contentY = top + focused.height + Theme.spaceL - height;
-            pinned = atYBeginning;
-        }
-
-        // Enter in a price: on to the price below it, from the foot of the first column to the head of the
-        // second. The last price of all is taken and stays; the on-screen keyboard goes.
-        function goOn(row: int, secondary: bool, twoPrices: bool): void {
-            const foot = row + 1 === count;
-            if (foot)
-                priceAt(row, secondary).commit(); // the list may let go of its foot as it turns to its head
-            if (foot && (secondary || !twoPrices))
-                InputMethod.hide();
-            else
-                priceAt(foot ? 0 : row + 1, secondary || foot).forceActiveFocus(Qt.TabFocusReason);
-        }
-        // The price field of a row, whose cell is made where the list hasn't got it yet.
-        function priceAt(row: int, secondary: bool): PriceField {
-            if (!itemAtIndex(row)) {
-                positionViewAtIndex(row, ListView.Contain);
-                forceLayout();
-            }
-            return (itemAtIndex(row) as PriceSetterTableViewCell).priceField(secondary);
-        }
-
-        onFocusedChanged: keepInView()
-        onHeightChanged: Qt.callLater(keepInView) // qmllint disable
         objectName: "priceTable"
         x: view.margin
         width: parent.width - 2 * x
         height: parent.height - keyboard
         model: view.controller.table
-        cacheBuffer: 4000 // a field that is being typed into stays when it is scrolled away
-        boundsBehavior: Flickable.DragOverBounds
-        bottomMargin: Theme.spaceXL
-        onMovementEnded: pinned = atYBeginning
-        onOriginYChanged: {
-            if (pinned && !moving)
-                Qt.callLater(positionViewAtBeginning); // qmllint disable
-        }
-
-        FocusFollower { view: list }
+        shownColumns: view.controller.secondaryPriceVisible ? [0, 1] : [0]
 
         header: Item {
             width: list.width
@@ -138,7 +88,7 @@ FocusScope {
             height: implicitHeight
             controller: view.controller
             last: index + 1 === list.count
-            onPriceReturned: (secondary) => list.goOn(index, secondary, twoPrices)
+            onPriceReturned: (column) => list.goOn(index, column)
         }
     }
 

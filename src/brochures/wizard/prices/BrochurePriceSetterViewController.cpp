@@ -3,26 +3,31 @@
 #include "base/AppFormatter.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/StepSupport.h"
+#include "brochures/wizard/prices/profit/BrochureProfitAccountViewController.h"
+#include "brochures/wizard/prices/recommendation/BrochurePriceAssistantViewController.h"
 #include "interaction/AlertPresenter.h"
 #include "interaction/Questions.h"
 #include "resources/PDFCacheManager.h"
 #include "session/AppSingleton.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kavor {
 
 namespace {
 
 const QString attention = QStringLiteral("Atención");
-const QString toCome = QStringLiteral("Próximamente");
 
 } // namespace
 
 BrochurePriceSetterViewController::BrochurePriceSetterViewController(const WizardStepContext& context,
                                                                      QObject* parent)
     : WizardStepViewController(parent)
-    , context_(context) {
+    , context_(context)
+    , recommendationRoad_(context_) {
+    connect(&recommendationRoad_, &PriceRecommendationRoad::answered, this,
+            &BrochurePriceSetterViewController::showRecommendation);
     connect(&highlight_, &HighlightZone::highlightDidChange, this, [this] { autosave(context_.draft); });
 }
 
@@ -48,6 +53,9 @@ void BrochurePriceSetterViewController::viewDidLoad() {
 }
 
 void BrochurePriceSetterViewController::viewWillAppear() {
+    // What was over the prices has changed none of them: order and scroll stay, and nothing is said again.
+    if (std::exchange(covered_, false))
+        return;
     if (const auto second = context_.draft->currentSecondPrice(); second && isSecondaryPriceAllowed_)
         secondPriceType_ = second;
     rebuildRows();
@@ -205,14 +213,32 @@ void BrochurePriceSetterViewController::newProductButton(int row) {
     autosave(context_.draft);
 }
 
-void BrochurePriceSetterViewController::priceRecommendation(int) {
-    context_.services.alerts.inform(
-        toCome, QStringLiteral("La recomendación de precios todavía no está disponible."), this);
+void BrochurePriceSetterViewController::priceRecommendation(int row) {
+    const PriceRow* product = rowAt(row);
+    if (product && product->brandIdentifier >= 0) // the server knows nothing of a brand added by hand
+        recommendationRoad_.ask(product->productIdentifier);
+}
+
+void BrochurePriceSetterViewController::showRecommendation(const Recommendation& recommendation) {
+    const auto row = std::ranges::find(productsPerBrandsSelected_, recommendation.productIdentifier,
+                                       &PriceRow::productIdentifier);
+    auto* assistant = new BrochurePriceAssistantViewController(
+        recommendation, row == productsPerBrandsSelected_.end() ? 0 : row->mainPrice);
+    connect(assistant, &BrochurePriceAssistantViewController::placeChangeRequested, &recommendationRoad_,
+            &PriceRecommendationRoad::askElsewhere);
+    show({stepView(QStringLiteral("BrochurePriceAssistantView.qml")), assistant});
 }
 
 void BrochurePriceSetterViewController::showProfitAccount() {
-    context_.services.alerts.inform(
-        toCome, QStringLiteral("La cuenta de beneficios todavía no está disponible."), this);
+    if (covered_) // a second tap
+        return;
+    show({stepView(QStringLiteral("BrochureProfitAccountView.qml")),
+          new BrochureProfitAccountViewController(context_)});
+}
+
+void BrochurePriceSetterViewController::show(const Screen& screen) {
+    covered_ = true;
+    emit screenRequested(screen);
 }
 
 void BrochurePriceSetterViewController::deleteProductButton(int row) {

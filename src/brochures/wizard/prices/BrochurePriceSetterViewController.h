@@ -5,6 +5,7 @@
 #include "brochures/wizard/prices/PriceSorting.h"
 #include "brochures/wizard/prices/PriceTableModel.h"
 #include "brochures/wizard/prices/VolumeEditorViewController.h"
+#include "brochures/wizard/prices/recommendation/PriceRecommendationRoad.h"
 #include "catalogue/Catalogue.h"
 
 #include <memory>
@@ -118,9 +119,12 @@ private:
     void sort(PriceSorting::Button button);
     bool changeVolume(std::optional<Int> volume, const PriceRow& row);
     void deleteRow(const PriceRow& row);
+    void show(const Screen& screen);
+    void showRecommendation(const Recommendation& recommendation);
     [[nodiscard]] QString brochureWord() const;
 
     const WizardStepContext context_;
+    PriceRecommendationRoad recommendationRoad_; // the way of a row's recommendation button
     PriceTableModel table_;
     HighlightZone highlight_;
     PriceSorting sorting_;
@@ -129,6 +133,7 @@ private:
     std::optional<PriceType> secondPriceType_;
     std::optional<HashedResource> archivePrice_;
     bool isSecondaryPriceAllowed_ = false;
+    bool covered_ = false; // a screen is on show over the prices
     bool withoutPriceVisible_ = false;
     bool withoutPriceSwitch_ = false;
 };

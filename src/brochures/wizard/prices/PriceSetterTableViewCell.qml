@@ -4,11 +4,10 @@ import Kavor.Screens
 
 // A selected format: its prices, its volume, its "new" mark, and the way out of the menu. All in one row, the prices
 // beside the name, or (on a phone) everything below each other.
-Item {
+PriceCell {
     id: cell
 
     required property BrochurePriceSetterViewController controller
-    required property int index
     required property string productBrandNameLabel
     required property string productTypeLabel
     required property string productImage
@@ -24,20 +23,12 @@ Item {
     required property bool isNewProduct
     required property bool hasRecommendation
 
-    property bool last: false // the last row of the table
-
-    // Enter was pressed in a price: the table knows where its column goes on.
-    signal priceReturned(bool secondary)
-
     readonly property bool twoPrices: controller.secondaryPriceVisible
     readonly property bool wide: width >= (twoPrices ? 900 : 700)
     readonly property bool stacked: !wide && width < 560
     readonly property real inner: width - 2 * Theme.spaceM
 
-    function priceField(secondary: bool): PriceField {
-        return secondary ? secondaryPrice : primaryPrice;
-    }
-
+    fields: [primaryPrice, secondaryPrice]
     implicitHeight: card.height + Theme.spaceM
 
     Accessible.role: Accessible.ListItem
@@ -128,7 +119,7 @@ Item {
             displayText: cell.primaryText
             editText: cell.primaryEditText
             onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.primaryTag, text)
-            onReturned: cell.priceReturned(false)
+            onReturned: cell.priceReturned(0)
         }
         PriceField {
             id: secondaryPrice
@@ -142,7 +133,7 @@ Item {
             displayText: cell.secondaryText
             editText: cell.secondaryEditText
             onFinished: (text) => cell.controller.priceFieldDidEndEditing(cell.secondaryTag, text)
-            onReturned: cell.priceReturned(true)
+            onReturned: cell.priceReturned(1)
         }
     }
 

@@ -10,38 +10,34 @@ Flow {
 
     spacing: Theme.spaceS
 
-    Chip {
+    SortChip {
         objectName: "orderByBrandButton"
         text: "Marca"
         icon: bar.controller.orderByBrandPicture
-        tappable: true
-        accessibleName: "Ordenar por marca"
+        by: "marca"
         onClicked: bar.controller.orderByBrandButton()
     }
-    Chip {
+    SortChip {
         objectName: "orderByFormatButton"
         text: "Formato"
         icon: bar.controller.orderByFormatPicture
-        tappable: true
-        accessibleName: "Ordenar por formato"
+        by: "formato"
         onClicked: bar.controller.orderByFormatButton()
     }
-    Chip {
+    SortChip {
         objectName: "orderByPrimaryPVPButton"
         visible: bar.controller.primaryPriceVisible
         text: "PVP Rec"
         icon: bar.controller.orderByPrimaryPicture
-        tappable: true
-        accessibleName: "Ordenar por el precio principal"
+        by: "el precio principal"
         onClicked: bar.controller.orderByPrimaryPVPButton()
     }
-    Chip {
+    SortChip {
         objectName: "orderBySecondaryPVPButton"
         visible: bar.controller.orderBySecondaryVisible
         text: bar.controller.orderBySecondaryTitle
         icon: bar.controller.orderBySecondaryPicture
-        tappable: true
-        accessibleName: "Ordenar por el segundo precio"
+        by: "el segundo precio"
         onClicked: bar.controller.orderBySecondaryPVPButton()
     }
 }
