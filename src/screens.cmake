@@ -1,7 +1,8 @@
 # The view controllers and their QML views: one QML module, "Kavor.Screens".
 set(SCREEN_FOLDERS shell/screens account/screens orders/screens brochures/wizard brochures/wizard/configuration
                    brochures/wizard/style brochures/wizard/products brochures/wizard/prices
-                   brochures/wizard/ordersheet brochures/wizard/send)
+                   brochures/wizard/ordersheet brochures/wizard/send brochures/wizard/promotions
+                   promotions/screens)
 kavor_sources(SCREENS ${SCREEN_FOLDERS})
 set(SCREEN_VIEWS)
 foreach(folder ${SCREEN_FOLDERS})

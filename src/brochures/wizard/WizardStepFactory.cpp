@@ -7,6 +7,7 @@
 #include "brochures/wizard/ordersheet/BrochureOrderSheetViewController.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
+#include "brochures/wizard/promotions/BrochurePromotionViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
 #include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 
@@ -38,7 +39,7 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::send:
         return new BrochureSendViewController(context, parent);
     case wizard_step::promotions:
-        return comingSoon("La selección de promociones", "promotions", parent);
+        return new BrochurePromotionViewController(context, parent);
     case wizard_step::pennant:
         return comingSoon("La selección de banderines", "pennant", parent);
     case wizard_step::pennantBrand:
