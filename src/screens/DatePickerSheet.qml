@@ -99,7 +99,7 @@ StepSheet {
                 event.accepted = false;
         }
 
-        FocusRing { shown: month.activeFocus }
+        FocusRing { shown: month.activeFocus; anchors.margins: 1 }
         Grid {
             id: days
 

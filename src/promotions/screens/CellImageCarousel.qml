@@ -10,7 +10,8 @@ Tappable {
     required property string brand
     required property string detail
     required property string image
-    readonly property bool current: GridView.isCurrentItem && activeFocus
+    property bool ringed: true // shows that the keyboard is here
+    readonly property bool current: GridView.isCurrentItem && activeFocus && ringed
 
     objectName: "collectionViewCell" + index
     focus: GridView.isCurrentItem

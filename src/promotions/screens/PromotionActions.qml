@@ -60,7 +60,7 @@ Rectangle {
             AppButton {
                 objectName: "previewAction"
                 Layout.fillWidth: true
-                Layout.preferredWidth: 2
+                Layout.preferredWidth: 1
                 kind: "secondary"
                 icon: "preview"
                 text: "Vista previa"
@@ -69,7 +69,7 @@ Rectangle {
             AppButton {
                 objectName: "makeOrderButton"
                 Layout.fillWidth: true
-                Layout.preferredWidth: 3
+                Layout.preferredWidth: Theme.compact ? 1 : 1.5
                 icon: "print"
                 text: "Realizar pedido"
                 onClicked: bar.controller.sendOrderAction()

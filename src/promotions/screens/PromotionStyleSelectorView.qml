@@ -79,6 +79,8 @@ FocusScope {
     GridView {
         id: grid
 
+        property bool pointed: true  // by touch, or nobody has touched anything yet
+        property bool visited: false // the focus was here and left
         readonly property int columns: Math.max(2, Math.floor((width - leftMargin - rightMargin) / 190))
 
         objectName: "promotionGrid"
@@ -101,6 +103,15 @@ FocusScope {
 
         Accessible.role: Accessible.List
         Accessible.name: view.controller.titleLabel
+        Keys.onPressed: (event) => {
+            pointed = false;
+            event.accepted = false;
+        }
+        onActiveFocusChanged: {
+            if (activeFocus && visited)
+                pointed = false;
+            visited = visited || !activeFocus;
+        }
 
         ScrollMark { view: grid }
         Connections {
@@ -114,7 +125,9 @@ FocusScope {
         delegate: CellImageCarousel {
             width: grid.cellWidth
             height: grid.cellHeight
+            ringed: !grid.pointed
             onClicked: {
+                grid.pointed = true;
                 grid.currentIndex = index;
                 view.controller.choosePromotion(index);
             }

@@ -82,7 +82,7 @@ private:
     std::optional<MenuPromotionUse> use_;
     PromotionGalleryModel visiblePromotions_;
     PickerRows classifications_{QStringLiteral("Todos")};
-    PickerRows brands_{QStringLiteral("Todas las marcas")};
+    PickerRows brands_{QStringLiteral("Todas")};
     QVariantList brandList_;
     int classification_ = 0;
     int brand_ = 0;
