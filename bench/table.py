@@ -2,7 +2,7 @@
 """Turns the results of the benches into ratios: table.py FOLDER [--line].
 
 FOLDER holds catalogue.json, draft.json and filter.json (Google Benchmark's form), fresh.json (a list of runs of
-fresh_decode), start.json, orders.json and download.json. Exit status 1 when an aim is missed by more than is
+fresh_decode), start.json, orders.json, promotions.json and download.json. Exit status 1 when an aim is missed by more than is
 known of it, or a figure is not there.
 """
 import json
@@ -82,6 +82,11 @@ def order_list_rows(result):
         yield f'order list, 5,000 sent and 500 drafts, {what}: longest step, ms', result and result[key], '<=', 16
 
 
+def promotion_rows(result):
+    for key, what in (('opening_ms', 'opened'), ('filter_ms', 'worst change of a filter')):
+        yield f'promotion gallery, 5,000 promotions, {what}, ms', result and result[key], '<=', 16
+
+
 def start_rows(result):
     for window, below, sign in (('an empty window', 'empty_ms', '<='), ('a window with a word', 'word_ms', None)):
         yield FIRST_FRAME + window, result['client_ms'] / result[below] if result else None, sign, 1.5
@@ -98,7 +103,7 @@ def main():
     draft = milliseconds(load(folder, 'draft.json'))
     start = load(folder, 'start.json')
     rows = [*catalogue_rows(catalogue), *fresh_rows(load(folder, 'fresh.json')), *draft_rows(draft),
-            *filter_rows(load(folder, 'filter.json')), *order_list_rows(load(folder, 'orders.json')), *start_rows(start), *download_rows(load(folder, 'download.json'))]
+            *filter_rows(load(folder, 'filter.json')), *order_list_rows(load(folder, 'orders.json')), *promotion_rows(load(folder, 'promotions.json')), *start_rows(start), *download_rows(load(folder, 'download.json'))]
     # A row without an aim only informs; a short round has no figure for 100 MB.
     if '--line' in sys.argv:
         rows = [row for row in rows if row[1] is not None or '100 MB' not in row[0]]

@@ -96,8 +96,6 @@ QVariantList PromotionValidityForm::days() const {
 }
 
 QString PromotionValidityForm::daysText() const {
-    if (value_.days.empty())
-        return QStringLiteral("Ningún día");
     if (value_.days == std::vector<Int>{1, 2, 3, 4, 5})
         return QStringLiteral("Entre semana");
     if (value_.days == std::vector<Int>{6, 7})
@@ -109,6 +107,8 @@ QString PromotionValidityForm::daysText() const {
         if (day >= 1 && day <= weekDays)
             names << QString::fromUtf8(dayNames[std::size_t(day) - 1]);
     }
+    if (names.isEmpty())
+        return QStringLiteral("Ningún día");
     const QString last = names.takeLast();
     return names.isEmpty() ? last : names.join(QStringLiteral(", ")) + QStringLiteral(" y ") + last;
 }
