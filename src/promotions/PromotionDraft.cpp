@@ -69,6 +69,7 @@ std::vector<PromotionOrder::Support> supportsOf(const PromotionDraft& draft,
     }
     std::ranges::stable_sort(chosen, {}, &Support::position);
     std::vector<PromotionOrder::Support> supports;
+    supports.reserve(chosen.size());
     for (const Support& support : chosen)
         supports.push_back({support.id, *language});
     return supports;

@@ -59,7 +59,7 @@ PromotionGallery::PromotionGallery(std::shared_ptr<const Catalogue> catalogue, c
     , sorted_(byPosition(posters.promotions))
     , classifications_(byPosition(posters.classifications)) {}
 
-PromotionGallery PromotionGallery::ofSection(std::shared_ptr<const Catalogue> catalogue) {
+PromotionGallery PromotionGallery::ofSection(const std::shared_ptr<const Catalogue>& catalogue) {
     const auto& posters = catalogue->information().promotion;
     if (!posters)
         return {};
@@ -77,7 +77,7 @@ PromotionGallery PromotionGallery::ofSection(std::shared_ptr<const Catalogue> ca
     return gallery;
 }
 
-PromotionGallery PromotionGallery::ofMenu(std::shared_ptr<const Catalogue> catalogue,
+PromotionGallery PromotionGallery::ofMenu(const std::shared_ptr<const Catalogue>& catalogue,
                                           const MenuPromotionRequest& request) {
     const auto& brochures = catalogue->information().brochures;
     if (!brochures)

@@ -16,10 +16,10 @@ public:
     PromotionGallery() = default;
     // For orders on their own: every promotion by position, a picture for each of its languages, the default
     // one first.
-    static PromotionGallery ofSection(std::shared_ptr<const Catalogue> catalogue);
+    static PromotionGallery ofSection(const std::shared_ptr<const Catalogue>& catalogue);
     // For a menu: the promotions that an online menu shows and this one has not, one picture each, in the
     // menu's language where there is one. The promotion that is being edited is among them.
-    static PromotionGallery ofMenu(std::shared_ptr<const Catalogue> catalogue,
+    static PromotionGallery ofMenu(const std::shared_ptr<const Catalogue>& catalogue,
                                    const MenuPromotionRequest& request);
     // The promotion that a menu names, as it is edited; none when it left the catalogue.
     static std::optional<PromotionTuple> ofMenuPromotion(const Catalogue& catalogue, Int promotionId,

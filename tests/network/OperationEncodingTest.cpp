@@ -2,6 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
+#include "promotions/PromotionOrder.h"
 #include "session/LoginResult.h"
 
 #include <cmath>

@@ -24,6 +24,7 @@ EmailListModel::EmailListModel(QObject* parent)
 
 void EmailListModel::show(const std::vector<std::string>& emails) {
     std::vector<EmailRow> rows;
+    rows.reserve(emails.size());
     for (const std::string& email : emails)
         rows.push_back({++lastNumber_, fromUtf8(email)});
     if (rows.empty())

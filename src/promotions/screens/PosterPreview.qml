@@ -14,8 +14,7 @@ Item {
     implicitHeight: width * 4 / 3
 
     Accessible.role: Accessible.Graphic
-    Accessible.name: [controller.promotionName, controller.posterPhrase, controller.posterPrice,
-                      controller.posterHours].filter((text) => text !== "").join(". ")
+    Accessible.name: controller.posterText
 
     Rectangle {
         anchors.fill: parent
@@ -47,7 +46,8 @@ Item {
             anchors.fill: parent
             anchors.margins: poster.width * 0.025
             source: poster.controller.posterLogo
-            sourceSize: Qt.size(256, 256)
+            sourceSize.width: 256
+            sourceSize.height: 256
             fillMode: Image.PreserveAspectFit
             asynchronous: true
         }

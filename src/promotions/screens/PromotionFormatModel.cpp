@@ -22,6 +22,7 @@ void PromotionFormatModel::show(const Posters* posters, const PromotionTuple& pr
     std::vector<Posters::Promotion::Support> sorted(promotion.formatos.begin(), promotion.formatos.end());
     std::ranges::stable_sort(sorted, {}, &Posters::Promotion::Support::position);
     std::vector<PromotionFormatRow> rows;
+    rows.reserve(sorted.size());
     for (const auto& support : sorted)
         rows.push_back({support.id, fromUtf8(support.typeName), descriptionOf(posters, support.typeId),
                         std::ranges::find(on, support.id) != on.end()});

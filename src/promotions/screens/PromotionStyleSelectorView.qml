@@ -7,7 +7,7 @@ FocusScope {
     id: view
 
     required property PromotionStyleSelectorViewController controller
-    readonly property bool nothing: controller.emptyState.title !== undefined
+    readonly property bool nothing: controller.emptyTitle !== ""
 
     objectName: "promotionGallery"
     Keys.onEscapePressed: controller.closeSceneAction()
@@ -138,9 +138,9 @@ FocusScope {
         anchors.fill: grid
         visible: view.nothing
         icon: "poster"
-        title: view.controller.emptyState.title ?? ""
-        text: view.controller.emptyState.text ?? ""
-        actionText: view.controller.emptyState.action ?? ""
+        title: view.controller.emptyTitle
+        text: view.controller.emptyText
+        actionText: view.controller.emptyAction
         onTriggered: view.controller.removeFilters()
     }
 }

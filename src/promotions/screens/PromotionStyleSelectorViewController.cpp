@@ -11,12 +11,6 @@ namespace kavor {
 
 namespace {
 
-QVariantMap emptyOf(const char* title, const char* text, const char* action = "") {
-    return {{QStringLiteral("title"), QString::fromUtf8(title)},
-            {QStringLiteral("text"), QString::fromUtf8(text)},
-            {QStringLiteral("action"), QString::fromUtf8(action)}};
-}
-
 QVariantMap entryOf(const QString& source, const QString& text) {
     return {{QStringLiteral("source"), source}, {QStringLiteral("text"), text}};
 }
@@ -100,15 +94,19 @@ QString PromotionStyleSelectorViewController::countText() const {
     return (shown == all ? QString::number(all) : QStringLiteral("%1 de %2").arg(shown).arg(all)) + word;
 }
 
-QVariantMap PromotionStyleSelectorViewController::emptyState() const {
+PromotionStyleSelectorViewController::Emptiness PromotionStyleSelectorViewController::emptiness() const {
     if (visiblePromotions_.count() > 0)
         return {};
     if (!visiblePromotions_.gallery().unfilteredPromotions().empty())
-        return emptyOf("Ninguna promoción con estos filtros",
-                       "Prueba con otra clasificación o con otra marca.", "Quitar filtros");
+        return {QStringLiteral("Ninguna promoción con estos filtros"),
+                QStringLiteral("Prueba con otra clasificación o con otra marca."),
+                QStringLiteral("Quitar filtros")};
     if (use_ && !use_->request.promotionSelectIds.empty())
-        return emptyOf("No quedan promociones", "La carta ya tiene todas las que ofrece el catálogo.");
-    return emptyOf("No hay promociones", "El catálogo no tiene ninguna por ahora.");
+        return {QStringLiteral("No quedan promociones"),
+                QStringLiteral("La carta ya tiene todas las que ofrece el catálogo."),
+                {}};
+    return {
+        QStringLiteral("No hay promociones"), QStringLiteral("El catálogo no tiene ninguna por ahora."), {}};
 }
 
 bool PromotionStyleSelectorViewController::isOffline() const {

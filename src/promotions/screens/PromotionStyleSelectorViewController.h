@@ -7,7 +7,6 @@
 #include "screens/ScreenStack.h"
 
 #include <QVariantList>
-#include <QVariantMap>
 
 #include <memory>
 #include <optional>
@@ -31,8 +30,10 @@ class PromotionStyleSelectorViewController : public kavor::ScreenController {
     Q_PROPERTY(kavor::PromotionGalleryModel* visiblePromotions READ visiblePromotions CONSTANT)
     // "12 promociones", "3 de 12 promociones".
     Q_PROPERTY(QString countText READ countText NOTIFY filterChanged)
-    // Why there is nothing to see: {title, text, action}; action is a button's text or empty.
-    Q_PROPERTY(QVariantMap emptyState READ emptyState NOTIFY filterChanged)
+    // Why there is nothing to see, and the button that helps; empty where it is not to be said.
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY filterChanged)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY filterChanged)
+    Q_PROPERTY(QString emptyAction READ emptyAction NOTIFY filterChanged)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
 
 public:
@@ -64,7 +65,9 @@ public:
     [[nodiscard]] int brand() const { return brand_; }
     [[nodiscard]] PromotionGalleryModel* visiblePromotions() { return &visiblePromotions_; }
     [[nodiscard]] QString countText() const;
-    [[nodiscard]] QVariantMap emptyState() const;
+    [[nodiscard]] QString emptyTitle() const { return emptiness().title; }
+    [[nodiscard]] QString emptyText() const { return emptiness().text; }
+    [[nodiscard]] QString emptyAction() const { return emptiness().action; }
     [[nodiscard]] bool isOffline() const;
 
 signals:
@@ -74,6 +77,13 @@ signals:
     void screenRequested(const kavor::Screen& screen);
 
 private:
+    struct Emptiness {
+        QString title;
+        QString text;
+        QString action;
+    };
+
+    [[nodiscard]] Emptiness emptiness() const;
     void fillCarousels();
     void filter();
 

@@ -23,6 +23,7 @@ constexpr Int priceAttributeType = 3;
 
 std::vector<AttributeValue> rowsOf(const std::vector<PromotionDraft::AttributeValue>& attributes) {
     std::vector<AttributeValue> rows;
+    rows.reserve(attributes.size());
     for (const auto& each : attributes)
         rows.push_back({each.id, each.value, each.valueListId});
     return rows;
@@ -332,6 +333,12 @@ QString PromotionViewController::posterLogo() const {
         return isImageLogoVisible() ? logo_.imageLogo() : QString();
     const QStringList pictures = given(AttributeKind::logo);
     return pictures.isEmpty() ? QString() : dataImageUrl(pictures.first().toStdString());
+}
+
+QString PromotionViewController::posterText() const {
+    QStringList texts{promotionName(), posterPhrase(), posterPrice(), posterHours()};
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(". "));
 }
 
 QString PromotionViewController::sentText() const {

@@ -45,6 +45,8 @@ class PromotionViewController : public kavor::ScreenController {
     Q_PROPERTY(QString posterPrice READ posterPrice NOTIFY posterChanged)
     Q_PROPERTY(QString posterHours READ posterHours NOTIFY posterChanged)
     Q_PROPERTY(QString posterLogo READ posterLogo NOTIFY posterChanged)
+    // The same as one reads it out.
+    Q_PROPERTY(QString posterText READ posterText NOTIFY posterChanged)
     // Names the order that the server took; empty before.
     Q_PROPERTY(QString sentText READ sentText NOTIFY sentChanged)
     Q_PROPERTY(bool sentDocumentVisible READ isSentDocumentVisible NOTIFY sentChanged)
@@ -94,6 +96,7 @@ public:
     [[nodiscard]] QString posterPrice() const;
     [[nodiscard]] QString posterHours() const;
     [[nodiscard]] QString posterLogo() const;
+    [[nodiscard]] QString posterText() const;
     [[nodiscard]] QString sentText() const;
     [[nodiscard]] bool isSentDocumentVisible() const;
     [[nodiscard]] QString recoveredMessage() const { return recoveredMessage_; }

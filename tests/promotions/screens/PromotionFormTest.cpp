@@ -309,17 +309,16 @@ TEST_F(PromotionGalleryScreen, IsNarrowedByItsTwoCarouselsAndSaysWhenNothingIsLe
     EXPECT_EQ(names(gallery), std::vector<std::string>{"Mundial"});
     EXPECT_EQ(gallery.countText(), "1 de 4 promociones");
     gallery.carouselCurrentItemIndexDidChange(Carousel::Classifications, 1);
-    EXPECT_EQ(gallery.emptyState().value("action"), "Quitar filtros");
+    EXPECT_EQ(gallery.emptyAction(), "Quitar filtros");
     gallery.carouselCurrentItemIndexDidChange(Carousel::Classifications, 9);
     gallery.removeFilters();
     EXPECT_EQ(names(gallery).size(), 4U);
-    EXPECT_TRUE(gallery.emptyState().isEmpty());
+    EXPECT_TRUE(gallery.emptyTitle().isEmpty());
     session.actualSection = SectionIdentifier::promotion(PromotionType::carteleria);
     EXPECT_EQ(gallery.titleLabel(), "Cartelería promocional");
     builder.information.promotion.reset();
     session.applicationInformation = builder.take();
-    EXPECT_EQ(PromotionStyleSelectorViewController(services).emptyState().value("title"),
-              "No hay promociones");
+    EXPECT_EQ(PromotionStyleSelectorViewController(services).emptyTitle(), "No hay promociones");
 }
 
 TEST_F(PromotionGalleryScreen, OpensOneFormForADoubleTapAndClosesWithThePromotionThatItAttached) {
