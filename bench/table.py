@@ -2,8 +2,8 @@
 """Turns the results of the benches into ratios: table.py FOLDER [--line].
 
 FOLDER holds catalogue.json, draft.json and filter.json (Google Benchmark's form), fresh.json (a list of runs of
-fresh_decode), start.json, orders.json, drinks.json and download.json. Exit status 1 when an aim is missed by more
-than is known of it, or a figure is not there.
+fresh_decode), start.json, orders.json, drinks.json, promotions.json and download.json. Exit status 1 when an aim is missed
+by more than is known of it, or a figure is not there.
 """
 import json
 import pathlib
@@ -88,6 +88,11 @@ def drink_rows(result):
         yield f'1,000 drinks, {what}: ms', result and result[key], '<=', 16
 
 
+def promotion_rows(result):
+    for key, what in (('opening_ms', 'opened'), ('filter_ms', 'worst change of a filter')):
+        yield f'promotion gallery, 5,000 promotions, {what}, ms', result and result[key], '<=', 16
+
+
 def start_rows(result):
     for window, below, sign in (('an empty window', 'empty_ms', '<='), ('a window with a word', 'word_ms', None)):
         yield FIRST_FRAME + window, result['client_ms'] / result[below] if result else None, sign, 1.5
@@ -105,7 +110,8 @@ def main():
     start = load(folder, 'start.json')
     rows = [*catalogue_rows(catalogue), *fresh_rows(load(folder, 'fresh.json')), *draft_rows(draft),
             *filter_rows(load(folder, 'filter.json')), *order_list_rows(load(folder, 'orders.json')),
-            *drink_rows(load(folder, 'drinks.json')), *start_rows(start), *download_rows(load(folder, 'download.json'))]
+            *drink_rows(load(folder, 'drinks.json')), *promotion_rows(load(folder, 'promotions.json')), *start_rows(start),
+            *download_rows(load(folder, 'download.json'))]
     # A row without an aim only informs; a short round has no figure for 100 MB.
     if '--line' in sys.argv:
         rows = [row for row in rows if row[1] is not None or '100 MB' not in row[0]]

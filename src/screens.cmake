@@ -3,6 +3,7 @@ set(SCREEN_FOLDERS
     shell/screens
     account/screens
     orders/screens
+    promotions/screens
     brochures/wizard
     brochures/wizard/configuration
     brochures/wizard/style
@@ -12,6 +13,7 @@ set(SCREEN_FOLDERS
     brochures/wizard/prices/profit
     brochures/wizard/prices/recommendation
     brochures/wizard/ordersheet
+    brochures/wizard/promotions
     brochures/wizard/pennant
     brochures/wizard/pennantbrand
     brochures/wizard/send

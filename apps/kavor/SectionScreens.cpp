@@ -4,17 +4,23 @@
 #include "account/screens/SuggestionViewController.h"
 #include "account/screens/TutorialsViewController.h"
 #include "base/StopProcess.h"
+#include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/MenuPromotions.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
 #include "interaction/QtText.h"
 #include "orders/screens/AllOrdersManagementViewController.h"
 #include "orders/screens/ClaimOrderViewController.h"
 #include "orders/screens/DemandBrandQrController.h"
+#include "promotions/screens/PromotionStyleSelectorViewController.h"
+#include "promotions/screens/PromotionViewController.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/Screens.h"
 
 #include <array>
+#include <optional>
+#include <utility>
 
 namespace kavor {
 
@@ -28,16 +34,64 @@ struct ComingSection {
 };
 
 constexpr std::array comingSections{
-    ComingSection{transition::promotion, "Cartelería Promocional", "poster"},
     ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
     ComingSection{transition::textile, "Textil", "tshirt"},
     ComingSection{transition::activations, "Activaciones", "party"},
 };
 
+PromotionServices promotionServices(const SectionServices& services) {
+    const WizardServices& wizard = services.wizard;
+    return {wizard.network,      wizard.alerts,     wizard.urls, wizard.photos,
+            wizard.reachability, wizard.downloader, wizard.clock};
+}
+
+Screen galleryScreen(const SectionServices& services, ScreenStack& screens,
+                     std::optional<MenuPromotionUse> use = std::nullopt) {
+    auto* gallery = new PromotionStyleSelectorViewController(promotionServices(services), std::move(use));
+    QObject::connect(gallery, &PromotionStyleSelectorViewController::screenRequested, &screens,
+                     &ScreenStack::push);
+    return {screenView("PromotionStyleSelectorView"), gallery};
+}
+
+// What the form makes goes into the draft that asked for it.
+MenuPromotionUse useFor(const MenuPromotionRequest& request) {
+    const auto draft = BrochureIntermediateData::temporalBrochure();
+    MenuPromotionUse use;
+    use.request = request;
+    if (draft->customerInformation)
+        use.imageLogo = draft->customerInformation->imageLogo.value_or("");
+    if (request.menuPromotion)
+        use.validity = MenuPromotions::shared().validityOf(draft, *request.menuPromotion);
+    use.attach = [draft, request](const MenuPromotion& promotion, const PromotionValidity& validity) {
+        MenuPromotions::shared().attach(draft, promotion, validity, request.menuPromotion, request.place);
+    };
+    return use;
+}
+
+// The form at once for a promotion that is edited, otherwise the gallery.
+Screen menuPromotionScreen(const SectionServices& services, ScreenStack& screens,
+                           const MenuPromotionRequest& request) {
+    const auto catalogue = AppSingleton::shared().applicationInformation;
+    const auto edited =
+        request.menuPromotion
+            ? PromotionGallery::ofMenuPromotion(
+                  *catalogue, request.menuPromotion->promotionId,
+                  request.languageSelected ? std::optional(request.languageSelected->id) : std::nullopt)
+            : std::nullopt;
+    if (!edited)
+        return galleryScreen(services, screens, useFor(request));
+    return {PromotionViewController::view(),
+            new PromotionViewController(promotionServices(services), catalogue, *edited, useFor(request))};
+}
+
 Screen wizardScreen(const SectionServices& services, ScreenStack& screens,
                     BrochureMenuViewController::Opening opening) {
     auto* wizard = new BrochureMenuViewController(services.wizard, nullptr, opening);
     QObject::connect(wizard, &BrochureMenuViewController::screenRequested, &screens, &ScreenStack::push);
+    QObject::connect(wizard, &BrochureMenuViewController::promotionsRequested, &screens,
+                     [&services, &screens](const MenuPromotionRequest& request) {
+                         screens.push(menuPromotionScreen(services, screens, request));
+                     });
     return {screenView("BrochureMenuView"), wizard};
 }
 
@@ -83,6 +137,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
     const std::string name = transition.toStdString();
     if (name == transition::brochure)
         return wizardScreen(services, screens, BrochureMenuViewController::Opening::UnfinishedMenu);
+    if (name == transition::promotion)
+        return galleryScreen(services, screens);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)

@@ -85,7 +85,8 @@ public:
     void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,
                             const QByteArray& idempotencyKey = {}) override;
     void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) override;
-    void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) override;
+    void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
+                            const QByteArray& idempotencyKey = {}) override;
     void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) override;
     void sellingSheetOrderSend(const SellingSheetOrder& order,
                                Completion<GenericOrderResponse> done) override;

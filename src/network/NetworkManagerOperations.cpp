@@ -223,9 +223,12 @@ void NetworkManager::retrieveTextileOrder(Int orderId, Completion<RetrieveTextil
     request(getting("retrieveTextileOrder", url), done);
 }
 
-void NetworkManager::promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) {
-    const QUrl url = urlOf(networkConfiguration_.urls.promotionOrderSendURL);
-    request(postingRecord("promotionOrderSendURL", url, order), done);
+void NetworkManager::promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
+                                        const QByteArray& idempotencyKey) {
+    auto operation = postingRecord("promotionOrderSendURL",
+                                   urlOf(networkConfiguration_.urls.promotionOrderSendURL), order);
+    operation.idempotencyKey = idempotencyKey;
+    request(operation, done);
 }
 
 void NetworkManager::sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) {

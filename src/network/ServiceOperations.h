@@ -154,7 +154,8 @@ public:
     virtual void createTextileOrder(const SaveTextileOrder& order, Completion<SaveTextileOrderResponse> done,
                                     const QByteArray& idempotencyKey = {}) = 0;
     virtual void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) = 0;
-    virtual void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) = 0;
+    virtual void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
+                                    const QByteArray& idempotencyKey = {}) = 0;
     virtual void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) = 0;
     virtual void sellingSheetOrderSend(const SellingSheetOrder& order,
                                        Completion<GenericOrderResponse> done) = 0;

@@ -17,6 +17,7 @@ inline constexpr std::string_view applicationInformation = "ZQAPPLICATIONINFORMA
 inline constexpr std::string_view netPrices = "netPrices";
 inline constexpr std::string_view temporalBrochure = "temporalBrochure";
 inline constexpr std::string_view draftsWithChanges = "draftsWithChanges";
+inline constexpr std::string_view promotionDraft = "promotionDraft";
 // The lock of the client that is running over the folder.
 inline constexpr std::string_view clientLock = "kavor.lock";
 

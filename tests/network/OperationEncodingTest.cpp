@@ -2,6 +2,7 @@
 #include "base/StopProcess.h"
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
+#include "promotions/PromotionOrder.h"
 #include "session/LoginResult.h"
 
 #include <cmath>
@@ -61,14 +62,15 @@ TEST(Operations, LogInWithATokenWithoutAPasswordAndSayTheirTerminalWhenItIsKnown
     EXPECT_EQ(rig.manager.accessToken(), "") << "the caller keeps the token, not the pipeline";
 }
 
-TEST(Operations, TellAMessageAndADemandOnceUnderTheKeyOfTheirSender) {
+TEST(Operations, TellAMessageADemandAndAPromotionOnceUnderTheKeyOfTheirSender) {
     Rig rig;
     rig.server.setHandler([](const ScriptedRequest&) { return ScriptedAnswer::json(R"({"msg":"ok"})"); });
     Outcome outcome;
     rig.manager.claimOrder(5, {}, outcome.completion<MessageResponse>(), "mine");
     rig.manager.demandBrandQr({}, outcome.completion<DemandBrandQrErrorResponse>(), "mine");
     rig.manager.suggestionMailboxAdd(4, {}, outcome.completion<MessageResponse>(), "mine");
-    ASSERT_TRUE(waitFor([&] { return outcome.successes == 3; }));
+    rig.manager.promotionOrderSend({}, outcome.completion<GenericOrderResponse>(), "mine");
+    ASSERT_TRUE(waitFor([&] { return outcome.successes == 4; }));
     for (const ScriptedRequest& request : rig.server.requests())
         EXPECT_EQ(request.header("idempotency-key"), "mine") << request.target.toStdString();
 }

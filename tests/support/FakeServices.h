@@ -112,7 +112,7 @@ public:
         FakeOperation<SimpleResponse, SaveBrochuresOrder, QString> sendRawOrder;
         FakeOperation<SaveTextileOrderResponse, SaveTextileOrder, QByteArray> createTextileOrder;
         FakeOperation<RetrieveTextileOrderResponse, Int> retrieveTextileOrder;
-        FakeOperation<GenericOrderResponse, PromotionOrder> promotionOrderSend;
+        FakeOperation<GenericOrderResponse, PromotionOrder, QByteArray> promotionOrderSend; // with its key
         FakeOperation<SellingSheetOrderListResponse> sellingSheetOrderList;
         FakeOperation<GenericOrderResponse, SellingSheetOrder> sellingSheetOrderSend;
         FakeOperation<SimpleResponse, Int, QString> sellingSheetOrderDelete;
@@ -190,8 +190,9 @@ public:
     void retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) override {
         requests.retrieveTextileOrder.called(std::move(done), orderId);
     }
-    void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done) override {
-        requests.promotionOrderSend.called(std::move(done), order);
+    void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
+                            const QByteArray& idempotencyKey) override {
+        requests.promotionOrderSend.called(std::move(done), order, idempotencyKey);
     }
     void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) override {
         requests.sellingSheetOrderList.called(std::move(done));

@@ -10,6 +10,7 @@
 #include "brochures/wizard/pennantbrand/PennantBrandViewController.h"
 #include "brochures/wizard/prices/BrochurePriceSetterViewController.h"
 #include "brochures/wizard/products/BrochureProductListViewController.h"
+#include "brochures/wizard/promotions/BrochurePromotionViewController.h"
 #include "brochures/wizard/send/BrochureSendViewController.h"
 #include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 
@@ -41,7 +42,7 @@ WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& s
     case wizard_step::send:
         return new BrochureSendViewController(context, parent);
     case wizard_step::promotions:
-        return comingSoon("La selección de promociones", "promotions", parent);
+        return new BrochurePromotionViewController(context, parent);
     case wizard_step::pennant:
         return new BrochureOrderPennantViewController(context, parent);
     case wizard_step::pennantBrand:

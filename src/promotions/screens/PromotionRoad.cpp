@@ -1,0 +1,101 @@
+#include "promotions/screens/PromotionRoad.h"
+
+#include "base/StopProcess.h"
+#include "base/json/Json.h"
+#include "interaction/QtText.h"
+#include "interaction/Questions.h"
+#include "network/FailureMapping.h"
+#include "promotions/UnfinishedPromotion.h"
+#include "session/AppSingleton.h"
+
+#include <utility>
+
+namespace kavor {
+
+namespace {
+
+OrderTexts promotionTexts() {
+    OrderTexts texts;
+    texts.incompleteTitle = QStringLiteral("Atención");
+    texts.failedTitle.print = QStringLiteral("El pedido no se puede generar");
+    return texts;
+}
+
+// An answer that says 200 and refuses all the same.
+std::optional<RequestFailure> refusalIn(const GenericOrderResponse& answer) {
+    if (!answer.errors || answer.errors->empty())
+        return std::nullopt;
+    QStringList messages;
+    for (const auto& [member, texts] : *answer.errors) {
+        for (const std::string& text : texts)
+            messages << fromUtf8(text);
+    }
+    const QString said = messages.isEmpty() ? genericFailureMessage() : messages.join(QLatin1Char('\n'));
+    constexpr int ok = 200;
+    return RequestFailure{{RequestError::Kind::Status, ok, said, std::nullopt}, QStringList{said}};
+}
+
+} // namespace
+
+PromotionRoad::PromotionRoad(const OrderRoadServices& services, std::shared_ptr<PromotionDraft> draft,
+                             std::shared_ptr<const Catalogue> catalogue, const PromotionTuple& promotion)
+    : OrderRoadOf(services, promotionTexts())
+    , network_(services.network)
+    , draft_(std::move(draft))
+    , catalogue_(std::move(catalogue))
+    , promotion_(promotion) {}
+
+PromotionRoad::~PromotionRoad() = default;
+
+void PromotionRoad::keep() {
+    if (isSentAsItStands())
+        UnfinishedPromotion::shared().sent(*draft_);
+    else
+        UnfinishedPromotion::shared().keep(*draft_);
+}
+
+std::vector<std::string> PromotionRoad::missing() const {
+    const auto& login = AppSingleton::shared().loginResult;
+    return promotionErrors(make(OrderRequestType::sendToPrint), promotion_.attributes,
+                           login && login->customerCodeRequired.value_or(false));
+}
+
+PromotionOrder PromotionRoad::make(OrderRequestType type) const {
+    return makePromotionOrder(*draft_, promotion_, catalogue_->information().attributesTypes, type);
+}
+
+void PromotionRoad::post(const PromotionOrder& order, Completion<Answer> done, const QByteArray& key) {
+    done.success = [taken = done.success, refused = done.failure](const Answer& answer) {
+        if (const auto refusal = refusalIn(answer))
+            refused(*refusal);
+        else
+            taken(answer);
+    };
+    network_.promotionOrderSend(order, std::move(done), key);
+}
+
+SendContent PromotionRoad::contentOf(OrderRequestType type, const PromotionOrder& order) const {
+    PromotionOrder bare = order;
+    bare.customer.id.reset();
+    const auto text = json::encode(bare);
+    if (!text)
+        stopProcess("document of a promotion to send: " + text.error().text());
+    return {type, *text};
+}
+
+OrderAnswer PromotionRoad::read(const Answer& answer) const {
+    return {true, answer.PDFURL ? std::optional(QUrl(fromUtf8(answer.PDFURL->text))) : std::nullopt,
+            QStringLiteral("Pedido realizado correctamente")};
+}
+
+void PromotionRoad::takeSent(const Answer& answer) {
+    sentDraft_ = *draft_;
+    sentOrder_ = {answer.orderIdentifier, read(answer).document};
+    keep();
+}
+
+void PromotionRoad::tellSent(const OrderAnswer& answer) {
+    ask(alerts(), this, {}, answer.message, {{QStringLiteral("Ok"), AlertButton::Role::Cancel, {}}});
+}
+
+} // namespace kavor
