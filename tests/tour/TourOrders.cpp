@@ -226,7 +226,7 @@ void Tour::failFilters() {
         fail();
         touch_->tap(QLatin1String(filter.button));
         touch_->waitUntil(QStringLiteral("the failure"), [&] { return application_->alerts().isVisible(); });
-        if (filter.again == 0)
+        if (QLatin1String(filter.button) == QLatin1String("withoutCompleteButton"))
             shot(QStringLiteral("filtro-fallido"));
         dismissAlert(QStringLiteral("Incidencia"), {}, filter.again);
         touch_->await(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
@@ -293,7 +293,10 @@ void Tour::changeOffline() {
     shot(QStringLiteral("cambios-sin-subir"));
     touch_->tap(edit);
     dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
-    dismissAlert(attention, QStringLiteral("¿Qué versión quieres abrir?"), 1);
+    const QString question = QStringLiteral("¿Qué versión quieres abrir?");
+    touch_->waitUntil(question, [&] { return application_->alerts().text() == question; });
+    shot(QStringLiteral("que-version"));
+    dismissAlert(attention, question, 1);
     touch_->await(QStringLiteral("contactNameTextField"));
     must(touch_->text(QStringLiteral("contactNameTextField")) == QStringLiteral("Berta Sin Red"),
          QStringLiteral("the version of the device"));
