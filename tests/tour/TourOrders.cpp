@@ -212,6 +212,9 @@ void Tour::failFilters() {
         server_->post(QStringLiteral("/demo/faults"),
                       R"({"path": "/api/orders/list", "fault": "status", "status": 500, "times": 1})");
     };
+    const auto lists = [&] {
+        return server_->get(QStringLiteral("/demo/requests")).count("/api/orders/list");
+    };
     struct Filter {
         const char* button;
         int again; // the place of "Intentar de nuevo" in its alert
@@ -231,8 +234,10 @@ void Tour::failFilters() {
         dismissAlert(QStringLiteral("Incidencia"), {}, filter.again);
         touch_->await(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
         touch_->awaitGone(QStringLiteral("veloView"));
+        const auto asked = lists();
         touch_->tap(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
         touch_->awaitGone(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
+        touch_->waitUntil(QStringLiteral("the whole list again"), [&] { return lists() > asked; });
         touch_->awaitGone(QStringLiteral("veloView"));
     }
 }
