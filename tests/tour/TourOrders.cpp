@@ -210,7 +210,8 @@ void Tour::openEmptyList() {
 void Tour::failFilters() {
     const auto fail = [&] {
         server_->post(QStringLiteral("/demo/faults"),
-                      R"({"path": "/api/orders/list", "fault": "status", "status": 500, "times": 1})");
+                      R"({"path": "/api/orders/list", "fault": "status", "status": 500,
+                          "body": {"msg": "El servicio no responde. Inténtalo de nuevo."}})");
     };
     const auto lists = [&] {
         return server_->get(QStringLiteral("/demo/requests")).count("/api/orders/list");
