@@ -1,12 +1,19 @@
 #include "base/BackgroundFileWriter.h"
 #include "base/Log.h"
 #include "brochures/engine/TemporalBrochure.h"
+#include "device/Background.h"
 #include "device/UserDefaults.h"
 #include "device/keychain/FileKeychain.h"
+#include "orders/DraftsWithChanges.h"
 #include "orders/OrderDiskManager.h"
+#include "orders/services/OrderActions.h"
 #include "robust/StampedFiles.h"
+#include "robust/StampedNames.h"
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
+#include "support/FakeServices.h"
+
+#include <QCoreApplication>
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -45,7 +52,7 @@ public:
     }
 
     void step() {
-        switch (random_() % 13) {
+        switch (random_() % 15) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -77,6 +84,10 @@ public:
                 FileUserDefaults(folder_ / defaultsKey).setInteger(QStringLiteral("stamp"), stamp);
                 return !somethingFailed;
             });
+        case 12:
+            return copy();
+        case 13:
+            return noteChanges();
         default:
             return write(keychainKey, [this](Int stamp) {
                 FileKeychain keychain(folder_ / keychainKey);
@@ -194,6 +205,32 @@ private:
         }
     }
 
+    // A sent order becomes a draft, over another one of its name or not.
+    void copy() {
+        const std::string name = anyName();
+        write(keyOf<SaveBrochuresOrder>(name, Directory::draft), [&](Int stamp) {
+            std::optional<bool> stored;
+            actions_.storeCopy(stamped<SaveBrochuresOrder>(stamp), name, actions_.draftExists(name),
+                               [&](bool isStored) { stored = isStored; });
+            while (!stored)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            return *stored;
+        });
+    }
+
+    // A further draft has changes and the others are at the server by now, or all are.
+    void noteChanges() {
+        auto& drafts = DraftsWithChanges::shared();
+        const auto former = drafts.names();
+        const Int stamp = random_() % 4 == 0 ? 0 : ++stamp_;
+        begin(std::string(state_file::draftsWithChanges), stamp);
+        if (stamp > 0)
+            drafts.add(stampedName(stamp));
+        for (const auto& name : former)
+            drafts.remove(name);
+        tellOutcome(std::string(state_file::draftsWithChanges), stamp);
+    }
+
     // Opens this or the other section: the menu of the one that is left is set aside.
     // Answers whether there was one to come back.
     bool openMenu() {
@@ -235,6 +272,8 @@ private:
     Int stamp_;
     BrochureType kind_ = BrochureType::beer;
     OrderDiskManager orders_;
+    FakeServices network_; // nothing is asked of it
+    OrderActions actions_{network_, orders_};
 };
 
 int run(int argc, char** argv) {
@@ -246,6 +285,8 @@ int run(int argc, char** argv) {
         const rlimit limit{std::strtoul(argv[5], nullptr, 10), std::strtoul(argv[5], nullptr, 10)};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
+    const QCoreApplication application(argc, argv); // what is done in the background comes back by its events
+    const BackgroundWorkEnd backgroundWork;
     setLogSink([](const LogEntry&) { somethingFailed = true; });
     auto& session = AppSingleton::shared();
     session.setFolders(argv[1], argv[1]);

@@ -21,7 +21,8 @@ bool writeLine(const char* file, const std::string& line) {
     return bool(stream.flush());
 }
 
-// As root directly, as another user inside a user namespace in which this process is root.
+} // namespace
+
 bool takeOwnMounts() {
     const auto user = ::geteuid();
     const auto group = ::getegid();
@@ -35,8 +36,6 @@ bool takeOwnMounts() {
     }
     return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
-
-} // namespace
 
 std::optional<int> runWithOwnMounts(const std::function<int()>& work) {
     std::fflush(nullptr);

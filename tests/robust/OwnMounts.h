@@ -10,6 +10,10 @@ namespace kavor::robust {
 // anybody noticing. Answers its exit status, or nothing where the system does not allow it.
 std::optional<int> runWithOwnMounts(const std::function<int()>& work);
 
+// Gives this process such a view, before it has threads. As root directly, as another user inside a user
+// namespace in which this process is root. False where the system does not allow it.
+bool takeOwnMounts();
+
 // For use in there; false when the system refuses.
 bool mountSmallDisk(const std::filesystem::path& folder, long kilobytes);
 bool makeReadOnly(const std::filesystem::path& folder);

@@ -4,6 +4,7 @@
 #include "base/json/Json.h"
 #include "device/UserDefaults.h"
 #include "device/keychain/FileKeychain.h"
+#include "robust/StampedNames.h"
 #include "session/StateFile.h"
 
 #include <sys/stat.h>
@@ -191,6 +192,8 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
         return stampOfFile<LoginResult>(file, false);
     if (key == state_file::netPrices)
         return stampOfNetPrices(file);
+    if (key == state_file::draftsWithChanges)
+        return stampOfNames(file);
     if (key == defaultsKey)
         return stampOfDefaults(file);
     if (key == keychainKey)
@@ -200,7 +203,7 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
         return stampOfFile<SaveTextileOrder>(file, true);
     if (folder == SellingSheetOrder::folderName)
         return stampOfFile<SellingSheetOrder>(file, true);
-    return stampOfFile<SaveBrochuresOrder>(file, true);
+    return stampOfFile<KeptOrder>(file, true);
 }
 
 } // namespace kavor::robust

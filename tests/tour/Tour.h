@@ -21,14 +21,21 @@ class WindowWatch;
 // window shows and throws a TouchFailure when it is something else.
 class Tour {
 public:
+    enum class Story {
+        MainJob,
+        EveryKind,      // orders one brochure of every kind
+        Orders,         // goes through the corners of the list of orders
+        SendAndDie,     // an order is at the server, and the process dies before it hears so
+        ReadOnlyOutbox, // a new start after that: the outbox may not be written
+        SendAgain       // and another one: nothing stands in the way any more
+    };
     struct Options {
         QString folder;        // for the pictures, the order and the PDF
         QString documents;     // of the client
         QString killAfterStep; // the process kills itself after this step; empty for none
         bool pictures = true;
         bool realWindow = false; // the window must be drawn by a thread of its own
-        bool everyKind = false;  // orders one brochure of every kind instead of the main job
-        bool orders = false;     // goes through the corners of the list of orders instead
+        Story story = Story::MainJob;
     };
 
     explicit Tour(Options options);
@@ -41,7 +48,18 @@ public:
     [[nodiscard]] static std::string draftDocument();
 
 private:
+    struct Step {
+        const char* name;
+        void (Tour::*action)();
+    };
+    [[nodiscard]] std::vector<Step> steps() const;
+    // Of the stories around a send that breaks off.
+    [[nodiscard]] std::vector<Step> sendingSteps() const;
+
+    void startServer();
+    void openClient();
     void start();
+    void startAgain();
     void startWithWrongPassword();
     void logIn();
     void showDashboard();
@@ -56,6 +74,8 @@ private:
     void preview();
     void print();
     void checkOrder();
+    void fillMenuOffline(const QString& bar, const QString& email);
+    void orderIntoOutbox();
     void orderOffline();
     void showAccount();
     void showOrdersOffline();
@@ -72,6 +92,12 @@ private:
     void changeOffline();
     void editFromTheDevice(const QString& name);
     void tapNotification();
+    void sendThree();
+    void queueOne();
+    void dieBeforeTheAnswer();
+    void openWaiting();
+    void sendOutOfReadOnly();
+    void sendOnceMore();
     void orderEveryKind();
     void chooseOrderSheet();
     void hangPennants();
@@ -85,12 +111,12 @@ private:
     void selectBrands(ApplicationFather family, std::size_t number, std::size_t step);
     void openSection(int applicationType);
     void openStep(int menuEntry);
-    // Waits for an alert and answers it with one of its buttons.
     // The row of a draft of this name in the list of orders, or a part of it.
     [[nodiscard]] static QString savedRow(const QString& folder, const QString& name,
                                           const QString& part = {});
     // The numbers of the orders that the server took to print since the tour began.
     [[nodiscard]] QJsonArray printedOrders() const;
+    // Waits for an alert and answers it with one of its buttons.
     void dismissAlert(const QString& title, const QString& part, int button = 0);
     // A picture at each of the three sizes, numbered.
     void shot(const QString& name);

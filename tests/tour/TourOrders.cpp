@@ -210,7 +210,11 @@ void Tour::openEmptyList() {
 void Tour::failFilters() {
     const auto fail = [&] {
         server_->post(QStringLiteral("/demo/faults"),
-                      R"({"path": "/api/orders/list", "fault": "status", "status": 500, "times": 1})");
+                      R"({"path": "/api/orders/list", "fault": "status", "status": 500,
+                          "body": {"msg": "El servicio no responde. Inténtalo de nuevo."}})");
+    };
+    const auto lists = [&] {
+        return server_->get(QStringLiteral("/demo/requests")).count("/api/orders/list");
     };
     struct Filter {
         const char* button;
@@ -226,13 +230,15 @@ void Tour::failFilters() {
         fail();
         touch_->tap(QLatin1String(filter.button));
         touch_->waitUntil(QStringLiteral("the failure"), [&] { return application_->alerts().isVisible(); });
-        if (filter.again == 0)
+        if (QLatin1String(filter.button) == QLatin1String("withoutCompleteButton"))
             shot(QStringLiteral("filtro-fallido"));
         dismissAlert(QStringLiteral("Incidencia"), {}, filter.again);
         touch_->await(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
         touch_->awaitGone(QStringLiteral("veloView"));
+        const auto asked = lists();
         touch_->tap(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
         touch_->awaitGone(isSearch ? QStringLiteral("filterpdv") : QStringLiteral("filterquick"));
+        touch_->waitUntil(QStringLiteral("the whole list again"), [&] { return lists() > asked; });
         touch_->awaitGone(QStringLiteral("veloView"));
     }
 }
@@ -293,7 +299,10 @@ void Tour::changeOffline() {
     shot(QStringLiteral("cambios-sin-subir"));
     touch_->tap(edit);
     dismissAlert(attention, QStringLiteral("¿Deseas editar el pedido"), 1);
-    dismissAlert(attention, QStringLiteral("¿Qué versión quieres abrir?"), 1);
+    const QString question = QStringLiteral("¿Qué versión quieres abrir?");
+    touch_->waitUntil(question, [&] { return application_->alerts().text() == question; });
+    shot(QStringLiteral("que-version"));
+    dismissAlert(attention, question, 1);
     touch_->await(QStringLiteral("contactNameTextField"));
     must(touch_->text(QStringLiteral("contactNameTextField")) == QStringLiteral("Berta Sin Red"),
          QStringLiteral("the version of the device"));

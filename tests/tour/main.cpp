@@ -1,4 +1,5 @@
 #include "kavor/KavorApplication.h"
+#include "robust/OwnMounts.h"
 #include "tour/KilledDraft.h"
 #include "tour/Tour.h"
 
@@ -18,6 +19,19 @@ bool isAsked(const char* option, int argc, char* argv[]) {
                        [&](const char* given) { return std::strcmp(given, option) == 0; });
 }
 
+kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
+    using Story = kavor::Tour::Story;
+    if (parser.isSet("every-kind"))
+        return Story::EveryKind;
+    if (parser.isSet("orders"))
+        return Story::Orders;
+    const QString send = parser.value("send");
+    return send == "dies"        ? Story::SendAndDie
+           : send == "read-only" ? Story::ReadOnlyOutbox
+           : send == "again"     ? Story::SendAgain
+                                 : Story::MainJob;
+}
+
 } // namespace
 
 // kavor-tour DIR                       the main job by itself; pictures, the order and the PDF go to DIR
@@ -25,10 +39,16 @@ bool isAsked(const char* option, int argc, char* argv[]) {
 //   --kill-after STEP                  the process kills itself after a step
 //   --every-kind                       an order of every kind of brochure instead
 //   --orders                           the corners of the list of orders instead
+//   --send STORY                       an order that breaks off: dies, read-only or again, one after the
+//   other
 //   --window                           in a real window that a thread of its own draws, as users have it
 //   --check-killed                     a new start after that: is the draft still there?
 int main(int argc, char* argv[]) {
     const bool realWindow = isAsked("--window", argc, argv);
+    if (isAsked("read-only", argc, argv) && !kavor::robust::takeOwnMounts()) {
+        std::fputs("this system lets nobody mount\n", stderr);
+        return 77;
+    }
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
         !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -47,7 +67,8 @@ int main(int argc, char* argv[]) {
                        {"no-pictures", {}},
                        {"window", {}},
                        {"every-kind", {}},
-                       {"orders", {}}});
+                       {"orders", {}},
+                       {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);
     if (parser.positionalArguments().size() != 1) {
@@ -62,8 +83,7 @@ int main(int argc, char* argv[]) {
     if (parser.isSet("check-killed"))
         return kavor::checkKilledDraft(options.folder, options.documents);
     options.killAfterStep = parser.value("kill-after");
-    options.everyKind = parser.isSet("every-kind");
-    options.orders = parser.isSet("orders");
+    options.story = storyOf(parser);
     options.realWindow = realWindow;
     options.pictures = !parser.isSet("no-pictures");
     const int status = kavor::Tour(options).run();

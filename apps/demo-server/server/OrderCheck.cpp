@@ -227,6 +227,12 @@ const Form activationEvent = {{"activation_id", Is::integer, true},
 const Form activation = {{"customer", Is::object, true, &activationCustomer},
                          {"activation", Is::object, true, &activationEvent}};
 
+/// Something on either side of one "@".
+bool isEmail(const std::string& text) {
+    const auto at = text.find('@');
+    return at != std::string::npos && at > 0 && at + 1 < text.size() && text.rfind('@') == at;
+}
+
 bool hasType(const Json& json, Is type) {
     switch (type) {
     case Is::integer:
@@ -350,6 +356,9 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
     const Json& content = order["menu"];
     if (content["customer"]["name"].get<std::string>().empty()) {
         faults["menu.customer.name"].push_back("El nombre del establecimiento es obligatorio.");
+    }
+    if (const auto email = content["customer"].value("email", ""); !email.empty() && !isEmail(email)) {
+        faults["menu.customer.email"].push_back("«" + email + "» no es una dirección de correo.");
     }
     const bool noDrinks = content.value("other_drinks", Json::array()).empty();
     if (content["items"].empty() && noDrinks) {

@@ -18,10 +18,17 @@ void add(UnansweredSends& known, const UnansweredSends& more) {
 
 } // namespace
 
+void loadToGoOn(BrochureIntermediateData& draft, const SaveBrochuresOrder& order) {
+    draft.loadOrder(order);
+    auto& printed = draft.selectedNumberOfBrochures;
+    if (printed && printed->secondary == 0)
+        printed->secondary.reset();
+}
+
 void openOrder(const OrderToEdit& toEdit) {
     const auto former = BrochureIntermediateData::temporalBrochure();
     const auto& draft = BrochureIntermediateData::replaceTemporalBrochure();
-    draft->loadOrder(toEdit.order);
+    loadToGoOn(*draft, toEdit.order);
     draft->fileName = toEdit.filename;
     draft->outboxFile = toEdit.outboxFile;
     draft->supportComment = toEdit.supportComment;

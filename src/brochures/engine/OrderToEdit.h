@@ -8,6 +8,7 @@
 
 namespace kavor {
 
+class BrochureIntermediateData;
 class Catalogue;
 
 // An order at hand, out of a file or from the server, that the wizard is to go on with.
@@ -18,6 +19,10 @@ struct OrderToEdit {
     std::optional<std::string> outboxFile = {};     // plain name, for one that waits in the outbox
     std::optional<std::string> supportComment = {}; // what only the device knows of it
 };
+
+// Loads an order that the user goes on with. A second number of copies that it does not have is one that
+// nobody chose: no field shows it, and the check before sending would refuse it.
+void loadToGoOn(BrochureIntermediateData& draft, const SaveBrochuresOrder& order);
 
 // Puts a new shared draft, filled from the order, in the place of the one in work, whose sends without an
 // answer it knows too: what may be at the server already is not ordered twice. The session is in the section

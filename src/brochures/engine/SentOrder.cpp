@@ -2,6 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/OrderToEdit.h"
 
 namespace kavor {
 
@@ -41,7 +42,7 @@ const std::shared_ptr<BrochureIntermediateData>& restoreSentOrder() {
     if (!changed->sent)
         stopProcess("a draft that was sent");
     const auto& draft = BrochureIntermediateData::replaceTemporalBrochure();
-    draft->loadOrder(changed->sent->order);
+    loadToGoOn(*draft, changed->sent->order);
     draft->fileName = changed->sent->order.filename;
     draft->sent = changed->sent;
     // What the order has no place for.

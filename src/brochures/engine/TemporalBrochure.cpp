@@ -3,6 +3,7 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/DraftContent.h"
 #include "brochures/engine/EngineSession.h"
+#include "brochures/engine/OrderToEdit.h"
 
 #include <algorithm>
 
@@ -56,7 +57,7 @@ bool TemporalBrochure::restoreDraft() {
     const auto inMemory = BrochureIntermediateData::temporalBrochure()->openedAs;
     const auto load = [](const KeptOrder& order) {
         const auto& draft = BrochureIntermediateData::replaceTemporalBrochure();
-        draft->loadOrder(order);
+        loadToGoOn(*draft, order);
         draft->fileName = order.filename; // the copy has no file of its own to be named after
         draft->unansweredSends = order.unansweredSends.value_or(UnansweredSends());
         draft->outboxFile = order.outboxFile;

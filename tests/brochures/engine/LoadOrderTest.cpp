@@ -1,5 +1,6 @@
 #include "base/StopProcess.h"
 #include "brochures/engine/DraftTest.h"
+#include "brochures/engine/OrderToEdit.h"
 #include "brochures/engine/RetrievedOrder.h"
 #include "catalogue/OwnBrand.h"
 
@@ -88,6 +89,21 @@ TEST_F(LoadOrder, QuantitiesNeedTheLanguagesAndTheLastSecondLineWins) {
     EXPECT_EQ(quantities(R"([{"price":1,"quantity":9},{"price":5,"quantity":4}])", "9"), std::nullopt);
     EXPECT_EQ(draft().selectedLanguageIdentifiers, std::nullopt);
     EXPECT_EQ(draft().selectedSecondPriceIdentifier, PriceType::night);
+}
+
+TEST_F(LoadOrder, WithoutASecondNumberItCanBeSentAsItCameWhereverItIsOpenedFrom) {
+    complete();
+    const auto order = draft().makeOrder(OrderRequestType::saveCloud, false);
+    const auto messages = [&] {
+        draft().brochureTypeParameters = catalogue.parameters(BrochureType::beer);
+        return draft().validationErrors();
+    };
+    openOrder({order, {}, {}, {}});
+    EXPECT_EQ(messages(), std::vector<std::string>());
+    TemporalBrochure::shared().write(draft());
+    TemporalBrochure::shared().flush();
+    ASSERT_TRUE(TemporalBrochure::shared().restoreDraft());
+    EXPECT_EQ(messages(), std::vector<std::string>());
 }
 
 TEST_F(LoadOrder, LogosAreTakenInThreesAndNumberedAnew) {

@@ -31,9 +31,11 @@ protected:
     std::optional<AuthManager> auth;
     std::optional<NetworkManager> manager;
     SaveBrochuresOrder order;
+    Int sentOrder = 0; // its number in the history
 
     void SetUp() override {
         WizardTest::SetUp();
+        qputenv("KAVOR_KEYCHAIN", "file"); // of the commands
         session.version = "1.0";
         const auto configuration = NetworkConfiguration::load(server.configurationFile().toStdString());
         ASSERT_TRUE(configuration);
@@ -47,6 +49,11 @@ protected:
         session.applicationInformation =
             await<std::shared_ptr<const Catalogue>>([&](const auto& done) { manager->appInformation(done); });
         order = orderOfHistory();
+    }
+
+    void TearDown() override {
+        qunsetenv("KAVOR_KEYCHAIN");
+        WizardTest::TearDown();
     }
 
     // The answer of the server, which has to be a good one.
@@ -67,12 +74,13 @@ protected:
             manager->retrieveBrochureOrderList({{}, {}, {}, 0, 0, 0, true}, done);
         });
         for (const auto& row : list.orders.value_or(std::vector<OrderList::Order>())) {
-            if (row.typeId != BrochureType::beer)
+            if (row.typeId != BrochureType::beer || row.stateId == OrderState::cloud)
                 continue;
             auto found = orderOf(row.id, await<RetrieveBrochureOrderListResponse>([&](const auto& done) {
                                      manager->retrieveBrochureOrder(row.id, done);
                                  }));
             found.orderIdentifier.reset();
+            sentOrder = row.id;
             return found;
         }
         ADD_FAILURE() << "no beer menu in the history";
@@ -91,6 +99,18 @@ protected:
         QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
         loop.exec();
         EXPECT_EQ(reply->error(), QNetworkReply::NoError) << reply->readAll().toStdString();
+    }
+    // A command over a documents folder of its own.
+    [[nodiscard]] kavor::Outcome online(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.end(), {"--configuration", server.configurationFile().toStdString(),
+                                           "--documents", folder / "ctl", "--caches", folder / "ctl-caches"});
+        return kavorctl(arguments);
+    }
+    void logInByCommand() {
+        std::istringstream typed(server.password().toStdString() + "\n");
+        auto* const terminal = std::cin.rdbuf(typed.rdbuf());
+        EXPECT_EQ(online({"login", server.account().toStdString()}).status, ctl::fine);
+        std::cin.rdbuf(terminal);
     }
     [[nodiscard]] qsizetype placedOrders() const {
         return QJsonDocument::fromJson(server.get(QStringLiteral("/demo/orders"))).array().size();
@@ -189,20 +209,11 @@ TEST_F(OrderedOnceTest, OutOfTheOutboxWhateverBreaksOffAndOneIsCorrectedMeanwhil
 }
 
 TEST_F(OrderedOnceTest, ByTheCommandThatIsRepeatedUnderTheNameOfItsIntent) {
-    qputenv("KAVOR_KEYCHAIN", "file");
     folder.put("order.json", json::encodePretty(order).value());
-    const auto online = [&](std::vector<std::string> arguments) {
-        arguments.insert(arguments.end(), {"--configuration", server.configurationFile().toStdString(),
-                                           "--documents", folder / "ctl", "--caches", folder / "ctl-caches"});
-        return kavorctl(arguments);
-    };
     const auto print = [&](const std::string& intent) {
         return online({"order", "send", folder / "order.json", "--save", "print", "--intent", intent});
     };
-    std::istringstream typed(server.password().toStdString() + "\n");
-    auto* const terminal = std::cin.rdbuf(typed.rdbuf());
-    EXPECT_EQ(online({"login", server.account().toStdString()}).status, ctl::fine);
-    std::cin.rdbuf(terminal);
+    logInByCommand();
 
     loseTheNextAnswer();
     EXPECT_EQ(print("carta de julio").status, ctl::requestFailed);
@@ -213,7 +224,37 @@ TEST_F(OrderedOnceTest, ByTheCommandThatIsRepeatedUnderTheNameOfItsIntent) {
     EXPECT_EQ(placedOrders(), 1);
     EXPECT_EQ(print("carta de agosto").status, ctl::fine);
     EXPECT_EQ(placedOrders(), 2);
-    qunsetenv("KAVOR_KEYCHAIN");
+}
+
+TEST_F(OrderedOnceTest, ACopyOfASentOrderGoesToTheCloudOnceAndIsNeverPrinted) {
+    const auto brochures = [&](bool cloud) {
+        const auto all = QJsonDocument::fromJson(server.get(QStringLiteral("/demo/orders?all=1"))).array();
+        return std::ranges::count_if(all, [cloud](const auto& each) {
+            return each[QLatin1String("kind")] == QLatin1String("brochure") &&
+                   each[QLatin1String("cloud")].toBool() == cloud;
+        });
+    };
+    logInByCommand();
+    const auto printed = brochures(false);
+    const auto kept = brochures(true);
+    const std::string original = std::to_string(sentOrder);
+    ASSERT_EQ(online({"orders", "copy", original, "Copia"}).out, "Su pedido ha sido copiado en local.\n");
+    EXPECT_EQ(online({"orders", "copy", original, "Copia"}).status, ctl::unreadableInput);
+
+    loseTheNextAnswer();
+    EXPECT_EQ(online({"sync"}).status, ctl::requestFailed);
+    const kavor::Outcome run = online({"sync"});
+    EXPECT_EQ(run.out, "Pedido guardado: Su pedido Copia se ha sincronizado.\n") << run.err;
+    EXPECT_EQ(online({"sync"}).out, "") << "nothing is left to do";
+    EXPECT_EQ(brochures(false), printed);
+    EXPECT_EQ(brochures(true), kept + 1);
+
+    const OrderDiskManager files(folder.path() / "ctl", OrderDiskManager::Opening::AsItStands);
+    const auto copy = files.retrieve<SaveBrochuresOrder>("Copia.zvo", OrderDiskManager::DirectoryName::draft);
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(copy->save, OrderRequestType::saveCloud);
+    EXPECT_EQ(copy->sourceIdentifier, sentOrder);
+    EXPECT_NE(copy->orderIdentifier.value_or(sentOrder), sentOrder);
 }
 
 } // namespace
