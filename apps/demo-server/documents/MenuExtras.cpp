@@ -1,10 +1,11 @@
 #include "catalogue/Content.h"
 #include "documents/MenuPaper.h"
 #include "documents/PdfSheet.h"
+#include "documents/PromotionPdf.h"
 #include "drawing/Covers.h"
 #include "drawing/Goods.h"
 #include "drawing/Motifs.h"
-#include "drawing/Scenes.h"
+#include "drawing/PosterArt.h"
 #include "drawing/Tools.h"
 
 #include <QFontMetricsF>
@@ -143,43 +144,63 @@ std::optional<Block> categoryNote(const MenuPaper& paper, const Json& category) 
                  0};
 }
 
-std::string attributeWords(const Json& promotion) {
-    std::string words;
-    for (const Json& attribute : promotion["attributes"]) {
-        const std::string value = attribute["value"].get<std::string>();
-        if (!value.empty() && !value.starts_with("data:image/")) {
-            words += (words.empty() ? "" : " · ") + value;
-        }
+/// A pill of words, which answers where it ends.
+double drawPill(QPainter& painter, const QRectF& area, const QString& words, const QColor& ground) {
+    const QFont font = face(Face::body, area.height() * 0.58, true);
+    const double width = std::min(area.width(), QFontMetricsF(font).horizontalAdvance(words) + 24);
+    const QRectF pill(area.left(), area.top(), width, area.height());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    painter.setPen(inkOn(ground));
+    drawFitted(painter, pill.adjusted(8, 0, -8, 0), Qt::AlignCenter, words, font);
+    return pill.right();
+}
+
+/// Brand, name, phrase, and price with hours at the foot.
+void drawPromotionWords(QPainter& painter, const MenuPaper& paper, const Json& promotion,
+                        const PosterWords& words, const QRectF& area) {
+    constexpr int top = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+    const bool foot = !words.price.isEmpty() || !words.hours.isEmpty();
+    const double room = area.height() - 22 - (foot ? 32 : 0);
+    painter.setPen(paper.softInk());
+    drawFitted(painter, QRectF(area.left(), area.top(), area.width(), 18), left,
+               text(promotion["brand_name"].get<std::string>()), face(Face::body, 14));
+    painter.setPen(colour(paper.theme().ink));
+    const double name = words.phrase.isEmpty() ? room : room * 0.56;
+    drawFitted(painter, QRectF(area.left(), area.top() + 20, area.width(), name), top,
+               text(promotion["promotion_name"].get<std::string>()), face(Face::round, 21, true));
+    drawFitted(painter, QRectF(area.left(), area.top() + 22 + name, area.width(), room - name - 2), top,
+               words.phrase.isEmpty() ? QString() : QStringLiteral("«%1»").arg(words.phrase),
+               face(Face::script, 19));
+    QRectF pill(area.left(), area.bottom() - 26, area.width(), 26);
+    if (!words.price.isEmpty()) {
+        pill.setLeft(drawPill(painter, pill, words.price, colour(paper.theme().accent)) + 6);
     }
-    return words;
+    if (!words.hours.isEmpty()) {
+        drawPill(painter, pill, words.hours,
+                 mixed(colour(paper.theme().ink), colour(paper.theme().paper), 0.25));
+    }
 }
 
 void drawPromotion(QPainter& painter, const MenuPaper& paper, const Json& promotion, const QRectF& area) {
     const Theme& theme = paper.theme();
     painter.setPen(QPen(colour(theme.accent), 2, Qt::DashLine));
-    painter.setBrush(mixed(colour(theme.accent), colour(theme.paper), 0.82));
+    painter.setBrush(mixed(colour(theme.accent), colour(theme.paper), 0.86));
     painter.drawRoundedRect(area, 14, 14);
-    const double height = area.height() - 20, width = height * 0.707;
+    const double height = area.height() - 20, width = std::min(height * 0.707, area.width() * 0.34);
     const QRectF picture(area.left() + 10, area.top() + 10, width, height);
-    const auto poster = std::ranges::find(posters(), promotion["promotion_id"].get<int>(), &Poster::id);
-    if (poster != posters().end()) {
-        drawPoster(painter, picture, *poster,
-                   brandAt(paper.catalogue().brands(), poster->family, poster->brandPlace).look,
-                   paper.menu()["language1_id"].get<int>());
+    const Poster* poster = posterOf(promotion["promotion_id"].get<int>());
+    PosterWords words;
+    if (poster) {
+        words = posterWords(*poster, promotion["attributes"], paper.menu()["language1_id"].get<int>());
+        drawPoster(painter, picture, *poster, poster->look(paper.catalogue().brands()), words);
     } else {
         drawMotif(painter, picture, Motif::star, colour(theme.accent), colour(theme.ink));
     }
-    const QRectF words(picture.right() + 12, area.top() + 10, area.right() - picture.right() - 22, height);
-    painter.setPen(paper.softInk());
-    drawFitted(painter, QRectF(words.left(), words.top(), words.width(), 18), left,
-               text(promotion["brand_name"].get<std::string>()), face(Face::body, 14));
-    painter.setPen(colour(theme.ink));
-    drawFitted(painter, QRectF(words.left(), words.top() + 20, words.width(), 54),
-               Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-               text(promotion["promotion_name"].get<std::string>()), face(Face::round, 22, true));
-    drawFitted(painter, QRectF(words.left(), words.top() + 76, words.width(), words.height() - 76),
-               Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text(attributeWords(promotion)),
-               face(Face::body, 16));
+    drawPromotionWords(
+        painter, paper, promotion, words,
+        QRectF(picture.right() + 12, area.top() + 10, area.right() - picture.right() - 22, height));
 }
 
 /// A chosen product: the brand, its format and what it costs.

@@ -3,6 +3,7 @@
 #include "catalogue/Dice.h"
 #include "documents/MenuPaper.h"
 #include "documents/PdfSheet.h"
+#include "documents/PromotionPdf.h"
 #include "drawing/Covers.h"
 #include "drawing/QrCode.h"
 #include "drawing/Tools.h"
@@ -88,11 +89,7 @@ private:
                 words.logos.push_back(&brand->look);
             }
         }
-        const std::string logo = customerText("image_logo");
-        if (const size_t comma = logo.find(','); comma != std::string::npos) {
-            words.barLogo.loadFromData(
-                QByteArray::fromBase64(QByteArray::fromStdString(logo.substr(comma + 1))));
-        }
+        words.barLogo = pictureOf(customerText("image_logo"));
         for (const char* key : {"free_text_1", "free_text_2", "free_text_3", "local_phone", "url",
                                 "instagram", "twitter", "facebook"}) {
             if (!customerText(key).empty()) {

@@ -1,4 +1,5 @@
 #include "catalogue/Content.h"
+#include "catalogue/Posters.h"
 #include "server/DemoServer.h"
 #include "server/OrderRecords.h"
 #include "server/Time.h"
