@@ -11,7 +11,6 @@ namespace {
 
 // A high resolution keeps the letters where they belong.
 constexpr int resolution = 720;
-constexpr double millimetresPerInch = 25.4;
 constexpr double shortSide = 744.1;
 constexpr QSizeF a4(210, 297);
 
@@ -31,7 +30,7 @@ PdfSheet::PdfSheet(const QString& title, const QSizeF& millimetres)
     painter_ = std::make_unique<QPainter>(writer_.get());
     painter_->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                              QPainter::SmoothPixmapTransform);
-    setUnits(millimetres);
+    setUnits();
 }
 
 void PdfSheet::setSize(const QSizeF& millimetres) {
@@ -42,11 +41,13 @@ void PdfSheet::setSize(const QSizeF& millimetres) {
                                        QMarginsF(0, 0, 0, 0)));
 }
 
-void PdfSheet::setUnits(const QSizeF& millimetres) {
-    const double units = shortSide / std::min(millimetres.width(), millimetres.height());
-    page_ = QRectF(QPointF(0, 0), millimetres * units);
+/// From the page as the writer has rounded it, so that no bare edge is left.
+void PdfSheet::setUnits() {
+    const QSizeF dots(writer_->width(), writer_->height());
+    const double scale = std::min(dots.width(), dots.height()) / shortSide;
+    page_ = QRectF(QPointF(0, 0), dots / scale);
     painter_->resetTransform();
-    painter_->scale(resolution / millimetresPerInch / units, resolution / millimetresPerInch / units);
+    painter_->scale(scale, scale);
 }
 
 void PdfSheet::newPage() {
@@ -56,7 +57,7 @@ void PdfSheet::newPage() {
 void PdfSheet::newPage(const QSizeF& millimetres) {
     setSize(millimetres);
     writer_->newPage();
-    setUnits(millimetres);
+    setUnits();
 }
 
 QByteArray PdfSheet::finish() {

@@ -31,7 +31,7 @@ public:
 
 private:
     void setSize(const QSizeF& millimetres);
-    void setUnits(const QSizeF& millimetres);
+    void setUnits();
 
     QByteArray bytes_;
     QBuffer buffer_;

@@ -30,7 +30,8 @@ public:
         : order_(order)
         , poster_(poster)
         , look_(look)
-        , report_(sheet, poster.texts.front().title, look_.name.c_str(), poster.theme) {}
+        , report_(sheet, poster.texts.front().title, text(look.name),
+                  themes()[size_t(poster.theme)].dark ? 0 : poster.theme) {}
 
     void write() {
         writeBar();
@@ -55,37 +56,39 @@ private:
 
     void writeFormats() {
         report_.heading("Formatos");
+        const double height = order_["supports"].size() > 3 ? 38 : 84;
         for (const Json& wanted : order_["supports"]) {
-            const Support* support = supportOf(poster_, wanted["id"].get<int>());
-            if (!support) {
-                continue;
+            if (const Support* support = supportOf(poster_, wanted["id"].get<int>())) {
+                report_.need(height + 8);
+                writeFormat(*support, wanted["language_id"].get<int>(), height);
+                report_.y() += height + 8;
             }
-            constexpr double height = 84;
-            report_.need(height + 8);
-            const int language = wanted["language_id"].get<int>();
-            const QSizeF size =
-                QSizeF(support->width, support->height).scaled(110, height, Qt::KeepAspectRatio);
-            const QRectF picture(QPointF(Report::margin + 6 + (110 - size.width()) / 2,
-                                         report_.y() + (height - size.height()) / 2),
-                                 size);
-            drawPoster(report_.painter(), picture, poster_, look_,
-                       posterWords(poster_, order_["attributes"], language));
-            writeFormat(*support, language, report_.y() + 14);
-            report_.y() += height + 8;
         }
     }
 
-    void writeFormat(const Support& support, int language, double top) {
-        const double left = Report::margin + 134, width = report_.width() - 134;
+    /// The poster in small, and its format and language beside it; in two lines where there is room.
+    void writeFormat(const Support& support, int language, double height) {
         constexpr int flags = Qt::AlignLeft | Qt::AlignVCenter;
+        constexpr double lineHeight = 26;
+        const double column = height * 1.3;
+        const QSizeF size = QSizeF(support.width, support.height).scaled(column, height, Qt::KeepAspectRatio);
+        drawPoster(report_.painter(),
+                   QRectF(QPointF(Report::margin + 6 + (column - size.width()) / 2,
+                                  report_.y() + (height - size.height()) / 2),
+                          size),
+                   poster_, look_, posterWords(poster_, order_["attributes"], language));
+        const bool two = height >= 2 * lineHeight;
+        const double left = Report::margin + column + 24, width = report_.width() - column - 24;
+        const QRectF line(left, report_.y() + (height - lineHeight * (two ? 2 : 1)) / 2, width, lineHeight);
         report_.painter().setPen(colour(report_.theme().ink));
-        drawFitted(report_.painter(), QRectF(left, top, width * 0.68, 28), flags, support.name,
-                   face(Face::round, 20, true));
-        drawFitted(report_.painter(), QRectF(left + width * 0.7, top, width * 0.3, 28),
-                   Qt::AlignRight | Qt::AlignVCenter, languageName(language), face(Face::body, 17, true));
+        drawFitted(report_.painter(), line.adjusted(0, 0, two ? -140 : -width * 0.6, 0), flags, support.name,
+                   face(Face::round, 19, true));
+        drawFitted(report_.painter(), line, Qt::AlignRight | Qt::AlignVCenter, languageName(language),
+                   face(Face::body, 17, true));
         report_.painter().setPen(mixed(colour(report_.theme().ink), colour(report_.theme().paper), 0.3));
-        drawFitted(report_.painter(), QRectF(left, top + 28, width, 24), flags, support.description,
-                   face(Face::body, 16));
+        drawFitted(report_.painter(),
+                   two ? line.translated(0, lineHeight) : line.adjusted(width * 0.42, 0, -100, 0), flags,
+                   support.description, face(Face::body, 16));
     }
 
     void writeAttributes() {
@@ -112,8 +115,10 @@ private:
     void writeValidity() {
         const QString from = member(order_, "date_from"), to = member(order_, "date_to");
         report_.heading("Vigencia");
-        report_.line("Desde", from.isEmpty() ? "sin fecha" : from);
-        report_.line("Hasta", to.isEmpty() ? "sin fecha" : to);
+        report_.line("Fechas", from.isEmpty() && to.isEmpty() ? "sin límite"
+                               : to.isEmpty()                 ? "desde el " + from
+                               : from.isEmpty()               ? "hasta el " + to
+                                                              : "del " + from + " al " + to);
         const bool shown = order_["show_menu"].get<bool>();
         report_.line("Se muestra en la carta online", shown ? "Sí" : "No");
         writeDays();
@@ -132,8 +137,7 @@ private:
             report_.painter().setBrush(on ? QBrush(colour(theme.accent)) : QBrush(Qt::NoBrush));
             report_.painter().drawEllipse(circle);
             report_.painter().setPen(on ? inkOn(colour(theme.accent)) : colour(theme.ink, 110));
-            drawFitted(report_.painter(), circle, Qt::AlignCenter, names[day],
-                       face(Face::round, 18, !on ? false : true));
+            drawFitted(report_.painter(), circle, Qt::AlignCenter, names[day], face(Face::round, 18, on));
             x += size + 12;
         }
         report_.y() += size + 18;
@@ -144,10 +148,11 @@ private:
             return;
         }
         report_.heading("Se envía a");
+        QStringList addresses;
         for (const Json& mail : order_["emails"]) {
-            report_.line(member(mail, "email"));
+            addresses << member(mail, "email");
         }
-        report_.y() += 8;
+        report_.paragraph(addresses.join("  ·  "));
     }
 
     const Json& order_;
@@ -171,15 +176,15 @@ std::optional<double> typedPrice(const std::string& typed) {
     for (const char letter : typed) {
         if (letter == ',') {
             digits += '.';
-        } else if (letter != ' ' && !(comma && letter == '.')) { // a point before a comma parts thousands
+        } else if (letter == '.' ? !comma : letter != ' ') { // a point before a comma parts thousands
             digits += letter;
         }
     }
     double price = 0;
-    const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), price, std::chars_format::fixed);
-    const bool read = error == std::errc() && end == digits.data() + digits.size() && price >= 0;
-    return read ? std::optional(price) : std::nullopt;
+    const char* last = digits.data() + digits.size();
+    const auto [end, error] = std::from_chars(digits.data(), last, price, std::chars_format::fixed);
+    const bool plain = digits.find_first_not_of("0123456789.") == std::string::npos;
+    return plain && error == std::errc() && end == last ? std::optional(price) : std::nullopt;
 }
 
 PosterWords posterWords(const Poster& poster, const Json& attributes, int language) {

@@ -109,6 +109,11 @@ private:
         fill(theme_.dark ? mixed(light, Qt::white, 0.4) : light);
         painter_.drawEllipse(centre, radius, radius);
         vessels(QRectF(centre.x() - radius * 0.75, centre.y() - radius * 0.92, radius * 1.5, radius * 1.85));
+        if (words_.price.isEmpty()) {
+            fill(theme_.dark ? mixed(light, Qt::white, 0.4) : light);
+            painter_.drawEllipse(centre + QPointF(radius * 0.86, -radius * 0.72), radius * 0.34,
+                                 radius * 0.34);
+        }
         sideSign(QRectF(centre.x() + radius * 0.5, centre.y() - radius * 1.08, radius * 0.72, radius * 0.72));
         title(part(0.06, 0.618, 0.94, 0.745), light);
         description(part(0.09, 0.75, 0.91, 0.815), light);
@@ -265,10 +270,13 @@ private:
                    face(Face::body, button.height() * 0.52, true));
         QRectF words(area.left(), area.top(), area.width() - pill - 20, area.height());
         if (!words_.logo.isNull()) {
-            const QSizeF size =
-                QSizeF(words_.logo.size()).scaled(area.height() * 2, area.height(), Qt::KeepAspectRatio);
-            painter_.drawImage(QRectF(words.topLeft(), size), words_.logo);
-            words.setLeft(words.left() + size.width() + 14);
+            const QRectF tile(words.left(), words.top(), area.height() * 1.4, area.height());
+            painter_.setPen(Qt::NoPen);
+            painter_.setBrush(Qt::white); // logos are made for white paper
+            painter_.drawRoundedRect(tile, 8, 8);
+            const Canvas frame(painter_, tile.adjusted(5, 5, -5, -5), words_.logo.size());
+            painter_.drawImage(QPointF(0, 0), words_.logo);
+            words.setLeft(tile.right() + 14);
         } else if (words_.bar.isEmpty()) {
             drawMark(painter_, QRectF(words.left(), words.top(), area.height(), area.height()), look_);
             words.setLeft(words.left() + area.height() + 14);
