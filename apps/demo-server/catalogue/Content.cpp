@@ -49,52 +49,6 @@ std::span<const PennantBrand> pennantBrands() {
     return pennants;
 }
 
-std::span<const Poster> posters() {
-    static const std::array table = {
-        Poster{1, 1, 1, "Jueves de quintos", "Cubo de cinco quintos a precio de cuatro", Family::beer, 0, 0,
-               0, true, true},
-        Poster{2, 1, 1, "La hora tostada", "De ocho a nueve, tapa con cada tostada", Family::beer, 1, 6, 1,
-               true, false},
-        Poster{3, 1, 2, "Caña y bravas", "Caña y ración de bravas", Family::beer, 2, 2, 2, true, true},
-        Poster{4, 1, 2, "Barril recién pinchado", "Hoy se estrena barril", Family::beer, 3, 4, 0, false,
-               false},
-        Poster{5, 1, 3, "Noche de partido", "Pinta y bocadillo mientras dure el partido", Family::beer, 4, 4,
-               3, true, true},
-        Poster{6, 1, 3, "Verbena del barrio", "Música, farolillos y cañas frías", Family::beer, 5, 8, 4, true,
-               false},
-        Poster{7, 1, 4, "Arroces del domingo", "Arroz de la casa y una de trigo", Family::beer, 6, 5, 2,
-               false, true},
-        Poster{8, 1, 4, "Temporada de setas", "Setas a la plancha y una negra", Family::beer, 7, 7, 2, false,
-               false},
-        Poster{9, 2, 1, "Segunda ronda", "La segunda pinta, a mitad de precio", Family::beer, 8, 0, 0, true,
-               true},
-        Poster{10, 2, 2, "Tapa de bienvenida", "Con la primera bebida, tapa de la casa", Family::beer, 9, 3,
-               2, true, false},
-        Poster{11, 2, 3, "Tarde de juegos", "Un juego de mesa por mesa y jarra", Family::beer, 10, 8, 3, true,
-               true},
-        Poster{12, 2, 0, "Menú de peñas", "Para grupos de más de diez", Family::beer, 11, 2, 4, false, true},
-        Poster{13, 3, 4, "Copa y queso", "Una copa y tabla de quesos", Family::wine, 0, 9, 5, true, true},
-        Poster{14, 3, 4, "Vendimia en la barra", "Blancos y tintos por copas", Family::wine, 1, 9, 5, true,
-               false},
-        Poster{15, 3, 1, "Martes de rosado", "Rosado bien frío y aceitunas", Family::wine, 2, 2, 5, false,
-               true},
-        Poster{16, 1, 2, "Sin alcohol, con todo", "Refrescos artesanos de la casa", Family::market, 0, 3, 8,
-               true, false},
-    };
-    return table;
-}
-
-std::span<const Support> supports() {
-    static const std::array table = {
-        Support{1, "Cartel A3", "Papel de 170 g, interior", 0.71, 1.0},
-        Support{2, "Cartel A4", "Papel de 170 g, interior", 0.55, 0.78},
-        Support{3, "Vinilo de escaparate", "50 x 70 cm, despegable", 0.8, 1.0},
-        Support{4, "Triángulo de mesa", "Cartulina plegada", 0.9, 0.6},
-        Support{5, "Pantalla", "Imagen de 1920 x 1080", 1.0, 0.56},
-    };
-    return table;
-}
-
 std::span<const SheetStyle> sheetStyles() {
     static const std::array table = {
         SheetStyle{1, "Hoja clásica", 0},   SheetStyle{2, "Hoja de costa", 3},

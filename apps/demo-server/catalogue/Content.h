@@ -41,24 +41,6 @@ struct PennantBrand {
 };
 std::span<const PennantBrand> pennantBrands();
 
-struct Poster {
-    int id, typeId, classificationId; // classification 0: none
-    const char* title;
-    const char* description;
-    Family family;
-    int brandPlace, theme, motif;
-    bool online, priced;
-};
-std::span<const Poster> posters();
-
-struct Support {
-    int id;
-    const char* name;
-    const char* description;
-    double width, height; ///< proportions of its icon
-};
-std::span<const Support> supports();
-
 struct SheetStyle {
     int id;
     const char* name;

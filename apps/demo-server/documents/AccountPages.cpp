@@ -52,4 +52,19 @@ std::string suggestionsHtml(const Json& suggestions) {
                                   : content);
 }
 
+std::string mailsHtml(const Json& mails) {
+    std::string content;
+    for (const Json& mail : mails) {
+        content += "<div class=\"card\"><h2>" + escaped(mail["subject"].get<std::string>()) +
+                   "</h2><div class=\"turn\"><small>Para " + escaped(mail["to"].get<std::string>()) + ", " +
+                   escaped(mail["created"].get<std::string>()) + "</small><p>Pedido " +
+                   mail["order_id"].dump() + " de " + escaped(mail["account"].get<std::string>()) +
+                   ".</p></div><p><a class=\"button\" href=\"" + escaped(mail["url_pdf"].get<std::string>()) +
+                   "\">Ver el PDF adjunto</a></p></div>";
+    }
+    return pageOf("Correos", "Programa Kavor, servidor de demostración: no sale ninguno",
+                  content.empty() ? "<div class=\"card\"><p>Todavía no se ha enviado ninguno.</p></div>"
+                                  : content);
+}
+
 } // namespace kavor::demo

@@ -24,4 +24,8 @@ std::string profileHtml(const Json& values, const std::vector<std::string>& faul
 /// What users suggested, newest first: entries with "created", "account", "category" and "body".
 std::string suggestionsHtml(const Json& suggestions);
 
+/// What would have been mailed, newest first: entries with "created", "to", "subject", "order_id" and
+/// "url_pdf".
+std::string mailsHtml(const Json& mails);
+
 } // namespace kavor::demo

@@ -1,6 +1,7 @@
 #include "documents/OrderPage.h"
 
 #include "catalogue/Content.h"
+#include "catalogue/Posters.h"
 #include "documents/MenuPdf.h"
 #include "documents/Page.h"
 #include "server/OrderRecords.h"
@@ -104,6 +105,13 @@ std::string orderHtml(const Order& order, Orders& orders, const Catalogue& catal
                wireDate(order.created) + "</td></tr>";
     if (!order.tevo.empty()) {
         content += "<tr><td>Código cliente</td><td class=\"price\">" + escaped(order.tevo) + "</td></tr>";
+    }
+    if (order.kind == "promotion") {
+        const Poster* poster = posterOf(order.body["promotion_id"].get<int>());
+        content += "<tr><td>Promoción</td><td class=\"price\">" +
+                   escaped(poster ? poster->texts.front().title : "Retirada") +
+                   "</td></tr><tr><td>Formatos</td><td class=\"price\">" +
+                   std::to_string(order.body["supports"].size()) + "</td></tr>";
     }
     if (order.kind == "brochure") {
         for (const Json& line : order.body["order_lines"]) {

@@ -3,6 +3,7 @@
 #include "catalogue/Content.h"
 #include "catalogue/Sections.h"
 #include "documents/PdfSheet.h"
+#include "documents/Report.h"
 #include "drawing/Covers.h"
 #include "drawing/Emblems.h"
 #include "drawing/Goods.h"
@@ -15,91 +16,6 @@
 namespace kavor::demo {
 
 namespace {
-
-constexpr double margin = 52;
-
-/// A page with the programme's head band, on which lines are written one under the other.
-class Report {
-public:
-    Report(const QString& title, const QString& subtitle, int theme)
-        : sheet_(title, false)
-        , theme_(themes()[size_t(theme)]) {
-        title_ = title;
-        subtitle_ = subtitle;
-        drawHead();
-    }
-
-    QPainter& painter() { return sheet_.painter(); }
-    double& y() { return y_; }
-    double width() const { return sheet_.page().width() - 2 * margin; }
-    const Theme& theme() const { return theme_; }
-
-    void need(double height) {
-        if (y_ + height > sheet_.page().bottom() - 50) {
-            sheet_.newPage();
-            drawHead();
-        }
-    }
-
-    void heading(const QString& words) {
-        need(80);
-        painter().setPen(colour(theme_.ink));
-        drawFitted(painter(), QRectF(margin, y_, width(), 32), Qt::AlignLeft | Qt::AlignVCenter, words,
-                   face(Face::round, 22, true));
-        painter().setPen(QPen(colour(theme_.accent), 2));
-        painter().drawLine(QPointF(margin, y_ + 35), QPointF(margin + width(), y_ + 35));
-        y_ += 44;
-    }
-
-    void line(const QString& left, const QString& right = {}) {
-        if (left.isEmpty() && right.isEmpty()) {
-            return;
-        }
-        need(26);
-        painter().setPen(colour(theme_.ink));
-        drawFitted(painter(), QRectF(margin + 6, y_, right.isEmpty() ? width() - 6 : width() * 0.68, 24),
-                   Qt::AlignLeft | Qt::AlignVCenter, left, face(Face::body, 17));
-        drawFitted(painter(), QRectF(margin + width() * 0.6, y_, width() * 0.4, 24),
-                   Qt::AlignRight | Qt::AlignVCenter, right, face(Face::body, 17, true));
-        y_ += 26;
-    }
-
-    void paragraph(const QString& words) {
-        need(70);
-        painter().setPen(mixed(colour(theme_.ink), colour(theme_.paper), 0.3));
-        drawFitted(painter(), QRectF(margin + 6, y_, width() - 6, 60),
-                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, words, face(Face::body, 18));
-        y_ += 66;
-    }
-
-    QByteArray finish() { return sheet_.finish(); }
-
-private:
-    void drawHead() {
-        drawPaper(painter(), sheet_.page(), theme_, false);
-        painter().setPen(Qt::NoPen);
-        painter().setBrush(colour(theme_.ink));
-        painter().drawRect(QRectF(0, 0, sheet_.page().width(), 112));
-        painter().setBrush(colour(theme_.accent));
-        painter().drawRect(QRectF(0, 112, sheet_.page().width(), 7));
-        painter().setPen(colour(theme_.paper));
-        drawFitted(painter(), QRectF(margin, 18, width(), 50), Qt::AlignLeft | Qt::AlignVCenter, title_,
-                   theme_.script ? face(Face::script, 42) : face(Face::title, 34, true));
-        drawFitted(painter(), QRectF(margin, 68, width(), 28), Qt::AlignLeft | Qt::AlignVCenter, subtitle_,
-                   face(Face::body, 19));
-        y_ = 146;
-    }
-
-    PdfSheet sheet_;
-    const Theme& theme_;
-    QString title_, subtitle_;
-    double y_ = 0;
-};
-
-QString member(const Json& object, const char* key) {
-    const auto found = object.find(key);
-    return found != object.end() && found->is_string() ? text(found->get<std::string>()) : QString();
-}
 
 template <typename Records>
 const auto* recordOf(const Records& records, int id) {
@@ -121,7 +37,7 @@ QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
         }
     }
     report.painter().setPen(colour(report.theme().ink));
-    drawFitted(report.painter(), QRectF(margin, report.y(), report.width(), 70), Qt::AlignCenter,
+    drawFitted(report.painter(), QRectF(Report::margin, report.y(), report.width(), 70), Qt::AlignCenter,
                member(sent, "message"), font);
     report.y() += 86;
     report.heading("Prendas");
@@ -136,16 +52,18 @@ QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
             const GarmentColour* tone = recordOf(garmentColours(), item["color_id"].get<int>());
             const GarmentType* type = recordOf(garmentTypes(), item["type_id"].get<int>());
             report.need(100);
-            drawGarment(report.painter(), QRectF(margin, report.y(), 90, 90), type->id, tone->colour,
+            drawGarment(report.painter(), QRectF(Report::margin, report.y(), 90, 90), type->id, tone->colour,
                         brand->look);
             report.painter().setPen(colour(report.theme().ink));
             const QString words =
                 QString("%1 %2 · %3 · talla %4")
                     .arg(text(type->name), text(brand->name), text(tone->name),
                          member(textile["textil_size"][item["size_id"].get<size_t>() - 1], "code"));
-            drawFitted(report.painter(), QRectF(margin + 106, report.y() + 24, report.width() - 220, 40),
+            drawFitted(report.painter(),
+                       QRectF(Report::margin + 106, report.y() + 24, report.width() - 220, 40),
                        Qt::AlignLeft | Qt::AlignVCenter, words, face(Face::body, 18));
-            drawFitted(report.painter(), QRectF(margin + report.width() - 110, report.y() + 24, 110, 40),
+            drawFitted(report.painter(),
+                       QRectF(Report::margin + report.width() - 110, report.y() + 24, 110, 40),
                        Qt::AlignRight | Qt::AlignVCenter, text(line["quantity"].dump()) + " uds.",
                        face(Face::body, 20, true));
             report.y() += 96;
@@ -155,30 +73,6 @@ QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
     report.line("Total", QString("%1 unidades").arg(units));
     report.paragraph(member(sent, "orderComment"));
     return report.finish();
-}
-
-QByteArray promotionPdf(const Json& order, const Catalogue& catalogue) {
-    const Poster* poster = recordOf(posters(), order["promotion_id"].get<int>());
-    if (!poster) {
-        poster = &posters().front();
-    }
-    PdfSheet sheet(poster->title, false);
-    int language = 1;
-    if (!order["supports"].empty()) {
-        language = order["supports"][0]["language_id"].get<int>();
-    }
-    const Look& look = brandAt(catalogue.brands(), poster->family, poster->brandPlace).look;
-    const QRectF page = sheet.page();
-    drawPoster(sheet.painter(), page, *poster, look, language);
-    QStringList words;
-    for (const Json& attribute : order["attributes"]) {
-        words << member(attribute, "value");
-    }
-    const QString name = member(order["customer"], "name");
-    sheet.painter().setPen(colour(themes()[size_t(poster->theme)].ink));
-    drawFitted(sheet.painter(), QRectF(40, page.bottom() - 34, page.width() - 80, 26), Qt::AlignCenter,
-               name + (words.isEmpty() ? "" : "  ·  ") + words.join("  ·  "), face(Face::body, 20, true));
-    return sheet.finish();
 }
 
 QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue) {
@@ -195,7 +89,7 @@ QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue) {
             continue;
         }
         report.need(190);
-        const QRectF box(margin, report.y(), report.width(), 170);
+        const QRectF box(Report::margin, report.y(), report.width(), 170);
         report.painter().setPen(QPen(colour(report.theme().accent), 2));
         report.painter().setBrush(mixed(colour(report.theme().paper), Qt::white, 0.6));
         report.painter().drawRoundedRect(box, 14, 14);
@@ -239,7 +133,8 @@ QByteArray activationPdf(const Json& order, const Catalogue& catalogue) {
     Report report(activation ? activation->name : "Activación", member(customer, "name"), 8);
     if (activation) {
         const ActivationGroup* group = recordOf(activationGroups(), activation->groupId);
-        drawActivationScene(report.painter(), QRectF(margin, report.y(), report.width(), 300), *activation, 0,
+        drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), report.width(), 300),
+                            *activation, 0,
                             brandAt(catalogue.brands(), Family::beer, group->brandPlace).look);
         report.y() += 320;
     }
@@ -264,8 +159,8 @@ QByteArray activationSheetPdf(int activationId, const Catalogue& catalogue) {
     Report report(activation->name, group->name, 8);
     report.paragraph(activation->description);
     for (int scene = 0; scene < 2; ++scene) {
-        drawActivationScene(report.painter(), QRectF(margin, report.y(), report.width(), 300), *activation,
-                            scene, look);
+        drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), report.width(), 300),
+                            *activation, scene, look);
         report.y() += 318;
     }
     report.heading("Condiciones");
@@ -284,9 +179,9 @@ QByteArray priceListPdf(Family family, const Catalogue& catalogue) {
             continue;
         }
         report.need(60 + 26.0 * double(brand.formats.size()));
-        drawMark(report.painter(), QRectF(margin, report.y() - 2, 32, 32), brand.look);
+        drawMark(report.painter(), QRectF(Report::margin, report.y() - 2, 32, 32), brand.look);
         report.painter().setPen(colour(report.theme().ink));
-        drawFitted(report.painter(), QRectF(margin + 42, report.y(), 400, 30),
+        drawFitted(report.painter(), QRectF(Report::margin + 42, report.y(), 400, 30),
                    Qt::AlignLeft | Qt::AlignVCenter, text(brand.name + "  ·  " + brand.style),
                    face(Face::round, 19, true));
         report.y() += 34;

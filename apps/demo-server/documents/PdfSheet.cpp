@@ -3,34 +3,61 @@
 #include <QPageLayout>
 #include <QPageSize>
 
+#include <algorithm>
+
 namespace kavor::demo {
 
 namespace {
 
-// At 90 dots per inch an A4 page is 744 by 1052; a higher resolution keeps the letters where they belong.
-constexpr double unitsPerInch = 90;
+// A high resolution keeps the letters where they belong.
 constexpr int resolution = 720;
+constexpr double shortSide = 744.1;
+constexpr QSizeF a4(210, 297);
 
 } // namespace
 
 PdfSheet::PdfSheet(const QString& title, bool landscape)
+    : PdfSheet(title, landscape ? a4.transposed() : a4) {}
+
+PdfSheet::PdfSheet(const QString& title, const QSizeF& millimetres)
     : buffer_(&bytes_) {
     buffer_.open(QIODevice::WriteOnly);
     writer_ = std::make_unique<QPdfWriter>(&buffer_);
     writer_->setTitle(title);
     writer_->setCreator(QStringLiteral("Kavor"));
     writer_->setResolution(resolution);
-    writer_->setPageLayout(QPageLayout(QPageSize(QPageSize::A4),
+    setSize(millimetres);
+    painter_ = std::make_unique<QPainter>(writer_.get());
+    painter_->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                             QPainter::SmoothPixmapTransform);
+    setUnits();
+}
+
+void PdfSheet::setSize(const QSizeF& millimetres) {
+    const bool landscape = millimetres.width() > millimetres.height();
+    const QSizeF upright = landscape ? millimetres.transposed() : millimetres;
+    writer_->setPageLayout(QPageLayout(QPageSize(upright, QPageSize::Millimeter, {}, QPageSize::ExactMatch),
                                        landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
                                        QMarginsF(0, 0, 0, 0)));
-    painter_ = std::make_unique<QPainter>(writer_.get());
-    painter_->scale(resolution / unitsPerInch, resolution / unitsPerInch);
-    painter_->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    page_ = landscape ? QRectF(0, 0, 1052.4, 744.1) : QRectF(0, 0, 744.1, 1052.4);
+}
+
+/// From the page as the writer has rounded it, so that no bare edge is left.
+void PdfSheet::setUnits() {
+    const QSizeF dots(writer_->width(), writer_->height());
+    const double scale = std::min(dots.width(), dots.height()) / shortSide;
+    page_ = QRectF(QPointF(0, 0), dots / scale);
+    painter_->resetTransform();
+    painter_->scale(scale, scale);
 }
 
 void PdfSheet::newPage() {
     writer_->newPage();
+}
+
+void PdfSheet::newPage(const QSizeF& millimetres) {
+    setSize(millimetres);
+    writer_->newPage();
+    setUnits();
 }
 
 QByteArray PdfSheet::finish() {

@@ -240,8 +240,7 @@ void drawPaper(QPainter& painter, const QRectF& page, const Theme& theme, bool s
 }
 
 void drawBunting(QPainter& painter, const QRectF& strip, const Theme& theme,
-                 const std::vector<const Look*>& marks) {
-    const int flags = 6;
+                 const std::vector<const Look*>& marks, int flags) {
     const double width = strip.width() / flags;
     const std::array tones = {theme.ink, theme.accent, theme.second};
     QPainterPath cord(strip.topLeft());

@@ -37,6 +37,6 @@ void drawCoverBack(QPainter& painter, const QRectF& page, BrochureKind kind, con
 
 /// A strip of pennants with marks, as wide as the rectangle.
 void drawBunting(QPainter& painter, const QRectF& strip, const Theme& theme,
-                 const std::vector<const Look*>& marks);
+                 const std::vector<const Look*>& marks, int flags = 6);
 
 } // namespace kavor::demo

@@ -239,8 +239,8 @@ void drawChalkboardSign(QPainter& painter, const QRectF& area, const ChalkboardF
 
 void drawSupportSign(QPainter& painter, const QRectF& area, const Support& support) {
     const Canvas canvas(painter, area, QSizeF(200, 200));
-    const QRectF sheet(100 - 75 * support.width, 100 - 80 * support.height, 150 * support.width,
-                       160 * support.height);
+    const QSizeF size = QSizeF(support.width, support.height).scaled(150, 150, Qt::KeepAspectRatio);
+    const QRectF sheet(QPointF(100 - size.width() / 2, 100 - size.height() / 2), size);
     painter.setPen(QPen(colour(0x123F31), 6));
     painter.setBrush(colour(0xFAF6EE));
     if (support.id == 4) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/Content.h"
+#include "catalogue/Posters.h"
 
 #include <QPainter>
 #include <QRectF>

@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <QPolygonF>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -303,6 +305,29 @@ void drawMotif(QPainter& painter, const QRectF& rectangle, Motif motif, const QC
     case Motif::record:
         return drawRecord(painter, main, second);
     }
+}
+
+Motif motifOf(int scene) {
+    constexpr std::array motifs = {Motif::beer,   Motif::hop,    Motif::plate, Motif::ball, Motif::lantern,
+                                   Motif::grapes, Motif::record, Motif::note,  Motif::sun};
+    return motifs[size_t(scene) % motifs.size()];
+}
+
+void drawRays(QPainter& painter, const QRectF& page, const QPointF& centre, const QColor& tone) {
+    const double reach = 1.3 * std::max(page.width(), page.height());
+    painter.save();
+    painter.setClipRect(page, Qt::IntersectClip);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tone);
+    for (int ray = 0; ray < 18; ++ray) {
+        painter.save();
+        painter.translate(centre);
+        painter.rotate(ray * 20);
+        painter.drawPolygon(
+            QPolygonF{QPointF(0, 0), QPointF(reach, -reach * 0.08), QPointF(reach, reach * 0.08)});
+        painter.restore();
+    }
+    painter.restore();
 }
 
 } // namespace kavor::demo

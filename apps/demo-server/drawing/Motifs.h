@@ -24,8 +24,14 @@ enum class Motif {
     record
 };
 
+/// The ornament of a scene, by its number there.
+Motif motifOf(int scene);
+
 /// Draws an ornament into a rectangle, in two colours.
 void drawMotif(QPainter& painter, const QRectF& rectangle, Motif motif, const QColor& main,
                const QColor& second);
+
+/// Rays over a page, all from one point.
+void drawRays(QPainter& painter, const QRectF& page, const QPointF& centre, const QColor& tone);
 
 } // namespace kavor::demo

@@ -7,10 +7,6 @@
 
 namespace kavor::demo {
 
-/// A promotion's poster; the words follow the language where it is one of those that the drawing knows.
-void drawPoster(QPainter& painter, const QRectF& page, const Poster& poster, const Look& look,
-                int languageId);
-
 void drawActivationLogo(QPainter& painter, const QRectF& area, const ActivationGroup& group,
                         const Look& look);
 void drawActivationBackground(QPainter& painter, const QRectF& area, int rgb);

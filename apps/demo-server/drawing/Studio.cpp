@@ -4,6 +4,7 @@
 #include "drawing/Covers.h"
 #include "drawing/Emblems.h"
 #include "drawing/Goods.h"
+#include "drawing/PosterArt.h"
 #include "drawing/Scenes.h"
 #include "drawing/Vessels.h"
 
@@ -73,10 +74,11 @@ void drawSample(Draw draw, QPainter& painter, const QRectF& area, const Record& 
     draw(painter, area, record, looksAt(catalogue, record.brandPlaces));
 }
 
-void drawPosterOf(QPainter& painter, const QRectF& area, const Picture& picture, const Catalogue& catalogue) {
-    const Poster& poster = recordOf(posters(), picture.a);
-    const Look& look = brandAt(catalogue.brands(), poster.family, poster.brandPlace).look;
-    drawPoster(painter, area, poster, look, picture.b);
+void drawPosterOf(QPainter& painter, const QRectF& area, const Poster& poster, int language,
+                  const Catalogue& catalogue) {
+    PosterWords words;
+    words.language = language;
+    drawPoster(painter, area, poster, poster.look(catalogue.brands()), words);
 }
 
 void drawActivation(QPainter& painter, const QRectF& area, const Picture& picture,
@@ -231,7 +233,7 @@ void Studio::draw(QPainter& painter, const Picture& picture) const {
     case PictureKind::qrBlock:
         return drawQrBlock(painter, area, brandOf(picture.a).look, address);
     case PictureKind::poster:
-        return drawPosterOf(painter, area, picture, catalogue_);
+        return drawPosterOf(painter, area, recordOf(posters(), picture.a), picture.b, catalogue_);
     case PictureKind::support:
         return drawSupportSign(painter, area, recordOf(supports(), picture.a));
     case PictureKind::sheetStyle:

@@ -99,6 +99,8 @@ void Database::createTables() {
              "CREATE TABLE IF NOT EXISTS messages (id INTEGER PRIMARY KEY, order_id INTEGER, kind TEXT, "
              "created INTEGER, body TEXT)",
              "CREATE TABLE IF NOT EXISTS profiles (account INTEGER PRIMARY KEY, page TEXT UNIQUE, body TEXT)",
+             "CREATE TABLE IF NOT EXISTS mails (id INTEGER PRIMARY KEY, account INTEGER, order_id INTEGER, "
+             "created INTEGER, recipient TEXT, subject TEXT, url TEXT)",
              "CREATE TABLE IF NOT EXISTS seeds (account INTEGER PRIMARY KEY, number INTEGER)",
          }) {
         run(sql);

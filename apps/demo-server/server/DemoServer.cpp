@@ -112,6 +112,21 @@ Json logEntry(const httplib::Request& request) {
             {"body", redacted(request.body)}};
 }
 
+Json provokedErrors() {
+    return {{"campo", {"Primer mensaje provocado.", "Segundo mensaje provocado."}}};
+}
+
+Answer withoutAddresses(Answer answer) {
+    Json body = Json::parse(*answer.body, nullptr, false);
+    if (!body.is_object()) {
+        return answer;
+    }
+    for (const char* address : {"url", "url_pdf", "url_order"}) {
+        body.erase(address);
+    }
+    return Answer::json(body, answer.status);
+}
+
 } // namespace
 
 DemoServer::DemoServer(const Options& options)
@@ -143,6 +158,7 @@ DemoServer::DemoServer(const Options& options)
     addAccountRoutes();
     addOrderRoutes();
     addMaterialRoutes();
+    addPromotionRoutes();
     addFileRoutes();
     addTestRoutes();
     if (options.history) {
@@ -317,14 +333,14 @@ std::optional<Answer> DemoServer::outdated(const httplib::Request& request) cons
 }
 
 Answer DemoServer::withFault(const FaultSwitch& fault, const std::function<Answer()>& real) const {
-    const bool needsReal =
-        fault.after || fault.kind == FaultSwitch::Kind::cut || fault.kind == FaultSwitch::Kind::slow;
+    const bool needsReal = fault.after || fault.kind == FaultSwitch::Kind::cut ||
+                           fault.kind == FaultSwitch::Kind::slow || fault.kind == FaultSwitch::Kind::noUrl;
     Answer answer = needsReal ? real() : Answer::message(fault.status, "Fallo provocado");
     switch (fault.kind) {
     case FaultSwitch::Kind::status: {
         Json body = {{"msg", "Fallo provocado"}};
         if (fault.status == 422 || fault.status == 429) {
-            body["errors"] = {{"campo", {"Primer mensaje provocado.", "Segundo mensaje provocado."}}};
+            body["errors"] = provokedErrors();
         } else if (fault.status == 505) {
             body["update_link"] = baseUrl_ + "/actualizar";
         }
@@ -350,6 +366,10 @@ Answer DemoServer::withFault(const FaultSwitch& fault, const std::function<Answe
     case FaultSwitch::Kind::delay:
         std::this_thread::sleep_for(std::chrono::milliseconds(fault.milliseconds));
         return real();
+    case FaultSwitch::Kind::errors:
+        return Answer::json({{"errors", provokedErrors()}});
+    case FaultSwitch::Kind::noUrl:
+        return withoutAddresses(std::move(answer));
     case FaultSwitch::Kind::close:
         answer.delivery = Answer::Delivery::close;
         return answer;

@@ -100,10 +100,17 @@ private:
     Answer claimOrder(const Call& call);
     Answer demandQr(const Call& call);
 
-    // Textile, posters, selling sheets, activations.
+    // Promotions, and the mails of every sort of order.
+    void addPromotionRoutes();
+    Answer sendPromotion(const Call& call);
+    /// What would go to each address once; blank ones get nothing.
+    void mail(const Account& account, const Order& order, std::vector<std::string> recipients,
+              const std::string& subject);
+    Json mails();
+
+    // Textile, selling sheets, activations.
     void addMaterialRoutes();
     Answer saveTextile(const Call& call);
-    Answer sendPromotion(const Call& call);
     Answer sendSheet(const Call& call);
     Answer deleteSheet(const Call& call);
     Answer sendActivation(const Call& call);

@@ -24,7 +24,8 @@ std::optional<std::string> FaultSwitches::add(const Json& description) {
         {"html", FaultSwitch::Kind::html},     {"not-json", FaultSwitch::Kind::notJson},
         {"empty", FaultSwitch::Kind::empty},   {"cut", FaultSwitch::Kind::cut},
         {"slow", FaultSwitch::Kind::slow},     {"delay", FaultSwitch::Kind::delay},
-        {"close", FaultSwitch::Kind::close},
+        {"close", FaultSwitch::Kind::close},   {"errors", FaultSwitch::Kind::errors},
+        {"no-url", FaultSwitch::Kind::noUrl},
     };
     if (!description.is_object() || !description.contains("path") || !description.contains("fault")) {
         return "path and fault are needed";

@@ -20,6 +20,8 @@ struct FaultSwitch {
         cut,        ///< the real answer, half of it
         slow,       ///< the real answer in small pieces
         delay,      ///< the real answer after a while
+        errors,     ///< 200 with "errors", and nothing done
+        noUrl,      ///< the real answer without its addresses
         close       ///< no answer at all
     };
     std::string path;   ///< whole path, or a beginning that ends with *

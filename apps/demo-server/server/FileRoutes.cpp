@@ -3,6 +3,7 @@
 #include "documents/MenuPdf.h"
 #include "documents/OrderPage.h"
 #include "documents/PaperPdfs.h"
+#include "documents/PromotionPdf.h"
 #include "server/DemoServer.h"
 #include "server/OrderRecords.h"
 

@@ -1,6 +1,7 @@
 #include "server/History.h"
 
 #include "catalogue/Dice.h"
+#include "catalogue/Posters.h"
 #include "server/SampleOrder.h"
 #include "server/Time.h"
 
@@ -128,10 +129,9 @@ void addWhatIsGone(Json& menu) {
     format["product"] = known["brand"].get<int>() * 10 + 9;
     known["sub_items"].push_back(format);
     Json brand = known;
-    constexpr int gone = 990001;
-    brand["brand"] = gone;
-    brand["name"] = "Torrealba de Ayer";
-    format["product"] = gone * 10 + 1;
+    brand["brand"] = retiredBrandId;
+    brand["name"] = retiredBrandName;
+    format["product"] = retiredBrandId * 10 + 1;
     brand["sub_items"] = Json::array({format});
     menu["items"].push_back(std::move(brand));
 }

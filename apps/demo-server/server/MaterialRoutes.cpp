@@ -26,8 +26,6 @@ void DemoServer::addMaterialRoutes() {
         return order ? Answer::json(retrievedTextile(*order, orders_, baseUrl_))
                      : Answer::message(404, "El pedido no existe.");
     });
-    route("POST", "/api/promotions", Access::bearerWrite,
-          [this](const Call& call) { return sendPromotion(call); });
     route("GET", "/api/sheets/list", Access::bearer, [this](const Call& call) {
         Json sheets = Json::array();
         for (const Order& order : orders_.list(call.account.id, "sheet")) {
@@ -92,35 +90,6 @@ Answer DemoServer::saveTextile(const Call& call) {
     return Answer::json(answer);
 }
 
-Answer DemoServer::sendPromotion(const Call& call) {
-    const Json body = call.json();
-    if (const Faults faults = promotionFormFaults(body); !faults.empty()) {
-        return refusal(faults);
-    }
-    Faults faults;
-    if (!holds(posters(), body["promotion_id"].get<int>())) {
-        faults["promotion_id"].push_back("La promoción ya no está en el catálogo.");
-    }
-    if (body["supports"].empty()) {
-        faults["supports"].push_back("Elige al menos un formato.");
-    }
-    if (!faults.empty()) {
-        return refusal(faults);
-    }
-    if (!body["save"].get<bool>()) {
-        return Answer::json({{"url", previewUrl("promotion", body)}});
-    }
-    Order order;
-    order.account = call.account.id;
-    order.kind = "promotion";
-    order.type = 6;
-    order.tevo = body["customer"].value("cod_tevo", "");
-    order.pdv = body["customer"].value("name", "");
-    order.body = body;
-    orders_.add(order);
-    return Answer::json({{"url", orderPdf(order, baseUrl_)}, {"order_id", order.id}});
-}
-
 Answer DemoServer::sendSheet(const Call& call) {
     const Json body = call.json();
     if (const Faults faults = sellingSheetFormFaults(body); !faults.empty()) {
@@ -144,6 +113,11 @@ Answer DemoServer::sendSheet(const Call& call) {
     order.filename = body["name_order"].get<std::string>();
     order.body = body;
     known ? orders_.update(order) : orders_.add(order);
+    std::vector<std::string> recipients;
+    for (const char* key : {"email_to_send1", "email_to_send2", "email_to_send3"}) {
+        recipients.push_back(body.value(key, ""));
+    }
+    mail(call.account, order, recipients, "Hoja vendedora: " + order.filename);
     return Answer::json({{"url", orderPdf(order, baseUrl_)}, {"order_id", order.id}});
 }
 

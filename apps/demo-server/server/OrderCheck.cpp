@@ -317,6 +317,21 @@ void checkQuantity(const char* member, std::int64_t quantity, bool ofThisType, s
     }
 }
 
+void checkPromotions(const Json& content, Faults& faults) {
+    const auto promotions = content.find("promotions");
+    for (size_t i = 0; promotions != content.end() && i < promotions->size(); ++i) {
+        const Json& attached = (*promotions)[i];
+        const std::string path = "menu.promotions[" + std::to_string(i) + "]";
+        if (const Poster* poster = posterOf(attached["promotion_id"].get<int>())) {
+            checkAttributes(attached["attributes"], *poster, path + ".attributes", faults);
+        } else {
+            faults[path + ".promotion_id"].push_back("La promoción «" +
+                                                     attached["promotion_name"].get<std::string>() +
+                                                     "» ya no está en el catálogo.");
+        }
+    }
+}
+
 QrMaterial qrOf(const Json& content) {
     QrMaterial material;
     material.brand = content["brand_qr_id"].get<std::int64_t>();
@@ -385,6 +400,7 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
         checkReference(
             content, key, [&](int id) { return catalogue.style(id) != nullptr; }, faults);
     }
+    checkPromotions(content, faults);
     if (content.contains("brand_qr_id")) {
         for (auto& [member, sentences] :
              qrFaults(qrOf(content), content["order_type"].get<int>(), catalogue)) {

@@ -2,6 +2,7 @@
 
 #include "Json.h"
 #include "catalogue/Catalogue.h"
+#include "catalogue/Posters.h"
 
 #include <map>
 #include <string>
@@ -23,6 +24,14 @@ Faults activationFormFaults(const Json& order);
 /// What keeps a well-formed menu from being printed: no name of the bar, no brand, references that left the
 /// catalogue, QR material that its kind does not have.
 Faults brochureContentFaults(const Json& order, const Catalogue& catalogue);
+
+/// What keeps a well-formed promotion order from being printed: a promotion that left the catalogue, formats,
+/// languages, attributes or choices that are not its own, a price that is no number, an impossible date, an
+/// address that is none.
+Faults promotionContentFaults(const Json& order);
+/// The same for what is given for a promotion's attributes, in a promotion order or in a menu; `path` is
+/// where they stand.
+void checkAttributes(const Json& attributes, const Poster& poster, const std::string& path, Faults& faults);
 
 /// QR material as it is asked for: of one brand, stickers (type 1) or wooden blocks (type 2).
 struct QrMaterial {

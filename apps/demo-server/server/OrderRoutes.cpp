@@ -119,6 +119,9 @@ Answer DemoServer::storeBrochure(const Call& call, const Json& body, std::int64_
     if (body["save"] == sendToPrint) {
         answer["url_order"] = orderPage(order, baseUrl_);
         answer["url_pdf"] = orderPdf(order, baseUrl_);
+        if (body["printed_myself"].get<bool>()) {
+            mail(call.account, order, {call.account.login}, "PDF para imprimir: " + order.pdv);
+        }
         answer["message"] =
             body["printed_myself"].get<bool>()
                 ? "Pedido realizado correctamente. Recibirás el PDF en tu correo para imprimirlo."
