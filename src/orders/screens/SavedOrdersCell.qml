@@ -25,7 +25,8 @@ OrderCell {
 
     // Where the keyboard enters the row.
     function focusFirst(): void {
-        (canSend ? send.item : cell).forceActiveFocus(Qt.TabFocusReason);
+        const first = canSend ? send.item as Item : cell as Item;
+        first.forceActiveFocus(Qt.TabFocusReason);
     }
 
     objectName: "savedOrder" + key
