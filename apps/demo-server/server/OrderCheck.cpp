@@ -372,8 +372,8 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
     if (content["customer"]["name"].get<std::string>().empty()) {
         faults["menu.customer.name"].push_back("El nombre del establecimiento es obligatorio.");
     }
-    if (const auto email = content["customer"].value("email", ""); !email.empty() && !isEmail(email)) {
-        faults["menu.customer.email"].push_back("«" + email + "» no es una dirección de correo.");
+    if (const auto address = content["customer"].value("email", ""); !address.empty() && !isEmail(address)) {
+        faults["menu.customer.email"].push_back("«" + address + "» no es una dirección de correo.");
     }
     const bool noDrinks = content.value("other_drinks", Json::array()).empty();
     if (content["items"].empty() && noDrinks) {

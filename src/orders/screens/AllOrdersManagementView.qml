@@ -197,7 +197,11 @@ FocusScope {
         active: view.sheet.orderId !== undefined
         sourceComponent: SentOrderSheet { controller: view.controller }
     }
-    SyncHelpView { controller: view.controller }
+    Loader {
+        anchors.fill: parent
+        active: view.controller.helpShown
+        sourceComponent: SyncHelpView { controller: view.controller }
+    }
     ScreenVeil {
         objectName: "veloView"
         veilState: view.controller.veil

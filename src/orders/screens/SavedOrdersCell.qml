@@ -25,7 +25,8 @@ OrderCell {
 
     // Where the keyboard enters the row.
     function focusFirst(): void {
-        (canSend ? send : cell).forceActiveFocus(Qt.TabFocusReason);
+        const first = canSend ? send.item as Item : cell as Item;
+        first.forceActiveFocus(Qt.TabFocusReason);
     }
 
     objectName: "savedOrder" + key
@@ -65,18 +66,26 @@ OrderCell {
             font.pixelSize: Theme.fontLarge
             font.weight: Font.Bold
         },
-        Chip {
-            objectName: "changesMark"
-            visible: cell.hasChanges
-            icon: "cloud-upload"
-            tone: "amber"
-            text: "Cambios sin subir"
+        // Few rows have these.
+        Loader {
+            active: cell.hasChanges
+            visible: active
+            sourceComponent: Chip {
+                objectName: "changesMark"
+                icon: "cloud-upload"
+                tone: "amber"
+                text: "Cambios sin subir"
+            }
         },
-        HelpText {
-            objectName: "refusal"
+        Loader {
             width: parent.width
-            tone: "danger"
-            text: cell.refusal
+            active: cell.refusal !== ""
+            visible: active
+            sourceComponent: HelpText {
+                objectName: "refusal"
+                tone: "danger"
+                text: cell.refusal
+            }
         }
     ]
     foot: [
@@ -100,15 +109,18 @@ OrderCell {
         }
     ]
     buttons: [
-        AppButton {
+        Loader {
             id: send
 
-            objectName: "sendButton"
-            visible: cell.canSend
-            text: "Enviar"
-            icon: "send"
-            busy: cell.busy
-            onClicked: cell.sendTapped()
+            active: cell.canSend
+            visible: active
+            sourceComponent: AppButton {
+                objectName: "sendButton"
+                text: "Enviar"
+                icon: "send"
+                busy: cell.busy
+                onClicked: cell.sendTapped()
+            }
         },
         IconButton {
             objectName: "editButton"

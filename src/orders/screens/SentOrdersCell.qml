@@ -95,12 +95,15 @@ OrderCell {
         }
     }
     buttons: [
-        IconButton {
-            objectName: "demandQrOrderButton"
-            visible: cell.canDemandQr
-            icon: "qr"
-            text: "Volver a pedir el material QR"
-            onClicked: cell.demandQrTapped()
+        Loader {
+            active: cell.canDemandQr
+            visible: active
+            sourceComponent: IconButton {
+                objectName: "demandQrOrderButton"
+                icon: "qr"
+                text: "Volver a pedir el material QR"
+                onClicked: cell.demandQrTapped()
+            }
         },
         IconButton {
             objectName: "copyOrderButton"
