@@ -275,6 +275,7 @@ void drawPennants(QPainter& painter, const MenuPaper& paper, const std::vector<P
 
 void drawBanner(QPainter& painter, const MenuPaper& paper, const PennantBrand& banner, const QRectF& area) {
     std::vector<const Look*> looks;
+    looks.reserve(banner.brandPlaces.size());
     for (const int place : banner.brandPlaces) {
         looks.push_back(&brandAt(paper.catalogue().brands(), Family::beer, place).look);
     }
