@@ -232,6 +232,7 @@ std::vector<Pennant> chosenPennants(const MenuPaper& paper) {
         }
     }
     std::vector<Pennant> chosen;
+    chosen.reserve(byPosition.size());
     for (auto& [ignored, pennant] : byPosition) {
         chosen.push_back(std::move(pennant));
     }
