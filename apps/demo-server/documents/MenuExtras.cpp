@@ -232,6 +232,7 @@ std::vector<Pennant> chosenPennants(const MenuPaper& paper) {
         }
     }
     std::vector<Pennant> chosen;
+    chosen.reserve(byPosition.size());
     for (auto& [ignored, pennant] : byPosition) {
         chosen.push_back(std::move(pennant));
     }
@@ -275,6 +276,7 @@ void drawPennants(QPainter& painter, const MenuPaper& paper, const std::vector<P
 
 void drawBanner(QPainter& painter, const MenuPaper& paper, const PennantBrand& banner, const QRectF& area) {
     std::vector<const Look*> looks;
+    looks.reserve(banner.brandPlaces.size());
     for (const int place : banner.brandPlaces) {
         looks.push_back(&brandAt(paper.catalogue().brands(), Family::beer, place).look);
     }

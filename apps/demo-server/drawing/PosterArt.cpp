@@ -81,7 +81,7 @@ private:
     /// A band with the title over the vessels, which stand in rays.
     void printBanded() {
         painter_.fillRect(page_, paper_);
-        drawRays(painter_, page_, QPointF(w() / 2, h() * 0.53), colour(theme_.accent, 46));
+        rays(page_, QPointF(w() / 2, h() * 0.53), colour(theme_.accent, 46));
         fill(ink_);
         painter_.drawRect(part(0, 0, 1, 0.225));
         fill(accent_);
@@ -102,7 +102,7 @@ private:
         const QColor light = theme_.dark ? ink_ : paper_;
         painter_.fillRect(page_, ground);
         const QPointF centre(w() / 2, h() * 0.325);
-        drawRays(painter_, page_, centre, mixed(ground, light, 0.07));
+        rays(page_, centre, mixed(ground, light, 0.07));
         const double radius = std::min(w() * 0.4, h() * 0.275);
         fill(accent_);
         painter_.drawEllipse(centre, radius * 1.05, radius * 1.05);
@@ -154,8 +154,7 @@ private:
         const QRectF field(0, 0, edge, h());
         fill(ground);
         painter_.drawRect(field);
-        drawRays(painter_, field, QPointF(edge / 2, h() * 0.55),
-                 mixed(ground, theme_.dark ? ink_ : paper_, 0.1));
+        rays(field, QPointF(edge / 2, h() * 0.55), mixed(ground, theme_.dark ? ink_ : paper_, 0.1));
         fill(accent_);
         painter_.drawRect(QRectF(edge, 0, 10, h()));
         vessels(QRectF(edge * 0.1, h() * 0.09, edge * 0.8, h() * 0.83));
@@ -170,6 +169,11 @@ private:
         }
         hours(QRectF(left, h() * 0.71, std::min(300.0, (right - left) * 0.5), h() * 0.085), ink_);
         footer(QRectF(QPointF(left, h() * 0.83), QPointF(right, h() * 0.945)), ink_);
+    }
+
+    /// Not quite to the edge, where a clip would cover more than the ground below it.
+    void rays(const QRectF& area, const QPointF& centre, const QColor& tone) {
+        drawRays(painter_, area.adjusted(1, 1, -1, -1), centre, tone);
     }
 
     void title(const QRectF& area, const QColor& tone) {
@@ -302,7 +306,6 @@ void drawPoster(QPainter& painter, const QRectF& page, const Poster& poster, con
                 const PosterWords& words) {
     const QSizeF size = page.size() * (side / std::min(page.width(), page.height()));
     const Canvas canvas(painter, page, size);
-    painter.setClipRect(QRectF(QPointF(0, 0), size), Qt::IntersectClip);
     Press(painter, size, poster, look, words).print();
 }
 

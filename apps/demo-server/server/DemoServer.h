@@ -104,7 +104,7 @@ private:
     void addPromotionRoutes();
     Answer sendPromotion(const Call& call);
     /// What would go to each address once; blank ones get nothing.
-    void mail(const Account& account, const Order& order, std::vector<std::string> recipients,
+    void mail(const Account& account, const Order& order, const std::vector<std::string>& recipients,
               const std::string& subject);
     Json mails();
 

@@ -5,7 +5,7 @@
 
 #include <httplib.h>
 
-#include <algorithm>
+#include <set>
 
 namespace kavor::demo {
 
@@ -49,12 +49,9 @@ Answer DemoServer::sendPromotion(const Call& call) {
     return Answer::json({{"url", orderPdf(order, baseUrl_)}, {"order_id", order.id}});
 }
 
-void DemoServer::mail(const Account& account, const Order& order, std::vector<std::string> recipients,
+void DemoServer::mail(const Account& account, const Order& order, const std::vector<std::string>& recipients,
                       const std::string& subject) {
-    std::ranges::sort(recipients);
-    const auto repeated = std::ranges::unique(recipients);
-    recipients.erase(repeated.begin(), repeated.end());
-    for (const std::string& recipient : recipients) {
+    for (const std::string& recipient : std::set<std::string>(recipients.begin(), recipients.end())) {
         if (recipient.find_first_not_of(' ') != std::string::npos) {
             database_.run("INSERT INTO mails (account, order_id, created, recipient, subject, url) "
                           "VALUES (?, ?, ?, ?, ?, ?)",
