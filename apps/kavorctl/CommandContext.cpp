@@ -43,6 +43,16 @@ std::string utf8Text(const std::string& bytes) {
     return QUtf8StringView(bytes).isValidUtf8() ? bytes : QString::fromUtf8(bytes).toStdString();
 }
 
+void printMessages(CommandContext& context, const std::vector<std::string>& messages) {
+    if (context.json) {
+        context.out << listText(messages);
+    } else {
+        for (const std::string& message : messages)
+            context.out << message << '\n';
+    }
+    context.status = messages.empty() ? fine : orderHasMessages;
+}
+
 std::string listText(const std::vector<std::string>& texts) {
     return prettyText(texts);
 }

@@ -66,6 +66,9 @@ std::string prettyText(const Record& record) {
     return *text + "\n";
 }
 
+// What an order lacks, one a line or as a list of texts; the exit status tells of it.
+void printMessages(CommandContext& context, const std::vector<std::string>& messages);
+
 // A list of texts as a pretty document with a line feed at its end.
 std::string listText(const std::vector<std::string>& texts);
 

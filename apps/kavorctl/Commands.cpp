@@ -38,6 +38,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addCatalogueCommands(program, context);
     addOrderCommands(program, context);
     addOrderListCommands(program, context);
+    addPromotionCommands(program, context);
     addSessionCommands(program, context);
     addAccountCommands(program, context);
     addSyncCommand(program, context);

@@ -13,6 +13,7 @@ void addAccountCommands(CLI::App& program, CommandContext& context);
 void addCatalogueCommands(CLI::App& program, CommandContext& context);
 void addOrderCommands(CLI::App& program, CommandContext& context);
 void addOrderListCommands(CLI::App& program, CommandContext& context);
+void addPromotionCommands(CLI::App& program, CommandContext& context);
 void addSessionCommands(CLI::App& program, CommandContext& context);
 void addSyncCommand(CLI::App& program, CommandContext& context);
 

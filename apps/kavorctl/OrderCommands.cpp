@@ -13,17 +13,6 @@ namespace {
 
 using Inputs = std::shared_ptr<OrderInputs>;
 
-// The messages one per line or as a list of texts; they are what the exit status tells of.
-void printMessages(CommandContext& context, const std::vector<std::string>& messages) {
-    if (context.json) {
-        context.out << listText(messages);
-    } else {
-        for (const std::string& message : messages)
-            context.out << message << '\n';
-    }
-    context.status = messages.empty() ? fine : orderHasMessages;
-}
-
 CLI::App* addCommand(CLI::App& group, const Inputs& inputs, const std::string& name,
                      const std::string& help) {
     CLI::App* command = group.add_subcommand(name, help);

@@ -3,6 +3,7 @@
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/OrderList.h"
+#include "promotions/PromotionOrder.h"
 #include "session/AppSingleton.h"
 #include "support/CatalogueBuilder.h"
 #include "support/JsonData.h"
@@ -71,6 +72,65 @@ TEST_F(CommandsTest, ChecksAnOrderWithTheRulesOfTheClient) {
     EXPECT_EQ(lines, bad.out);
     EXPECT_EQ(kavorctl(withSession({"order", "warnings", file})).status, ctl::fine);
     EXPECT_EQ(kavorctl(withSession({"order", "warnings", file, "--json"})).out, "[]\n");
+}
+
+TEST_F(CommandsTest, ListsThePromotionsOnOfferAndChecksTheOrderOfOne) {
+    CatalogueBuilder builder;
+    Posters posters;
+    posters.classifications = {{1, 1, "Verano"}};
+    const HashedResource picture{"poster", Url{"http://server.example/poster.png"}, 3};
+    Posters::Promotion summer{7, 10, "Roble", 1, "Cartel", 1, "Dos por uno", "", 2, false};
+    summer.languages = {{2, "Català", false, picture}, {1, "Castellano", true, picture}};
+    summer.supports = {{5, 1, "A3", 1}};
+    summer.attributes = {{3, "Precio", 10, 3, {}}};
+    Posters::Promotion plain{8, 11, "Encina", 1, "Cartel", std::nullopt, "Happy hour", "", 1, true};
+    plain.languages = {{1, "Castellano", true, picture}};
+    posters.promotions = {summer, plain};
+    builder.information.promotion = posters;
+    builder.brochures().promotions = posters;
+    std::string document = *json::encode(builder.information);
+    for (auto at = document.find("\"path\":\"\""); at != std::string::npos;
+         at = document.find("\"path\":\"\""))
+        document.insert(at + 8, "p.png");
+    put(catalogue, document);
+
+    const auto list = [this](const std::vector<std::string>& more) {
+        std::vector<std::string> arguments{"promotion", "list", "--catalogue", catalogue};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return kavorctl(arguments).out;
+    };
+    const std::string summerLines = "7\t1\tDos por uno\tRoble\tVerano\n7\t2\tDos por uno\tRoble\tVerano\n";
+    EXPECT_EQ(list({}), "8\t1\tHappy hour\tEncina\t-\n" + summerLines);
+    EXPECT_EQ(list({"--menu"}), "8\t1\tHappy hour\tEncina\t-\n");
+    EXPECT_EQ(list({"--brand", "10", "--classification", "1"}), summerLines);
+    EXPECT_EQ(list({"--brand", "11", "--classification", "1"}), "");
+
+    LoginResult login;
+    login.msg = "ok";
+    login.customerCodeRequired = true;
+    put(loginFile, *json::encode(login));
+    PromotionOrder order;
+    order.promotionId = 7;
+    order.attributes = {{3, "dos"}};
+    put(file, *json::encode(order));
+    Outcome outcome = kavorctl(withSession({"promotion", "check", file}));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out,
+              "El código cliente debe informarse.\nEl nombre del establecimiento es obligatorio.\n"
+              "No hay ningún formato seleccionado, seleccione al menos uno.\n"
+              "El precio no es válido.\n");
+    order.attributes = {{3, "2,5"}};
+    order.supports = {{5, 1}};
+    order.customer = {std::nullopt, "B1", "Bar Olmo"};
+    put(file, *json::encode(order));
+    EXPECT_EQ(kavorctl(withSession({"promotion", "check", file})).status, 0);
+    outcome = kavorctl({"promotion", "decode", file});
+    EXPECT_EQ(JsonData::of(outcome.out).text(true), JsonData::of(contentOf(file)).text(true));
+    order.promotionId = 9;
+    put(file, *json::encode(order));
+    outcome = kavorctl(withSession({"promotion", "check", file}));
+    EXPECT_EQ(outcome.status, 2) << outcome.err;
+    EXPECT_EQ(kavorctl({"promotion", "send", file, "--save", "cloud"}).status, ctl::wrongUsage);
 }
 
 TEST_F(CommandsTest, NamesTheFileAndThePlaceOfAFault) {
