@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "OnlineSession.h"
 #include "OptionValues.h"
-#include "base/json/Table.h"
+#include "PromotionRows.h"
 #include "documents/Answers.h"
 #include "orders/services/SendIntent.h"
 #include "promotions/PromotionDraft.h"
@@ -10,31 +10,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
-
-namespace kavor::ctl {
-
-// A promotion as a list names it.
-struct PromotionRow {
-    Int id = 0;
-    std::optional<Int> languageId;
-    std::string name;
-    std::string brand;
-    std::optional<std::string> classification;
-};
-
-} // namespace kavor::ctl
-
-namespace kavor::json {
-
-template <>
-struct Table<ctl::PromotionRow> {
-    using R = ctl::PromotionRow;
-    static constexpr auto fields =
-        std::tuple{required("id", &R::id), optional("languageId", &R::languageId), required("name", &R::name),
-                   required("brand", &R::brand), optional("classification", &R::classification)};
-};
-
-} // namespace kavor::json
 
 namespace kavor::ctl {
 
@@ -75,13 +50,7 @@ void list(CommandContext& context, const PromotionInputs& inputs) {
     std::vector<PromotionRow> rows;
     for (const std::size_t place : gallery.visiblePromotions(inputs.classification, inputs.brand))
         rows.push_back(rowOf(gallery, gallery.unfilteredPromotions()[place]));
-    if (context.json) {
-        context.out << prettyText(rows);
-        return;
-    }
-    for (const PromotionRow& row : rows)
-        context.out << row.id << '\t' << (row.languageId ? std::to_string(*row.languageId) : "-") << '\t'
-                    << row.name << '\t' << row.brand << '\t' << row.classification.value_or("-") << '\n';
+    printRows(context, rows);
 }
 
 // The attributes of the order's promotion, in whichever of the two lists it stands.

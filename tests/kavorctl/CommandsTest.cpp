@@ -79,11 +79,12 @@ TEST_F(CommandsTest, ListsThePromotionsOnOfferAndChecksTheOrderOfOne) {
     Posters posters;
     posters.classifications = {{1, 1, "Verano"}};
     const HashedResource picture{"poster", Url{"http://server.example/poster.png"}, 3};
-    Posters::Promotion summer{7, 10, "Roble", 1, "Cartel", 1, "Dos por uno", "", 2, false};
+    Posters::Promotion summer{7, 10, "Roble", 1, "Cartel", 1, "Dos por uno", "", 2, false, {}, {}, {}};
     summer.languages = {{2, "Català", false, picture}, {1, "Castellano", true, picture}};
     summer.supports = {{5, 1, "A3", 1}};
     summer.attributes = {{3, "Precio", 10, 3, {}}};
-    Posters::Promotion plain{8, 11, "Encina", 1, "Cartel", std::nullopt, "Happy hour", "", 1, true};
+    Posters::Promotion plain{8, 11,   "Encina", 1,  "Cartel", std::nullopt, "Happy hour", "",
+                             1, true, {},       {}, {}};
     plain.languages = {{1, "Castellano", true, picture}};
     posters.promotions = {summer, plain};
     builder.information.promotion = posters;

@@ -1,7 +1,6 @@
 #include "brochures/wizard/WizardStepFactory.h"
 
 #include "base/StopProcess.h"
-#include "brochures/wizard/ComingSoonStep.h"
 #include "brochures/wizard/WizardStepContext.h"
 #include "brochures/wizard/configuration/BrochureConfigurationViewController.h"
 #include "brochures/wizard/drinks/BrochureDrinkListViewController.h"
@@ -15,14 +14,6 @@
 #include "brochures/wizard/style/BrochureStyleSelectorViewController.h"
 
 namespace kavor {
-
-namespace {
-
-WizardStepViewController* comingSoon(const char* title, const char* icon, QObject* parent) {
-    return new ComingSoonStep(QString::fromUtf8(title), QString::fromLatin1(icon), parent);
-}
-
-} // namespace
 
 WizardStepViewController* makeWizardStep(int wizardStep, const WizardServices& services, QObject* parent) {
     const WizardStepContext context(services);
