@@ -291,19 +291,33 @@ void drawBanner(QPainter& painter, const MenuPaper& paper, const PennantBrand& b
                Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, banner.description, face(Face::body, 16));
 }
 
+/// By position, what the user added behind what the catalogue has.
+std::vector<const Json*> inOrder(const Json& list, const char* name, const char* position) {
+    std::vector<const Json*> sorted;
+    for (const Json& each : list) {
+        sorted.push_back(&each);
+    }
+    std::ranges::stable_sort(sorted, {}, [&](const Json* each) {
+        return std::pair(each->contains(name), each->value(position, 0));
+    });
+    return sorted;
+}
+
 } // namespace
 
 std::vector<Group> drinkGroups(const MenuPaper& paper) {
     std::vector<Group> groups;
-    for (const Json& category : listOf(paper.menu(), "other_drinks")) {
-        Group group{.heading = categoryName(category), .blocks = {}, .gap = 3};
-        if (auto note = categoryNote(paper, category)) {
+    for (const Json* category :
+         inOrder(listOf(paper.menu(), "other_drinks"), "category_name", "category_position")) {
+        Group group{.heading = categoryName(*category), .blocks = {}, .gap = 3};
+        if (auto note = categoryNote(paper, *category)) {
             group.blocks.push_back(std::move(*note));
         }
-        for (const Json& element : category["other_products"]) {
-            group.blocks.push_back({drinkHeight(element),
-                                    [&paper, &element](QPainter& painter, const QRectF& area) {
-                                        drawDrink(painter, paper, element, area);
+        for (const Json* element :
+             inOrder((*category)["other_products"], "product_format_name", "product_format_position")) {
+            group.blocks.push_back({drinkHeight(*element),
+                                    [&paper, element](QPainter& painter, const QRectF& area) {
+                                        drawDrink(painter, paper, *element, area);
                                     },
                                     24});
         }
