@@ -226,36 +226,8 @@ void BrochureMenuViewController::goTo(ValidationPlace place) {
 }
 
 void BrochureMenuViewController::countMissing() {
-    std::map<int, int> missing;
-    if (AppSingleton::shared().brochureType()) {
-        for (const ValidationMessage& message :
-             BrochureIntermediateData::temporalBrochure()->validationMessages())
-            ++missing[missingPlaceOf(message.place).button];
-    }
-    missing_ = std::move(missing);
+    marks_.count();
     emit menuButtonsChanged();
-}
-
-// Entries whose step no rule looks at, or that the user has not begun, are neither complete nor incomplete.
-bool BrochureMenuViewController::isComplete(MenuButton button) const {
-    const BrochureIntermediateData& draft = *BrochureIntermediateData::temporalBrochure();
-    if (!AppSingleton::shared().brochureType() || missing_.contains(button))
-        return false;
-    switch (button) {
-    case Configuration:
-        return true;
-    case Products:
-    case Prices:
-        return !draft.selectedBrands.empty();
-    case Drinks:
-        return !draft.selectedBeverages.empty();
-    case Style:
-        return draft.currentStyle() != nullptr;
-    case DigitalStyle:
-        return draft.currentStyleDigital() != nullptr;
-    default:
-        return false;
-    }
 }
 
 // The step stays on show below the preview, and below what the check has to say.
@@ -408,14 +380,13 @@ QVariantList BrochureMenuViewController::menuButtons() const {
         QString caption = QString::fromUtf8(entry.text);
         if (entry.button == Style && !styleDefaultLabel_.isEmpty())
             caption += QStringLiteral(": ") + styleDefaultLabel_;
-        buttons.append(QVariantMap{
-            {QStringLiteral("id"), int(entry.button)},
-            {QStringLiteral("text"), caption},
-            {QStringLiteral("icon"), QString::fromLatin1(entry.icon)},
-            {QStringLiteral("selected"), entry.button == selected_},
-            {QStringLiteral("visible"), isButtonVisible(entry.button)},
-            {QStringLiteral("badge"), missing_.contains(entry.button) ? missing_.at(entry.button) : 0},
-            {QStringLiteral("done"), isComplete(entry.button)}});
+        buttons.append(QVariantMap{{QStringLiteral("id"), int(entry.button)},
+                                   {QStringLiteral("text"), caption},
+                                   {QStringLiteral("icon"), QString::fromLatin1(entry.icon)},
+                                   {QStringLiteral("selected"), entry.button == selected_},
+                                   {QStringLiteral("visible"), isButtonVisible(entry.button)},
+                                   {QStringLiteral("badge"), marks_.missingAt(entry.button)},
+                                   {QStringLiteral("done"), marks_.isComplete(entry.button)}});
     }
     return buttons;
 }

@@ -2,6 +2,7 @@
 
 #include "base/NotificationCenter.h"
 #include "brochures/wizard/CatalogueCopy.h"
+#include "brochures/wizard/MenuMarks.h"
 #include "brochures/wizard/WizardStep.h"
 #include "screens/ScreenController.h"
 #include "screens/VeilState.h"
@@ -12,7 +13,6 @@
 #include <QTimer>
 #include <QVariantList>
 
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -131,7 +131,6 @@ private:
     void cover();
     void goTo(ValidationPlace place);
     void countMissing();
-    [[nodiscard]] bool isComplete(MenuButton button) const;
     void connectStep(WizardStepViewController* step);
 
     WizardServices services_;
@@ -146,7 +145,7 @@ private:
     WebPreviewViewController* preview_ = nullptr;
     std::shared_ptr<BrochureIntermediateData> actualOrder_;
     std::vector<NotificationCenter::Subscription> observers_;
-    std::map<int, int> missing_; // what the check says, by the entry where it is mended
+    MenuMarks marks_;
     QTimer counting_;
     CatalogueCopy catalogueToReset_; // made while the user is asked
     bool alreadyDismissedPreferredBrandsBanner_ = false;
