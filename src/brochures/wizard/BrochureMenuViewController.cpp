@@ -2,6 +2,7 @@
 
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/DrinkKinds.h"
 #include "brochures/engine/TemporalBrochure.h"
 #include "brochures/wizard/BrochureRoad.h"
 #include "brochures/wizard/MissingPlace.h"
@@ -198,6 +199,8 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
     });
     connect(step, &WizardStepViewController::promotionsRequested, this,
             [this](const MenuPromotionRequest& request) {
+                if (covered_) // a second tap
+                    return;
                 cover();
                 emit promotionsRequested(request);
             });
@@ -248,7 +251,7 @@ bool BrochureMenuViewController::isComplete(MenuButton button) const {
     case Prices:
         return !draft.selectedBrands.empty();
     case Drinks:
-        return !draft.selectedBeverages.empty();
+        return !draft.selectedBeverages.empty() && printsDrinks(*AppSingleton::shared().brochureType());
     case Style:
         return draft.currentStyle() != nullptr;
     case DigitalStyle:
