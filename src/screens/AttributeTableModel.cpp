@@ -53,6 +53,14 @@ int choiceOf(const AttributeRow& row) {
     return found == choices.end() ? -1 : int(found - choices.begin());
 }
 
+// Whether a value may stand in its row: a choice that is no longer offered is none.
+bool isOffered(const AttributeRow& row, const AttributeValue& value) {
+    const auto& choices = row.attribute.values;
+    return choices.empty() || !value.valueListId ||
+           std::ranges::find(choices, *value.valueListId, &Attribute::SortableElement::identifier) !=
+               choices.end();
+}
+
 } // namespace
 
 AttributeTableModel::AttributeTableModel(PhotoPicker& photos, Logo logo, QObject* parent)
@@ -73,7 +81,7 @@ void AttributeTableModel::ask(Int ownerId, const std::vector<Attribute>& attribu
         if (type != types.end())
             row.type = *type;
         const auto value = std::ranges::find(values, attribute.id, &AttributeValue::attributeId);
-        if (value != values.end())
+        if (value != values.end() && isOffered(row, *value))
             row.given = *value;
         wanted.push_back(std::move(row));
     }

@@ -67,6 +67,17 @@ TEST(AttributeTableModel, AnswersWhatWasGivenInTheOrderOfTheRowsWithoutTheEmptyO
     EXPECT_TRUE(table.values().empty());
 }
 
+TEST(AttributeTableModel, AChoiceThatIsNoLongerOfferedIsNone) {
+    FakePhotoPicker photos;
+    AttributeTableModel table(
+        photos, [] { return std::string(); }, nullptr);
+    const std::vector<Attribute> hours{{5, "Franja", 0, 4, {{121, "Noche", 2}, {120, "Mediodía", 1}}}};
+    table.ask(40, hours, types, {{5, "Mediodía", 120}});
+    EXPECT_EQ(table.values().size(), 1U);
+    table.ask(40, hours, types, {{5, "Desayuno", 119}});
+    EXPECT_TRUE(table.values().empty()) << "nobody could see that it would be ordered";
+}
+
 TEST(AttributeTableModel, APictureThatComesWhenSomethingElseAsksChangesNothing) {
     SlowPhotoPicker photos;
     AttributeTableModel table(

@@ -198,6 +198,8 @@ void BrochureMenuViewController::connectStep(WizardStepViewController* step) {
     });
     connect(step, &WizardStepViewController::promotionsRequested, this,
             [this](const MenuPromotionRequest& request) {
+                if (covered_) // a second tap
+                    return;
                 cover();
                 emit promotionsRequested(request);
             });

@@ -1,6 +1,7 @@
 #include "brochures/wizard/MenuMarks.h"
 
 #include "brochures/engine/BrochureIntermediateData.h"
+#include "brochures/engine/DrinkKinds.h"
 #include "brochures/wizard/MissingPlace.h"
 #include "session/AppSingleton.h"
 
@@ -32,7 +33,7 @@ bool MenuMarks::isComplete(int button) const {
     case Menu::Prices:
         return !draft.selectedBrands.empty();
     case Menu::Drinks:
-        return !draft.selectedBeverages.empty();
+        return !draft.selectedBeverages.empty() && printsDrinks(*AppSingleton::shared().brochureType());
     case Menu::Style:
         return draft.currentStyle() != nullptr;
     case Menu::DigitalStyle:

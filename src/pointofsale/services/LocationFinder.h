@@ -26,10 +26,10 @@ public:
     // location.
     void find(const Found& found, const std::function<void()>& unavailable = {});
     // Tells that the place can't be had, and looks for it again if the user wants it.
-    void retry(const Found& found);
+    void retry(const Found& found, const std::function<void()>& unavailable = {});
 
 private:
-    bool start(QObject* run, const Found& found);
+    bool start(QObject* run, const Found& found, const std::function<void()>& unavailable);
 
     ReverseLocationManager* location_;
     AlertPresenter& alerts_;

@@ -5,6 +5,7 @@
 #include "interaction/QtText.h"
 #include "interaction/Questions.h"
 #include "network/FailureMapping.h"
+#include "orders/services/SendIntent.h"
 #include "promotions/UnfinishedPromotion.h"
 #include "session/AppSingleton.h"
 
@@ -47,8 +48,9 @@ PromotionRoad::PromotionRoad(const OrderRoadServices& services, std::shared_ptr<
 
 PromotionRoad::~PromotionRoad() = default;
 
+// What was ordered does not come back, unless it was ordered once more and nobody has answered.
 void PromotionRoad::keep() {
-    if (isSentAsItStands())
+    if (isSentAsItStands() && !send_intent::keyOf(draft_->unansweredSends, contentToPrint()))
         UnfinishedPromotion::shared().sent(*draft_);
     else
         UnfinishedPromotion::shared().keep(*draft_);
@@ -83,13 +85,17 @@ SendContent PromotionRoad::contentOf(OrderRequestType type, const PromotionOrder
     return {type, *text};
 }
 
+SendContent PromotionRoad::contentToPrint() const {
+    return contentOf(OrderRequestType::sendToPrint, make(OrderRequestType::sendToPrint));
+}
+
 OrderAnswer PromotionRoad::read(const Answer& answer) const {
     return {true, answer.PDFURL ? std::optional(QUrl(fromUtf8(answer.PDFURL->text))) : std::nullopt,
             QStringLiteral("Pedido realizado correctamente")};
 }
 
 void PromotionRoad::takeSent(const Answer& answer) {
-    sentDraft_ = *draft_;
+    sentContent_ = contentToPrint().text();
     sentOrder_ = {answer.orderIdentifier, read(answer).document};
     keep();
 }

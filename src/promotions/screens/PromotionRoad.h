@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace kavor {
 
@@ -28,8 +29,10 @@ public:
     // The draft has changed.
     void keep();
     [[nodiscard]] const std::optional<SentOrder>& sentOrder() const { return sentOrder_; }
-    // Whether the server has the draft exactly as it stands.
-    [[nodiscard]] bool isSentAsItStands() const { return sentDraft_ == *draft_; }
+    // Whether the server has the very order that the draft makes.
+    [[nodiscard]] bool isSentAsItStands() const {
+        return sentContent_ && *sentContent_ == contentToPrint().text();
+    }
 
 protected:
     using Answer = GenericOrderResponse;
@@ -45,11 +48,13 @@ protected:
     void tellSent(const OrderAnswer& answer) override;
 
 private:
+    [[nodiscard]] SendContent contentToPrint() const;
+
     ServiceOperations& network_;
     std::shared_ptr<PromotionDraft> draft_;
     std::shared_ptr<const Catalogue> catalogue_;
     PromotionTuple promotion_;
-    std::optional<PromotionDraft> sentDraft_;
+    std::optional<std::string> sentContent_; // of the order that the server took last
     std::optional<SentOrder> sentOrder_;
 };
 

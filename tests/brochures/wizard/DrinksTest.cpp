@@ -107,10 +107,10 @@ TEST_F(DrinkStep, AProductOfTwoCategoriesSharesItsFormatsAndPrices) {
     choose("Refrescos", "Limonada");
     choose("Cafés", "Limonada");
     EXPECT_EQ(table(), "Refrescos: Fríos | Limonada/Vaso/2/2,5 | Cafés | Limonada/Vaso/2,2/");
-    step->productModifyPriceDelegateMethod(1, false, QStringLiteral("3,4"));
+    step->selectedDrinks()->productModifyPriceDelegateMethod(1, false, QStringLiteral("3,4"));
     EXPECT_EQ(table(), "Refrescos: Fríos | Limonada/Vaso/3,4/2,5 | Cafés | Limonada/Vaso/3,4/");
     EXPECT_EQ(step->selectedText(), "2 bebidas elegidas");
-    step->productDeleteButtonDelegateMethod(1);
+    step->selectedDrinks()->productDeleteButtonDelegateMethod(1);
     ASSERT_TRUE(press(QStringLiteral("Sí")));
     EXPECT_EQ(table(), "Refrescos: Fríos | Cafés | Limonada/Vaso/3,4/")
         << "a category stays without products";
@@ -140,7 +140,7 @@ TEST_F(DrinkStep, OwnItemsAreMadeUnderTheLimitsAndStandInTheDraftAtOnce) {
     EXPECT_EQ(alert(), "Nuevo formato | Introduzca un nombre para el nuevo formato (max: 6)");
     press(QStringLiteral("Crear"), QStringLiteral("vaso"));
     EXPECT_EQ(draft().selectedProductFormat.at(-1), (Formats{"", "Vaso"})) << "a known name is not doubled";
-    step->productModifyPriceDelegateMethod(2, false, QStringLiteral("2.8"));
+    step->selectedDrinks()->productModifyPriceDelegateMethod(2, false, QStringLiteral("2.8"));
     EXPECT_EQ(table(), "Infusion | Piña/// | Piña/Vaso/2,8/");
     EXPECT_EQ(texts(step->formatsDataSource()), "Sin formato | Vaso | Jarra | Taza");
 }
@@ -171,7 +171,7 @@ TEST_F(DrinkStep, TheFormatBeyondTheLimitIsRefusedWithTheNumber) {
 
 TEST_F(DrinkStep, RemovingAsksFirstAndTellsWhatCouldNotBeRemoved) {
     struct Case {
-        void (Step::*remove)(int);
+        void (SelectedDrinksForm::*remove)(int);
         int row;
         const char* question;
         const char* failure;
@@ -182,22 +182,22 @@ TEST_F(DrinkStep, RemovingAsksFirstAndTellsWhatCouldNotBeRemoved) {
     choose("Cafés", "Solo");
     const std::string before = "Refrescos: Fríos | Limonada/Vaso/2/2,5 | Cafés | Solo/Taza/1,2/1,4";
     for (const Case& each :
-         {Case{&Step::formatDeleteButtonDelegateMethod, 3,
+         {Case{&SelectedDrinksForm::formatDeleteButtonDelegateMethod, 3,
                "¿Desea quitar el formato 'Taza' del producto 'Solo'?",
                "No se ha podido eliminar el formato 'Taza' del producto 'Solo'",
                "Refrescos: Fríos | Limonada/Vaso/2/2,5 | Cafés | Solo///"},
-          Case{&Step::productDeleteButtonDelegateMethod, 3, "¿Desea quitar el producto 'Solo'?",
+          Case{&SelectedDrinksForm::productDeleteButtonDelegateMethod, 3, "¿Desea quitar el producto 'Solo'?",
                "No se ha podido eliminar el producto 'Solo'",
                "Refrescos: Fríos | Limonada/Vaso/2/2,5 | Cafés"},
-          Case{&Step::categoryDeleteButtonDelegateMethod, 2, "¿Desea quitar la categoría 'Cafés'?",
-               "No se ha podido deseleccionar la categoría 'Cafés'",
+          Case{&SelectedDrinksForm::categoryDeleteButtonDelegateMethod, 2,
+               "¿Desea quitar la categoría 'Cafés'?", "No se ha podido deseleccionar la categoría 'Cafés'",
                "Refrescos: Fríos | Limonada/Vaso/2/2,5"}}) {
-        (step.get()->*each.remove)(each.row);
+        (step->selectedDrinks()->*each.remove)(each.row);
         EXPECT_EQ(alert(), std::string("Atención | ") + each.question);
         press(QStringLiteral("No"));
         EXPECT_EQ(table(), before);
-        (step.get()->*each.remove)(each.row);
-        (step.get()->*each.remove)(each.row);
+        (step->selectedDrinks()->*each.remove)(each.row);
+        (step->selectedDrinks()->*each.remove)(each.row);
         press(QStringLiteral("Sí"));
         EXPECT_EQ(table(), each.left);
         press(QStringLiteral("Sí"));
@@ -235,7 +235,8 @@ TEST_F(DrinkStep, PricesAreTakenUnsetOrKeptAsTheyWereTyped) {
         const int role = second ? BeveragesTableView::SecondPriceEditRole : BeveragesTableView::PriceEditRole;
         for (const Case& each :
              {Case{"2,5", "2,5"}, Case{",", "2,5"}, Case{"3.25", "3,25"}, Case{"", ""}, Case{"4", "4"}}) {
-            step->productModifyPriceDelegateMethod(1, second, QString::fromUtf8(each.typed));
+            step->selectedDrinks()->productModifyPriceDelegateMethod(1, second,
+                                                                     QString::fromUtf8(each.typed));
             const auto* model = step->selectedProductsTable();
             EXPECT_EQ(model->data(model->index(1), role).toString().toStdString(), each.shown);
         }
@@ -249,15 +250,15 @@ TEST_F(DrinkStep, PricesAreTakenUnsetOrKeptAsTheyWereTyped) {
 TEST_F(DrinkStep, WhatStillStandsInAFieldGoesIntoTheDraftWhenTheStepIsLeft) {
     appear();
     choose("Refrescos", "Limonada");
-    step->priceEdited(1, true, QStringLiteral("7,5"));
+    step->selectedDrinks()->priceEdited(1, true, QStringLiteral("7,5"));
     EXPECT_EQ(info(1, 1, "Vaso").price2, 2.5);
     step->serializeAutoSave();
     EXPECT_EQ(info(1, 1, "Vaso").price2, 7.5);
-    step->categoryDescriptionModified(0, QStringLiteral("Con hielo"));
+    step->selectedDrinks()->categoryDescriptionModified(0, QStringLiteral("Con hielo"));
     EXPECT_EQ(temporaryCopy()->menu.otherDrinks->front().description, "Con hielo");
-    step->categoryDescriptionModified(0, QString());
+    step->selectedDrinks()->categoryDescriptionModified(0, QString());
     EXPECT_EQ(table(), "Refrescos | Limonada/Vaso/2/7,5") << "the catalogue's does not come back";
-    step->productDescriptionButtonDelegateMethod(1);
+    step->selectedDrinks()->productDescriptionButtonDelegateMethod(1);
     EXPECT_EQ(alerts.current()->textField->initialText, "Casera");
     press(QStringLiteral("Guardar"), QStringLiteral("Con hierbabuena y mucho hielo"));
     EXPECT_EQ(draft().beverageInfo(1, 1, false, std::nullopt)->description, "Con hierbabuena y mu");
@@ -275,11 +276,11 @@ TEST_F(DrinkStep, ReopenedItShowsTheDrinksOfTheCatalogueAndOfTheUser) {
     press(QStringLiteral("Crear"), QStringLiteral("Piña"));
     step->addNewFormat();
     press(QStringLiteral("Crear"), QStringLiteral("Cuba"));
-    step->formatDeleteButtonDelegateMethod(5);
+    step->selectedDrinks()->formatDeleteButtonDelegateMethod(5);
     press(QStringLiteral("Sí"));
     for (const int row : {1, 2, 4}) {
-        step->productModifyPriceDelegateMethod(row, false, QString::number(row));
-        step->productModifyPriceDelegateMethod(row, true, QString::number(row + 10));
+        step->selectedDrinks()->productModifyPriceDelegateMethod(row, false, QString::number(row));
+        step->selectedDrinks()->productModifyPriceDelegateMethod(row, true, QString::number(row + 10));
     }
     const std::string shown =
         "Refrescos: Fríos | Limonada/Jarra/1/11 | Limonada/Vaso/2/12 | Zumos | Piña//4/14";
@@ -307,7 +308,7 @@ TEST_F(DrinkStep, WhatLeftTheCatalogueCanBeSeenAndRemoved) {
     BrochureIntermediateData::replaceTemporalBrochure()->loadOrder(order);
     appear();
     EXPECT_EQ(table(), "Refrescos: Fríos | Ya no está en el catálogo///");
-    step->productDeleteButtonDelegateMethod(1);
+    step->selectedDrinks()->productDeleteButtonDelegateMethod(1);
     press(QStringLiteral("Sí"));
     EXPECT_EQ(table(), "Refrescos: Fríos");
 }

@@ -146,6 +146,30 @@ TEST_F(PriceStep, GoesByTheRebuiltRowsAfterAnEditInASortedTable) {
     EXPECT_EQ(draft().priceOf(PriceType::main, 101, 10), 8); // row 3 of the rebuilt rows
 }
 
+TEST_F(PriceStep, TheButtonsOfARowActOnWhatItShowsAlsoAfterAnEditInASortedTable) {
+    auto& format = builder.product(10).productList[1];
+    format.minimumVolume = 20;
+    openWithAll();
+    step->orderByPrimaryPVPButton();
+    EXPECT_EQ(shown(Table::TypeRole), "Caña | Tercio | Tercio | Jarra");
+    step->priceFieldDidEndEditing(103, "6"); // the rows begin with the other brand by now
+    step->newProductButton(0);
+    EXPECT_EQ(draft().isNewProduct(101, 10), true);
+    EXPECT_EQ(shown(Table::NewProductRole), "true | false | false | false");
+    step->editVolumeButton(0);
+    EXPECT_EQ(step->volumeEditor()->formatLabel(), "Roble - Caña");
+    step->volumeEditor()->setSelectedRow(1);
+    step->volumeEditor()->confirm();
+    EXPECT_EQ(draft().volumeOf(101, 10), 20);
+    EXPECT_EQ(shown(Table::VolumeTextRole), "20 cl |  |  | ");
+    EXPECT_EQ(shown(Table::TypeRole), "Caña | Tercio | Tercio | Jarra");
+    step->deleteProductButton(0);
+    EXPECT_EQ(alert(), "Atención | ¿Desea borrar Roble - Caña");
+    alerts.answerButton(1);
+    EXPECT_EQ(draft().isFormatSelected(101, 10), SelectionState::notSelected);
+    EXPECT_EQ(rows(), "Encina Tercio | Encina Jarra | Roble Tercio");
+}
+
 TEST_F(PriceStep, ProposesTheDefaultHighlightOnceInTheLifeOfADraft) {
     builder.product(11).productList[1].positionHighlightable = 2;
     builder.product(10).productList[0].positionHighlightable = 1;

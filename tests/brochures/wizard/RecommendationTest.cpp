@@ -145,8 +145,13 @@ TEST_F(RecommendationTest, EveryEndOfTheSearchForThePlaceTakesTheVeilAway) {
     EXPECT_EQ(alerts.current()->buttons[1].role, AlertButton::Role::Cancel) << "Escape looks no further";
     press("Reintentar");
     EXPECT_EQ(geocoder.asked.size(), 2U);
+    locationService.available = false; // switched off meanwhile
+    press("Reintentar");
+    press("Aceptar");
+    EXPECT_EQ(alert(), " | Indique la dirección completa (incluyendo número)");
     press("Cancelar");
     EXPECT_TRUE(nothingGoesOn());
+    locationService.available = true;
     geocoder.error.reset(); // neither place nor error
     prices->priceRecommendation(0);
     EXPECT_TRUE(nothingGoesOn());

@@ -88,6 +88,28 @@ TEST_F(PromotionOrderForm, StaysAsItIsWrittenOnceItIsOrderedAndAsksBeforeItIsOrd
     EXPECT_EQ(sends().calls.size(), 3U) << "another content is not asked about";
 }
 
+TEST_F(PromotionOrderForm, APreviewWhoseAnswerIsLostDoesNotLetAnOrderThatWasMadeBeMadeTwice) {
+    open(1, 1);
+    complete();
+    form->sendOrderAction();
+    sends().succeed(answer(2041));
+    told();
+    form->previewAction();
+    ASSERT_TRUE(sends().fail(lostAnswer()));
+    told();
+    EXPECT_FALSE(isKept()) << "nothing to come back";
+    form->sendOrderAction();
+    EXPECT_EQ(shown(alerts), "Atención | Este pedido ya se ha realizado. ¿Desea realizarlo otra vez?");
+    press(alerts, "Sí");
+    ASSERT_TRUE(sends().fail(lostAnswer()));
+    told();
+    open(1, 1); // the process ended
+    complete();
+    form->sendOrderAction();
+    ASSERT_EQ(sends().calls.size(), 4U);
+    EXPECT_EQ(key(3), key(2)) << "the second order, of which nobody knows";
+}
+
 TEST_F(PromotionOrderForm, ARefusalUnderAGoodStatusIsAFailureAndAPreviewNeedsItsDocument) {
     GenericOrderResponse refusal = answer(3, "http://127.0.0.1:9/3.pdf");
     refusal.errors.emplace();

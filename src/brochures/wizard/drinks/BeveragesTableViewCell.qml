@@ -95,14 +95,14 @@ Item {
                 objectName: "productDescription" + cell.index
                 icon: "edit"
                 text: "Descripción de " + cell.beverageName
-                onClicked: cell.controller.productDescriptionButtonDelegateMethod(cell.index)
+                onClicked: cell.controller.selectedDrinks.productDescriptionButtonDelegateMethod(cell.index)
             }
             IconButton {
                 objectName: "productDelete" + cell.index
                 icon: "trash"
                 colour: Theme.danger
                 text: "Quitar " + cell.beverageName
-                onClicked: cell.controller.productDeleteButtonDelegateMethod(cell.index)
+                onClicked: cell.controller.selectedDrinks.productDeleteButtonDelegateMethod(cell.index)
             }
         }
     }
@@ -146,8 +146,8 @@ Item {
             lastInColumn: cell.last && !cell.twoPrices
             displayText: cell.priceText
             editText: cell.priceEditText
-            onEdited: (text) => cell.controller.priceEdited(cell.index, false, text)
-            onFinished: (text) => cell.controller.productModifyPriceDelegateMethod(cell.index, false, text)
+            onEdited: (text) => cell.controller.selectedDrinks.priceEdited(cell.index, false, text)
+            onFinished: (text) => cell.controller.selectedDrinks.productModifyPriceDelegateMethod(cell.index, false, text)
             onReturned: cell.priceReturned(false)
         }
         PriceField {
@@ -161,8 +161,8 @@ Item {
             lastInColumn: cell.last
             displayText: cell.secondPriceText
             editText: cell.secondPriceEditText
-            onEdited: (text) => cell.controller.priceEdited(cell.index, true, text)
-            onFinished: (text) => cell.controller.productModifyPriceDelegateMethod(cell.index, true, text)
+            onEdited: (text) => cell.controller.selectedDrinks.priceEdited(cell.index, true, text)
+            onFinished: (text) => cell.controller.selectedDrinks.productModifyPriceDelegateMethod(cell.index, true, text)
             onReturned: cell.priceReturned(true)
         }
     }
@@ -177,6 +177,6 @@ Item {
         iconSize: 20
         colour: Theme.mutedInk
         text: "Quitar el formato " + cell.formatName + " de " + cell.beverageName
-        onClicked: cell.controller.formatDeleteButtonDelegateMethod(cell.index)
+        onClicked: cell.controller.selectedDrinks.formatDeleteButtonDelegateMethod(cell.index)
     }
 }

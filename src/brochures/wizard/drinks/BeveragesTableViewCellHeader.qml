@@ -43,7 +43,7 @@ Item {
         placeholder: "Descripción de la categoría"
         maximumLength: header.controller.categoryDescriptionLength
         text: header.beverageDescription
-        onEdited: (text) => header.controller.categoryDescriptionModified(header.index, text)
+        onEdited: (text) => header.controller.selectedDrinks.categoryDescriptionModified(header.index, text)
     }
     IconButton {
         id: remove
@@ -54,6 +54,6 @@ Item {
         icon: "trash"
         colour: Theme.danger
         text: "Quitar la categoría " + header.beverageName
-        onClicked: header.controller.categoryDeleteButtonDelegateMethod(header.index)
+        onClicked: header.controller.selectedDrinks.categoryDeleteButtonDelegateMethod(header.index)
     }
 }

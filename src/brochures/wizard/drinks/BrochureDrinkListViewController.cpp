@@ -27,20 +27,15 @@ std::optional<Int> numberOf(const std::optional<Beverage>& beverage) {
     return beverage ? std::optional(beverage->identifier) : std::nullopt;
 }
 
-// An empty text unsets what is the user's own; over a description of the catalogue it stays, or that one
-// would show again.
-std::optional<std::string> descriptionOf(const QString& typed, bool overCatalogue) {
-    if (typed.isEmpty() && !overCatalogue)
-        return std::nullopt;
-    return typed.toStdString();
-}
-
 } // namespace
 
 BrochureDrinkListViewController::BrochureDrinkListViewController(const WizardStepContext& context,
                                                                  QObject* parent)
     : WizardStepViewController(parent)
-    , context_(context) {}
+    , context_(context)
+    , selectedDrinks_(context_, stock_, table_) {
+    connect(&selectedDrinks_, &SelectedDrinksForm::edited, this, &BrochureDrinkListViewController::edited);
+}
 
 QUrl BrochureDrinkListViewController::view() const {
     return stepView(QStringLiteral("BrochureDrinkListView.qml"));
@@ -62,9 +57,7 @@ void BrochureDrinkListViewController::reload() {
 }
 
 void BrochureDrinkListViewController::serializeAutoSave() {
-    // Descriptions are in the draft as they are typed; a price may still stand in its field.
-    if (const auto typed = std::exchange(typedPrice_, std::nullopt))
-        setPrice(typed->beverage, typed->second, typed->text);
+    selectedDrinks_.takeTyped();
 }
 
 const Validations& BrochureDrinkListViewController::validations() const {
@@ -74,7 +67,8 @@ const Validations& BrochureDrinkListViewController::validations() const {
 QString BrochureDrinkListViewController::notPrintedText() const {
     return context_.kind && !printsDrinks(*context_.kind)
                ? QStringLiteral(
-                     "Este tipo de pedido no imprime las bebidas: lo que elijas aquí no saldrá en él.")
+                     "Este tipo de pedido no imprime las bebidas: lo que elijas aquí no saldrá en él ni se "
+                     "guardará con él.")
                : QString();
 }
 
@@ -371,125 +365,6 @@ void BrochureDrinkListViewController::createFormat(const std::string& name, Int 
         reveal(chosen);
     else
         addFormat(chosen, category, product);
-}
-
-// ---- The table
-
-void BrochureDrinkListViewController::categoryDescriptionModified(int row, const QString& description) {
-    const BeverageRow* header = table_.beverageAt(row);
-    if (!header || fromUtf8(header->description) == description)
-        return;
-    const auto* known = stock_.category(header->category);
-    context_.draft->setBeverageCategoryDescription(
-        descriptionOf(description, known && known->category.beverage.description), header->category);
-    edited();
-}
-
-void BrochureDrinkListViewController::productDescriptionButtonDelegateMethod(int row) {
-    const BeverageRow* beverage = table_.beverageAt(row);
-    if (!beverage || !beverage->product)
-        return;
-    const Int category = beverage->category;
-    const Int product = *beverage->product;
-    const auto* known = stock_.product(category, product);
-    const bool described = known && known->beverage.description;
-    askForText(context_.services.alerts, this,
-               {.title = QStringLiteral("Descripción"),
-                .text = QStringLiteral("Introduzca una descripción para el producto '%1' (max: %2)")
-                            .arg(fromUtf8(beverage->name))
-                            .arg(validations().productDescription),
-                .caption = QStringLiteral("Descripción:"),
-                .proposal = fromUtf8(beverage->description),
-                .button = QStringLiteral("Guardar"),
-                .maximumLength = int(validations().productDescription),
-                .emptyToo = true},
-               [this, category, product, described](const QString& typed) {
-                   context_.draft->setBeverageProductDescription(descriptionOf(typed.trimmed(), described),
-                                                                 product, category);
-                   edited();
-               });
-}
-
-void BrochureDrinkListViewController::askToRemove(const QString& question, const QString& failure,
-                                                  std::function<bool()> remove) {
-    ask(context_.services.alerts, this, attention, question,
-        {no(), yesDestroy([this, failure, remove = std::move(remove)] {
-             if (remove())
-                 edited();
-             else
-                 context_.services.alerts.inform(failed, failure, this);
-         })});
-}
-
-void BrochureDrinkListViewController::categoryDeleteButtonDelegateMethod(int row) {
-    const BeverageRow* header = table_.beverageAt(row);
-    if (!header)
-        return;
-    const QString name = fromUtf8(header->name);
-    askToRemove(QStringLiteral("¿Desea quitar la categoría '%1'?").arg(name),
-                QStringLiteral("No se ha podido deseleccionar la categoría '%1'").arg(name),
-                [this, category = header->category] {
-                    return context_.draft->setBeverageSelected(
-                        false, {.identifier = category, .isCategory = true}, category);
-                });
-}
-
-void BrochureDrinkListViewController::productDeleteButtonDelegateMethod(int row) {
-    const BeverageRow* beverage = table_.beverageAt(row);
-    if (!beverage || !beverage->product)
-        return;
-    const QString name = fromUtf8(beverage->name);
-    askToRemove(QStringLiteral("¿Desea quitar el producto '%1'?").arg(name),
-                QStringLiteral("No se ha podido eliminar el producto '%1'").arg(name),
-                [this, category = beverage->category, product = *beverage->product] {
-                    return context_.draft->setBeverageSelected(false, {.identifier = product}, category);
-                });
-}
-
-void BrochureDrinkListViewController::formatDeleteButtonDelegateMethod(int row) {
-    const BeverageRow* beverage = table_.beverageAt(row);
-    if (!beverage || !beverage->product || !beverage->formatName)
-        return;
-    const QString format = fromUtf8(*beverage->formatName);
-    const QString product = fromUtf8(beverage->name);
-    askToRemove(
-        QStringLiteral("¿Desea quitar el formato '%1' del producto '%2'?").arg(format, product),
-        QStringLiteral("No se ha podido eliminar el formato '%1' del producto '%2'").arg(format, product),
-        [this, doomed = *beverage] {
-            return context_.draft->setBeverageFormatSelected(false, *doomed.formatName, *doomed.product,
-                                                             doomed.category);
-        });
-}
-
-void BrochureDrinkListViewController::priceEdited(int row, bool second, const QString& text) {
-    const BeverageRow* beverage = table_.beverageAt(row);
-    if (beverage && beverage->formatName)
-        typedPrice_ = TypedPrice{*beverage, second, text};
-}
-
-void BrochureDrinkListViewController::productModifyPriceDelegateMethod(int row, bool second,
-                                                                       const QString& text) {
-    if (const BeverageRow* beverage = table_.beverageAt(row); beverage && beverage->formatName) {
-        typedPrice_.reset();
-        setPrice(BeverageRow(*beverage), second, text);
-    } else {
-        serializeAutoSave(); // the cell went while one typed into it
-    }
-}
-
-void BrochureDrinkListViewController::setPrice(const BeverageRow& beverage, bool second,
-                                               const QString& text) {
-    const auto value = AppFormatter::shared().parseNumber(text.toStdString());
-    const auto info =
-        context_.draft->beverageInfo(beverage.category, *beverage.product, false, beverage.formatName);
-    const bool readable = value || text.trimmed().isEmpty();
-    if (!info || !readable || (second ? info->price2 : info->price1) == value)
-        return;
-    if (!context_.draft->setBeveragePrice(value, second, *beverage.formatName, *beverage.product,
-                                          beverage.category))
-        return;
-    autosave(context_.draft);
-    table_.reloadPrices(*context_.draft, *beverage.product);
 }
 
 } // namespace kavor

@@ -5,6 +5,7 @@
 #include "brochures/wizard/drinks/BeveragesTableView.h"
 #include "brochures/wizard/drinks/DrinkListModel.h"
 #include "brochures/wizard/drinks/DrinkStock.h"
+#include "brochures/wizard/drinks/SelectedDrinksForm.h"
 
 #include <QVariantList>
 
@@ -34,6 +35,7 @@ class BrochureDrinkListViewController : public kavor::WizardStepViewController,
     Q_PROPERTY(kavor::ProductDataSource* productsDataSource READ productsDataSource CONSTANT)
     Q_PROPERTY(kavor::FormatDataSource* formatsDataSource READ formatsDataSource CONSTANT)
     Q_PROPERTY(kavor::BeveragesTableView* selectedProductsTable READ selectedProductsTable CONSTANT)
+    Q_PROPERTY(kavor::SelectedDrinksForm* selectedDrinks READ selectedDrinks CONSTANT)
     // Says that the kind shows drinks and prints none; empty for one that prints them.
     Q_PROPERTY(QString notPrintedText READ notPrintedText CONSTANT)
     Q_PROPERTY(QString firstPriceLabel READ firstPriceLabel NOTIFY changed)
@@ -67,15 +69,6 @@ public:
     Q_INVOKABLE void addNewCategory();
     Q_INVOKABLE void addNewProduct();
     Q_INVOKABLE void addNewFormat();
-    // What the cells of the table report, by the row.
-    Q_INVOKABLE void categoryDescriptionModified(int row, const QString& description);
-    Q_INVOKABLE void categoryDeleteButtonDelegateMethod(int row);
-    Q_INVOKABLE void productDescriptionButtonDelegateMethod(int row);
-    Q_INVOKABLE void productDeleteButtonDelegateMethod(int row);
-    Q_INVOKABLE void formatDeleteButtonDelegateMethod(int row);
-    // A price is being typed, and its field was left.
-    Q_INVOKABLE void priceEdited(int row, bool second, const QString& text);
-    Q_INVOKABLE void productModifyPriceDelegateMethod(int row, bool second, const QString& text);
     Q_INVOKABLE void showPage(kavor::BrochureDrinkListViewController::Page page);
     // To the drinks of the menu, and back to the list that was on show.
     Q_INVOKABLE void toggleSelected();
@@ -84,6 +77,7 @@ public:
     [[nodiscard]] ProductDataSource* productsDataSource() { return &products_; }
     [[nodiscard]] FormatDataSource* formatsDataSource() { return &formats_; }
     [[nodiscard]] BeveragesTableView* selectedProductsTable() { return &table_; }
+    [[nodiscard]] SelectedDrinksForm* selectedDrinks() { return &selectedDrinks_; }
     [[nodiscard]] const std::optional<DrinkStock::Beverage>& selectedCategory() const {
         return selectedCategory_;
     }
@@ -108,12 +102,6 @@ signals:
     void revealed(int row);
 
 private:
-    struct TypedPrice {
-        BeverageRow beverage;
-        bool second = false;
-        QString text;
-    };
-
     [[nodiscard]] const Validations& validations() const;
     [[nodiscard]] QString priceName(PriceType type, const QString& otherwise) const;
     void edited();
@@ -131,8 +119,6 @@ private:
     // Refuses the format beyond the limit with its message.
     bool mayAddFormat(Int product);
     void addFormat(const std::string& name, Int category, Int product);
-    void askToRemove(const QString& question, const QString& failure, std::function<bool()> remove);
-    void setPrice(const BeverageRow& beverage, bool second, const QString& text);
 
     WizardStepContext context_;
     DrinkStock stock_;
@@ -140,9 +126,9 @@ private:
     ProductDataSource products_;
     FormatDataSource formats_;
     BeveragesTableView table_;
+    SelectedDrinksForm selectedDrinks_; // on the table
     std::optional<DrinkStock::Beverage> selectedCategory_;
     std::optional<DrinkStock::Beverage> selectedProduct_;
-    std::optional<TypedPrice> typedPrice_;
     bool paged_ = false;
     Page page_ = Page::Categories;
     Page pageBefore_ = Page::Categories; // the list that the selected drinks took the place of

@@ -116,6 +116,20 @@ const PriceRow* BrochurePriceSetterViewController::rowAt(int row) const {
                : nullptr;
 }
 
+PriceRow* BrochurePriceSetterViewController::rowOf(const PriceRow& shown) {
+    const auto found = std::ranges::find_if(productsPerBrandsSelected_, [&](const PriceRow& candidate) {
+        return candidate.productIdentifier == shown.productIdentifier &&
+               candidate.brandIdentifier == shown.brandIdentifier;
+    });
+    return found == productsPerBrandsSelected_.end() ? nullptr : &*found;
+}
+
+// What a cell shows: after an edit the table keeps an order that the rows have lost.
+const PriceRow* BrochurePriceSetterViewController::shownAt(int row) {
+    const PriceRow* shown = table_.at(row);
+    return shown ? rowOf(*shown) : nullptr;
+}
+
 void BrochurePriceSetterViewController::reloadTable() {
     std::vector<PriceTableRow> cells;
     cells.reserve(productsPerBrandsSelected_.size());
@@ -158,8 +172,8 @@ void BrochurePriceSetterViewController::priceFieldDidEndEditing(int tag, const Q
     const bool taken =
         value && context_.draft->setPrice(type, row->productIdentifier, row->brandIdentifier, *value);
     table_.setPriceText(tag, fromUtf8(AppFormatter::shared().currencyFormatter(taken ? *value : 0)));
-    // The rows lose a sorted order here while the table keeps showing it: the next edit goes by the rebuilt
-    // rows. Meant so.
+    // The rows lose a sorted order here while the table keeps showing it: the next edit of a price goes by
+    // the rebuilt rows. Meant so.
     rebuildRows();
     autosave(context_.draft);
 }
@@ -172,7 +186,7 @@ void BrochurePriceSetterViewController::sort(PriceSorting::Button button) {
 }
 
 void BrochurePriceSetterViewController::editVolumeButton(int row) {
-    const PriceRow* productToEdit = rowAt(row);
+    const PriceRow* productToEdit = shownAt(row);
     if (!productToEdit || volumeEditor_)
         return;
     volumeEditor_ = new VolumeEditorViewController(context_.services, this);
@@ -190,20 +204,17 @@ void BrochurePriceSetterViewController::editVolumeButton(int row) {
 bool BrochurePriceSetterViewController::changeVolume(std::optional<Int> volume, const PriceRow& row) {
     if (!context_.draft->setVolume(volume, row.productIdentifier, row.brandIdentifier))
         return false;
-    const auto found = std::ranges::find_if(productsPerBrandsSelected_, [&](const PriceRow& candidate) {
-        return candidate.productIdentifier == row.productIdentifier &&
-               candidate.brandIdentifier == row.brandIdentifier;
-    });
-    if (found == productsPerBrandsSelected_.end())
+    PriceRow* edited = rowOf(row);
+    if (!edited)
         return false;
-    found->volume = volume;
+    edited->volume = volume;
     autosave(context_.draft);
-    table_.reloadRow(int(found - productsPerBrandsSelected_.begin()), cellOf(*found));
+    table_.reloadRow(table_.rowOf(row), cellOf(*edited));
     return true;
 }
 
 void BrochurePriceSetterViewController::newProductButton(int row) {
-    const PriceRow* product = rowAt(row);
+    const PriceRow* product = shownAt(row);
     if (!product)
         return;
     const bool wanted = !table_.data(table_.index(row), PriceTableModel::NewProductRole).toBool();
@@ -214,7 +225,7 @@ void BrochurePriceSetterViewController::newProductButton(int row) {
 }
 
 void BrochurePriceSetterViewController::priceRecommendation(int row) {
-    const PriceRow* product = rowAt(row);
+    const PriceRow* product = shownAt(row);
     if (product && product->brandIdentifier >= 0) // the server knows nothing of a brand added by hand
         recommendationRoad_.ask(product->productIdentifier);
 }
@@ -242,7 +253,7 @@ void BrochurePriceSetterViewController::show(const Screen& screen) {
 }
 
 void BrochurePriceSetterViewController::deleteProductButton(int row) {
-    const PriceRow* product = rowAt(row);
+    const PriceRow* product = shownAt(row);
     if (!product)
         return;
     // The question ends without its closing mark, meant so.

@@ -20,7 +20,7 @@ class BrochureIntermediateData;
 class SelectedCell {
 public:
     virtual ~SelectedCell() = default;
-    // Each takes the cell's tag, the row's index.
+    // Each takes the cell's tag, the row's index, and means the format that the cell shows.
     virtual void editVolumeButton(int row) = 0;
     virtual void newProductButton(int row) = 0;
     virtual void priceRecommendation(int row) = 0;
@@ -113,6 +113,8 @@ private:
     [[nodiscard]] PriceRow makeRow(const Product& brand, const Product::ProductFormat& format) const;
     [[nodiscard]] PriceTableRow cellOf(const PriceRow& row) const;
     [[nodiscard]] const PriceRow* rowAt(int row) const;
+    [[nodiscard]] PriceRow* rowOf(const PriceRow& shown);
+    [[nodiscard]] const PriceRow* shownAt(int row);
     void reloadTable();
     void setUpHighlight(bool withAlert);
     void setUpWithoutPrice();

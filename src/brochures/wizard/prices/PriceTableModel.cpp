@@ -27,6 +27,12 @@ QString PriceTableModel::editForm(const QString& currencyText) {
     return value ? fromUtf8(AppFormatter::shared().numberFormatter(*value)) : currencyText;
 }
 
+int PriceTableModel::rowOf(const PriceRow& row) const {
+    const auto& all = rows_.all();
+    const auto found = std::ranges::find(all, PriceTableRow::Key()({row}), PriceTableRow::Key());
+    return found == all.end() ? -1 : int(found - all.begin());
+}
+
 void PriceTableModel::reload(std::vector<PriceTableRow> rows, bool withSecondaryPrice) {
     withSecondaryPrice_ = withSecondaryPrice;
     std::ranges::transform(rows, rows.begin(), shown);

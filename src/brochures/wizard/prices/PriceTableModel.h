@@ -52,6 +52,10 @@ public:
 
     using RowListModel::RowListModel;
 
+    // The format that is on show in a place; null outside the table.
+    [[nodiscard]] const PriceRow* at(int row) const { return rows_.at(row) ? &rows_.at(row)->row : nullptr; }
+    // Where a format is on show; -1 when it is not.
+    [[nodiscard]] int rowOf(const PriceRow& row) const;
     // Shows these rows in their places, with one price field each or two.
     void reload(std::vector<PriceTableRow> rows, bool withSecondaryPrice);
     void reloadRow(int row, const PriceTableRow& content);

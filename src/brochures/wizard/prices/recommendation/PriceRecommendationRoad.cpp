@@ -66,7 +66,7 @@ void PriceRecommendationRoad::findPlace() {
 void PriceRecommendationRoad::confirm(const Placemark& found) {
     const RecommendationPlace place{found.postalCode.value_or(QString()), found.locality.value_or(QString())};
     if (place.text().isEmpty()) {
-        finder_.retry([this](const Placemark& again) { confirm(again); });
+        finder_.retry([this](const Placemark& again) { confirm(again); }, [this] { askForAddress(); });
         return;
     }
     kavor::ask(alerts_, this, QStringLiteral("¿Desea utilizar la siguiente ubicación?"), place.text(),
