@@ -7,6 +7,7 @@
 #include "orders/DraftsWithChanges.h"
 #include "orders/OrderDiskManager.h"
 #include "orders/services/OrderActions.h"
+#include "promotions/UnfinishedPromotion.h"
 #include "robust/StampedFiles.h"
 #include "robust/StampedNames.h"
 #include "session/AppSingleton.h"
@@ -49,10 +50,11 @@ public:
         , stamp_(firstStamp)
         , orders_(folder_) {
         openMenu();
+        promotion_ = UnfinishedPromotion::shared().open(promotionId);
     }
 
     void step() {
-        switch (random_() % 15) {
+        switch (random_() % 16) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -88,6 +90,8 @@ public:
             return copy();
         case 13:
             return noteChanges();
+        case 14:
+            return workOnPromotion();
         default:
             return write(keychainKey, [this](Int stamp) {
                 FileKeychain keychain(folder_ / keychainKey);
@@ -222,7 +226,7 @@ private:
     void noteChanges() {
         auto& drafts = DraftsWithChanges::shared();
         const auto former = drafts.names();
-        const Int stamp = random_() % 4 == 0 ? 0 : ++stamp_;
+        const Int stamp = !former.empty() && random_() % 4 == 0 ? 0 : ++stamp_;
         begin(std::string(state_file::draftsWithChanges), stamp);
         if (stamp > 0)
             drafts.add(stampedName(stamp));
@@ -259,6 +263,28 @@ private:
         tellOutcome(menuKey(kind_), 0);
     }
 
+    // The order of a promotion is opened, sent, or written on.
+    void workOnPromotion() {
+        const std::string key(state_file::promotionDraft);
+        auto& unfinished = UnfinishedPromotion::shared();
+        const unsigned chance = random_() % 6;
+        if (chance == 0) {
+            promotion_ = unfinished.open(promotionId);
+            return;
+        }
+        Int stamp = 0;
+        if (chance == 1 && stampIn(folder_, key).value_or(0) != 0) {
+            begin(key, stamp);
+            unfinished.sent(*promotion_);
+        } else {
+            stamp = ++stamp_;
+            begin(key, stamp);
+            *promotion_ = stamped<PromotionDraft>(stamp);
+            unfinished.keep(*promotion_);
+        }
+        tellOutcome(key, stamp);
+    }
+
     void storeNetPrices() {
         auto& draft = *BrochureIntermediateData::temporalBrochure();
         draft.netPrices = stamped<BrochureIntermediateData::NetPrices>(++stamp_);
@@ -267,10 +293,13 @@ private:
         tellOutcome(std::string(state_file::netPrices), stamp_);
     }
 
+    static constexpr Int promotionId = 1;
+
     std::filesystem::path folder_;
     std::mt19937 random_;
     Int stamp_;
     BrochureType kind_ = BrochureType::beer;
+    std::shared_ptr<PromotionDraft> promotion_;
     OrderDiskManager orders_;
     FakeServices network_; // nothing is asked of it
     OrderActions actions_{network_, orders_};

@@ -64,6 +64,9 @@ std::optional<Int> stampOf(const SellingSheetOrder& record) {
     return record.title == std::to_string(record.identifier) ? std::optional(record.identifier)
                                                              : std::nullopt;
 }
+std::optional<Int> stampOf(const PromotionDraft& record) {
+    return record.name == record.comment ? std::optional<Int>(std::atoll(record.name.c_str())) : std::nullopt;
+}
 std::optional<Int> stampOf(const NetPrices& record) {
     if (record.empty() || record.begin()->second != record.rbegin()->second)
         return std::nullopt;
@@ -166,6 +169,16 @@ NetPrices stamped(Int stamp) {
     return record;
 }
 
+template <>
+PromotionDraft stamped(Int stamp) {
+    PromotionDraft record;
+    record.promotionId = 1;
+    record.name = std::to_string(stamp);
+    record.comment = record.name;
+    record.emails.assign(100, "bar@bar.example");
+    return record;
+}
+
 KeychainItem stampedSecret(Int stamp) {
     const std::string text = std::to_string(stamp);
     return {{.server = "server.example"}, text, text};
@@ -180,12 +193,17 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
         if (key == menuKey(kind))
             return stampOfMenu(documents, kind);
     }
-    const auto file = documents / key;
+    auto file = documents / key;
     struct stat status {};
-    if (::stat(file.c_str(), &status) != 0)
-        return 0;
+    if (::stat(file.c_str(), &status) != 0) {
+        file = documents / promotionRecoveryName;
+        if (key != state_file::promotionDraft || ::stat(file.c_str(), &status) != 0)
+            return 0;
+    }
     if ((status.st_mode & 077) != 0)
         return std::nullopt;
+    if (key == state_file::promotionDraft)
+        return stampOfFile<PromotionDraft>(file, false);
     if (key == state_file::applicationInformation)
         return stampOfFile<ApplicationInformation>(file, false);
     if (key == state_file::loginResult)

@@ -3,6 +3,7 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "catalogue/ApplicationInformation.h"
 #include "device/keychain/KeychainStore.h"
+#include "promotions/PromotionDraft.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
 #include "textile/SaveTextileOrder.h"
@@ -19,6 +20,7 @@ namespace kavor::robust {
 // places: the temporary copy, the recovery copy, and the one that is set aside, which gives the key.
 inline const std::string temporaryCopyName = "temporalBrochure";
 inline const std::string recoveryCopyName = "temporalBrochure.recovery";
+inline const std::string promotionRecoveryName = "promotionDraft.recovery"; // its key is the copy's
 inline constexpr BrochureType menuKinds[] = {BrochureType::beer, BrochureType::wineA4};
 std::string menuKey(BrochureType kind);
 inline const std::string defaultsKey = "UserDefaults";
@@ -39,6 +41,8 @@ template <>
 SellingSheetOrder stamped(Int stamp);
 template <>
 BrochureIntermediateData::NetPrices stamped(Int stamp);
+template <>
+PromotionDraft stamped(Int stamp);
 KeychainItem stampedSecret(Int stamp);
 
 // The number in a file: 0 when it is missing, nothing when it doesn't decode, when its two numbers differ,

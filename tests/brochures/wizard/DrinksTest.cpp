@@ -379,6 +379,18 @@ TEST_F(DrinkStep, IsWorkedByKeysAloneWithThreeListsBesideEachOther) {
     }
 }
 
+TEST_F(DrinkStep, WhatIsSaidOfDrinksThatAreNotPrintedCanBeReadInFullAtEachSize) {
+    open(BrochureType::beer);
+    for (const QSize size : {QSize(808, 704), QSize(552, 960), UiScene::kPhone}) {
+        showView("BrochureDrinkListView", size);
+        const QQuickItem* said = scene->item("notPrintedText");
+        EXPECT_LE(said->property("contentWidth").toReal(), said->width());
+        EXPECT_EQ(said->property("truncated"), false);
+        EXPECT_LE(said->mapToScene({0, said->height()}).y(),
+                  scene->item("drinkCategoryList")->mapToScene({}).y());
+    }
+}
+
 TEST_F(DrinkStep, OnAPhoneTheListsComeOneAfterTheOtherAndTheChosenDrinksAreOneTapAway) {
     draft().setSecondPrice(PriceType::night);
     showView("BrochureDrinkListView", UiScene::kPhone);

@@ -39,13 +39,23 @@ FocusScope {
         topPadding: Theme.spaceS
         spacing: Theme.spaceS
 
-        Chip {
-            objectName: "notPrintedText"
+        Rectangle {
             width: parent.width
-            visible: text !== ""
-            tone: "amber"
-            icon: "info"
-            text: view.controller.notPrintedText
+            height: notPrinted.height + 2 * Theme.spaceS
+            visible: notPrinted.text !== ""
+            radius: Theme.radius
+            color: Theme.toneGround("amber")
+
+            HelpText {
+                id: notPrinted
+
+                objectName: "notPrintedText"
+                x: Theme.spaceM
+                y: Theme.spaceS
+                width: parent.width - 2 * x
+                text: view.controller.notPrintedText
+                tone: "amber"
+            }
         }
         DrinkBreadcrumb {
             width: parent.width
