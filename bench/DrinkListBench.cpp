@@ -124,8 +124,8 @@ int main(int argc, char* argv[]) {
         worst = 0;
         for (int row = 1; row < 40; ++row)
             worst = std::max(worst, bench::milliseconds([&] {
-                                 step.productModifyPriceDelegateMethod(row, false,
-                                                                       QString::number(row + round + 3));
+                                 step.selectedDrinks()->productModifyPriceDelegateMethod(
+                                     row, false, QString::number(row + round + 3));
                              }));
         editing.push_back(worst);
         // In a draft that comes back every price is the user's own.
@@ -134,10 +134,10 @@ int main(int argc, char* argv[]) {
         BrochureDrinkListViewController again(services, nullptr);
         again.viewDidLoad();
         reopened.push_back(bench::milliseconds([&] { again.viewWillAppear(); }));
-        reopened.back() =
-            std::max(reopened.back(), bench::milliseconds([&] {
-                         again.productModifyPriceDelegateMethod(1, false, QStringLiteral("9,5"));
-                     }));
+        reopened.back() = std::max(reopened.back(), bench::milliseconds([&] {
+                                       again.selectedDrinks()->productModifyPriceDelegateMethod(
+                                           1, false, QStringLiteral("9,5"));
+                                   }));
         if (table.rowCount() < bench::drinks || list.rowCount() < bench::drinks / 2)
             return 1;
     }
