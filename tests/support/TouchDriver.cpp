@@ -109,17 +109,20 @@ void TouchDriver::bringIntoView(QQuickItem* item) {
         if (!isFlickable(up))
             continue;
         const QPointF place = up->mapFromItem(item, QPointF(item->width() / 2, item->height() / 2));
-        const auto shift = [&](const char* content, const char* extent, double at, double size) {
+        // A list with a header begins above its own zero.
+        const auto shift = [&](const char* content, const char* origin, const char* extent, double at,
+                               double size) {
             const double most = std::max(0.0, up->property(extent).toDouble() - size);
+            const double first = up->property(origin).toDouble();
             const double now = up->property(content).toDouble();
             // Scrolling to the middle keeps clear of bars that lie over the edges.
             if (most > 0 && (at < size * 0.12 || at > size * 0.88)) {
-                up->setProperty(content, std::clamp(now + at - size / 2, 0.0, most));
+                up->setProperty(content, std::clamp(now + at - size / 2, first, first + most));
                 moved = moved || !qFuzzyCompare(now + 1, up->property(content).toDouble() + 1);
             }
         };
-        shift("contentY", "contentHeight", place.y(), up->height());
-        shift("contentX", "contentWidth", place.x(), up->width());
+        shift("contentY", "originY", "contentHeight", place.y(), up->height());
+        shift("contentX", "originX", "contentWidth", place.x(), up->width());
     }
     if (moved)
         settle();

@@ -11,19 +11,17 @@
 #include "shell/screens/PhotoLibraryViewController.h"
 #include "shell/screens/RootController.h"
 #include "support/WindowWatch.h"
+#include "tour/PrintedPdf.h"
+#include "tour/TourSupport.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPainter>
-#include <QPdfDocument>
-#include <QPdfSelection>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <signal.h>
@@ -44,24 +42,7 @@ constexpr int productsEntry = 2;
 constexpr int pricesEntry = 3;
 constexpr int digitalStyleEntry = 4;
 constexpr int styleEntry = 5;
-constexpr int drinksEntry = 6;
 constexpr int sendEntry = 8;
-
-void must(bool good, const QString& what) {
-    if (!good)
-        throw TouchFailure(what.toStdString());
-}
-
-void writeFile(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    must(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(),
-         QStringLiteral("write ") + path);
-}
-
-// A text as a reader takes it: blanks of any kind and number count as one.
-QString plainText(QString text) {
-    return text.replace(QRegularExpression(QStringLiteral("[\\s\\x{a0}\\x{202f}]+")), QStringLiteral(" "));
-}
 
 // A logo as a bar has it: an emblem with the first letter of its name.
 QImage barLogo() {
@@ -189,7 +170,7 @@ void Tour::remember() {
 
 void Tour::shot(const QString& name) {
     remember();
-    if (!options_.pictures)
+    if (!options_.pictures || (!wanted_.isEmpty() && !wanted_.contains(name)))
         return;
     const QString number = QStringLiteral("%1").arg(++shots_, 2, 10, QLatin1Char('0'));
     const QString base = options_.folder + QLatin1Char('/') + number + QLatin1Char('-') + name;
@@ -478,28 +459,16 @@ void Tour::checkOrder() {
     must(*received == draft().makeOrder(OrderRequestType::sendToPrint, true),
          QStringLiteral("the order equals the draft"));
 
-    QByteArray pdf = server_->get(order[QStringLiteral("url_pdf")].toString());
+    const QByteArray pdf = server_->get(order[QStringLiteral("url_pdf")].toString());
     writeFile(options_.folder + QStringLiteral("/carta.pdf"), pdf);
-    QBuffer buffer(&pdf);
-    QPdfDocument document;
-    buffer.open(QIODevice::ReadOnly);
-    document.load(&buffer);
-    QString text;
-    for (int page = 0; page < document.pageCount(); ++page)
-        text += document.getAllText(page).text() + QLatin1Char('\n');
-    text = plainText(text);
-    const auto says = [&](const QString& part) {
-        must(text.contains(plainText(part)),
-             QStringLiteral("the PDF says \"%1\"; it says:\n%2").arg(part, text));
-    };
-    says(QString::fromStdString(received->menu.customer.name));
+    const PrintedPdf document(pdf);
+    checkPdf(document, *received);
     const Catalogue& catalogue = AppSingleton::shared().catalogue();
     for (const auto& brand : received->menu.beerBrands) {
-        says(QString::fromStdString(catalogue.product(*brand.brand)->name));
         for (const auto& beer : brand.beers) {
-            says(QString::fromStdString(catalogue.format(*brand.brand, *beer.id)->icon));
+            document.mustSay(catalogue.format(*brand.brand, *beer.id)->icon);
             for (const auto& price : beer.prices)
-                says(QString::fromStdString(AppFormatter::shared().currencyFormatter(price.price)));
+                document.mustSay(AppFormatter::shared().currencyFormatter(price.price));
         }
     }
 }
@@ -567,112 +536,6 @@ void Tour::showAccount() {
     shot(QStringLiteral("buzon"));
     touch_->tap(QStringLiteral("sendSuggestion"));
     dismissAlert(QStringLiteral("Buzón"), QStringLiteral("Gracias"));
-    touch_->tap(QStringLiteral("backButton"));
-    touch_->await(QStringLiteral("welcomeView"));
-}
-
-void Tour::orderEveryKind() {
-    options_.pictures = false;
-    for (const ApplicationType type :
-         {ApplicationType::orderFlyer, ApplicationType::orderDrink, ApplicationType::orderFood,
-          ApplicationType::orderChalkboard, ApplicationType::orderMantel, ApplicationType::orderVideo,
-          ApplicationType::encarte, ApplicationType::orderWineA4, ApplicationType::orderWineOrder,
-          ApplicationType::orderBeer}) {
-        orderKind(static_cast<int>(type));
-        std::printf("  %s: bien\n", std::string(label(type)).c_str());
-    }
-    const QJsonArray orders = QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array();
-    must(orders.size() == 10, QStringLiteral("ten orders at the server, not %1").arg(orders.size()));
-}
-
-void Tour::chooseBlackboard() {
-    const Brochures& brochures = AppSingleton::shared().catalogue().brochures();
-    touch_->tap(QStringLiteral("orientationElement%1").arg(brochures.blackboardFormats.front().id));
-    chooseFirst(QStringLiteral("blackboardTypePicker"));
-    touch_->waitUntil(QStringLiteral("a chalkboard"), [] {
-        return draft().currentBlackboardFormat() != nullptr && draft().currentBlackboardType() != nullptr;
-    });
-}
-
-// A drink of the catalogue in two formats, and one of the user's own with a price.
-void Tour::chooseDrinks() {
-    openStep(drinksEntry);
-    touch_->type(QStringLiteral("drinkCategorySearch"), QStringLiteral("combi"));
-    touch_->tap(QStringLiteral("drinkCategory0"));
-    touch_->type(QStringLiteral("drinkProductSearch"), QStringLiteral("vermut"));
-    touch_->tap(QStringLiteral("drinkProduct0"));
-    touch_->tap(QStringLiteral("drinkFormat1"));
-    touch_->tap(QStringLiteral("drinkCategoryPlus"));
-    touch_->type(QStringLiteral("alertTextField"), QStringLiteral("Batidos de la casa"));
-    touch_->tap(QStringLiteral("alertButton0"));
-    touch_->awaitGone(QStringLiteral("alertTextField"));
-    touch_->tap(QStringLiteral("drinkProductPlus"));
-    touch_->type(QStringLiteral("alertTextField"), QStringLiteral("Batido de fresa"));
-    touch_->tap(QStringLiteral("alertButton0"));
-    touch_->awaitGone(QStringLiteral("alertTextField"));
-    touch_->type(QStringLiteral("beveragePrice4"), QStringLiteral("3,8"));
-    shot(QStringLiteral("bebidas"));
-    must(draft().selectedBeverages.size() == 2, QStringLiteral("two categories of drinks"));
-}
-
-// The order that reached the server carries the drinks with their formats and prices.
-void Tour::checkDrinks() {
-    const QJsonArray orders = QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders"))).array();
-    const auto isOfKind = [](const QJsonValue& order) {
-        const auto kind =
-            order.toObject()[QLatin1String("body")][QLatin1String("menu")][QLatin1String("order_type")];
-        return kind.toInt() == static_cast<int>(*AppSingleton::shared().brochureType());
-    };
-    const auto found = std::ranges::find_if(orders, isOfKind);
-    must(found != orders.end(), QStringLiteral("the order of the kind"));
-    const QJsonArray drinks =
-        (*found)
-            .toObject()[QLatin1String("body")][QLatin1String("menu")][QLatin1String("other_drinks")]
-            .toArray();
-    must(drinks.size() == 2, QStringLiteral("two categories of drinks at the server"));
-    const QJsonValue own = drinks[0][QLatin1String("other_products")][0];
-    must(own[QLatin1String("product_format_name")].toString() == QStringLiteral("Batido de fresa") &&
-             own[QLatin1String("sub_item_prices")][0][QLatin1String("price")].toDouble() == 3.8,
-         QStringLiteral("the drink of the user's own and its price"));
-    must(drinks[1][QLatin1String("other_products")][0][QLatin1String("sub_item_prices")].toArray().size() ==
-             2,
-         QStringLiteral("two formats of the catalogue's drink"));
-}
-
-// One order of a kind, with what the kind asks for at least.
-void Tour::orderKind(int applicationType) {
-    openSection(applicationType);
-    touch_->tap(QStringLiteral("menuEntry0"));
-    dismissAlert(QStringLiteral("Atención"), QStringLiteral("¿Desea borrar todos los datos"), 1);
-    touch_->type(QStringLiteral("tevoTextField"), QStringLiteral("B0011"));
-    touch_->tap(QStringLiteral("searchTEVOCode"));
-    touch_->waitUntil(QStringLiteral("the bar of the code"), [] {
-        return draft().customerInformation && !draft().customerInformation->name.empty();
-    });
-    chooseFirst(QStringLiteral("firstLanguagePicker"));
-    const BrochureType kind = *AppSingleton::shared().brochureType();
-    const Brochures::Type* type = AppSingleton::shared().catalogue().brochureType(kind);
-    auto brands = static_cast<std::size_t>(draft().minimumBrands(1));
-    if (kind == BrochureType::chalkboard) {
-        chooseBlackboard();
-        brands =
-            static_cast<std::size_t>(draft().currentBlackboardFormat()->numberOfSelectableBrands.front());
-    }
-    openStep(productsEntry);
-    selectBrands(type->applicationFather, std::max<std::size_t>(brands, 1), 1);
-    if (type->parameters->showOtherDrink)
-        chooseDrinks();
-    openStep(pricesEntry);
-    dismissAlert(QStringLiteral("Atención"), QStringLiteral("Recuerda que has de marcar"));
-    chooseStyle();
-    openStep(sendEntry);
-    touch_->tap(QStringLiteral("makeOrderButton"));
-    touch_->waitUntil(QStringLiteral("an alert"), [&] { return application_->alerts().isVisible(); });
-    if (application_->alerts().title() == QStringLiteral("¿Los precios son correctos?"))
-        touch_->tap(QStringLiteral("alertButton1"));
-    dismissAlert(QStringLiteral("Éxito"), QString());
-    if (type->parameters->showOtherDrink)
-        checkDrinks();
     touch_->tap(QStringLiteral("backButton"));
     touch_->await(QStringLiteral("welcomeView"));
 }

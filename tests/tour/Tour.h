@@ -5,7 +5,9 @@
 #include "tour/DemoServerProcess.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <string>
@@ -14,6 +16,8 @@
 namespace kavor {
 
 class KavorApplication;
+class PrintedPdf;
+struct SaveBrochuresOrder;
 class WindowWatch;
 
 // The main job on the real client, with touches and key strokes, against the demonstration server: from a
@@ -23,7 +27,7 @@ class Tour {
 public:
     enum class Story {
         MainJob,
-        EveryKind,      // orders one brochure of every kind
+        EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
@@ -106,7 +110,15 @@ private:
     void orderKind(int applicationType);
     void chooseBlackboard();
     void chooseDrinks();
-    void checkDrinks();
+    static void checkDrinks(const QJsonObject& order);
+    void fillAttributes(const QString& phrase);
+    void attachPromotion();
+    void visitExtras();
+    [[nodiscard]] QJsonObject orderOfKind() const;
+    void checkKind();
+    void checkPdf(const PrintedPdf& pdf, const SaveBrochuresOrder& order) const;
+    // Whether the kind in work has a step.
+    [[nodiscard]] bool hasStep(int menuEntry) const;
     void chooseFirst(const QString& picker, int option = 0);
     void selectBrands(ApplicationFather family, std::size_t number, std::size_t step);
     void openSection(int applicationType);
@@ -129,6 +141,7 @@ private:
     std::unique_ptr<WindowWatch> watch_;
     std::unique_ptr<TouchDriver> touch_;
     std::vector<std::string> documents_; // the draft after each action
+    QStringList wanted_;                 // the pictures to take; empty for all
     int shots_ = 0;
 };
 

@@ -4,6 +4,7 @@
 #include "session/AppSingleton.h"
 #include "shell/services/AppDelegate.h"
 #include "tour/Tour.h"
+#include "tour/TourSupport.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -16,11 +17,6 @@
 namespace kavor {
 
 namespace {
-
-void must(bool good, const QString& what) {
-    if (!good)
-        throw TouchFailure(what.toStdString());
-}
 
 const QString attention = QStringLiteral("Atención");
 

@@ -5,6 +5,7 @@
 #include "robust/OwnMounts.h"
 #include "session/AppSingleton.h"
 #include "tour/Tour.h"
+#include "tour/TourSupport.h"
 
 #include <QJsonObject>
 
@@ -20,11 +21,6 @@ constexpr int sendEntry = 8;
 
 const QString outbox = QStringLiteral("outbox");
 const QString firstFile = QStringLiteral("Sin enviar");
-
-void must(bool good, const QString& what) {
-    if (!good)
-        throw TouchFailure(what.toStdString());
-}
 
 QJsonObject customerOf(const QJsonValue& order) {
     return order[QLatin1String("body")][QLatin1String("menu")][QLatin1String("customer")].toObject();

@@ -113,7 +113,7 @@ Item {
         objectName: "beverageFormat" + cell.index
         x: cell.stacked ? Theme.spaceM : prices.x - width - Theme.spaceM
         y: prices.y + prices.height - Theme.touch
-        width: cell.stacked ? prices.x - x - Theme.spaceS : Math.min(130, cell.inner * 0.18)
+        width: cell.stacked ? prices.x - Theme.spaceM - Theme.spaceS : Math.min(130, cell.inner * 0.18)
         height: Theme.touch
         visible: cell.withFormat
         verticalAlignment: Text.AlignVCenter
