@@ -225,14 +225,16 @@ private:
     // A further draft has changes and the others are at the server by now, or all are.
     void noteChanges() {
         auto& drafts = DraftsWithChanges::shared();
+        const std::string key(state_file::draftsWithChanges);
         const auto former = drafts.names();
-        const Int stamp = !former.empty() && random_() % 4 == 0 ? 0 : ++stamp_;
-        begin(std::string(state_file::draftsWithChanges), stamp);
+        const bool there = !former.empty() && stampIn(folder_, key).value_or(0) != 0;
+        const Int stamp = there && random_() % 4 == 0 ? 0 : ++stamp_;
+        begin(key, stamp);
         if (stamp > 0)
             drafts.add(stampedName(stamp));
         for (const auto& name : former)
             drafts.remove(name);
-        tellOutcome(std::string(state_file::draftsWithChanges), stamp);
+        tellOutcome(key, stamp);
     }
 
     // Opens this or the other section: the menu of the one that is left is set aside.

@@ -282,6 +282,9 @@ TEST_F(RecommendationTest, WithoutANetworkTheLastAnswerOfFormatAndPlaceIsShownWi
     prices->priceRecommendation(0);
     press("Sí");
     ASSERT_TRUE(assistant());
+    const int shown = screens.rowCount();
+    prices->priceRecommendation(0);
+    EXPECT_EQ(screens.rowCount(), shown) << "a second tap shows nothing twice";
     const auto day =
         LocalDateTime::fromTime(std::time_t(clock.now().toSecsSinceEpoch())).text().substr(0, 16);
     EXPECT_EQ(assistant()->keptLabel().toStdString(), "Sin conexión: respuesta guardada del " + day);

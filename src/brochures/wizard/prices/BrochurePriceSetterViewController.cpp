@@ -226,7 +226,8 @@ void BrochurePriceSetterViewController::newProductButton(int row) {
 
 void BrochurePriceSetterViewController::priceRecommendation(int row) {
     const PriceRow* product = shownAt(row);
-    if (product && product->brandIdentifier >= 0) // the server knows nothing of a brand added by hand
+    if (product && !covered_ &&
+        product->brandIdentifier >= 0) // the server knows nothing of a brand added by hand
         recommendationRoad_.ask(product->productIdentifier);
 }
 
