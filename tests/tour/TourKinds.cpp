@@ -176,7 +176,7 @@ void Tour::checkPdf(const PrintedPdf& pdf, const SaveBrochuresOrder& order) cons
         for (const char* words : {"Batidos de la casa", "Batido de fresa", "3,80"})
             pdf.mustSay(QString::fromUtf8(words));
     }
-    if (hasStep(Menu::Promotions)) {
+    if (order.menu.promotions && !order.menu.promotions->empty()) {
         const MenuPromotion& promotion = order.menu.promotions->front();
         pdf.mustSay(QStringLiteral("Promociones"));
         pdf.mustSay(*promotion.promotionName);
