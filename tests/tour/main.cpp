@@ -56,6 +56,8 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QUICK_BACKEND", "software");
     qputenv("KAVOR_NO_ANIMATION", "1");
     qputenv("KAVOR_KEYCHAIN", "file");
+    // Where the device is, which some systems tell by this bus, is another place every day.
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent");
     kavor::KavorApplication::prepareProcess();
     QGuiApplication application(argc, argv);
 
