@@ -9,6 +9,7 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -41,6 +42,16 @@ QPointF middle(const QQuickItem* item) {
 bool takesPresses(const QQuickWindow& window) {
     const QVariant open = window.property("takesPresses");
     return !open.isValid() || open.toBool();
+}
+
+// Whether a picture below an item is on its way; one that shows nothing until it is there counts too.
+bool loads(const QQuickItem* item) {
+    constexpr int loading = 2; // Image.Loading
+    if (!item->isVisible())
+        return false;
+    if (item->inherits("QQuickImage") && item->property("status").toInt() == loading)
+        return true;
+    return std::ranges::any_of(item->childItems(), loads);
 }
 
 bool isFlickable(const QQuickItem* item) {
@@ -216,10 +227,7 @@ QString TouchDriver::allTexts(QQuickItem* below) const {
 }
 
 bool TouchDriver::loadsPictures() const {
-    constexpr int loading = 2; // Image.Loading
-    return !visit(window_.contentItem(), [](QQuickItem* item) {
-        return !item->inherits("QQuickImage") || item->property("status").toInt() != loading;
-    });
+    return loads(window_.contentItem());
 }
 
 void TouchDriver::settle() {

@@ -99,8 +99,11 @@ std::vector<Tour::Step> Tour::steps() const {
                                        {"productos", &Tour::chooseProducts},
                                        {"incompleto", &Tour::tryIncomplete},
                                        {"precios", &Tour::setPrices},
+                                       {"margen", &Tour::openMargins},
+                                       {"orientaprecios", &Tour::askPrices},
                                        {"estilo", &Tour::chooseStyle},
                                        {"comandero", &Tour::chooseOrderSheet},
+                                       {"promociones", &Tour::changePromotions},
                                        {"banderines", &Tour::hangPennants},
                                        {"previa", &Tour::preview},
                                        {"impresion", &Tour::print},
@@ -113,7 +116,8 @@ std::vector<Tour::Step> Tour::steps() const {
                                        {"enviar", &Tour::sendWaiting},
                                        {"reclamar", &Tour::claimAndDemand},
                                        {"cuenta", &Tour::showAccount},
-                                       {"tutoriales", &Tour::showTutorials}};
+                                       {"tutoriales", &Tour::showTutorials},
+                                       {"carteleria", &Tour::orderPromotion}};
     switch (options_.story) {
     case Story::MainJob:
         return mainJob;
@@ -431,7 +435,7 @@ void Tour::preview() {
     touch_->tap(QStringLiteral("previewAction"));
     touch_->await(QStringLiteral("webPreview"));
     touch_->waitUntil(QStringLiteral("the pages of the document"),
-                      [&] { return touch_->allTexts().contains(QStringLiteral("1 / 3")); });
+                      [&] { return touch_->allTexts().contains(QStringLiteral("1 / 4")); });
     shot(QStringLiteral("vista-previa"));
     touch_->tap(QStringLiteral("dismissPreview"));
     touch_->awaitGone(QStringLiteral("webPreview"));

@@ -113,6 +113,12 @@ private:
     static void checkDrinks(const QJsonObject& order);
     void fillAttributes(const QString& phrase);
     void attachPromotion();
+    void openMargins();
+    void askPrices();
+    void changePromotions();
+    void orderPromotion();
+    void fillPromotion();
+    void checkPromotion();
     void visitExtras();
     [[nodiscard]] QJsonObject orderOfKind() const;
     void checkKind();

@@ -37,7 +37,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 // kavor-tour DIR                       the main job by itself; pictures, the order and the PDF go to DIR
 //   --documents DIR                    the client's documents folder (default: a temporary one)
 //   --kill-after STEP                  the process kills itself after a step
-//   --every-kind                       an order of every kind of brochure instead
+//   --every-kind                       an order of every kind of brochure with all its
+//                                      steps instead; their bodies and PDFs go to DIR
 //   --orders                           the corners of the list of orders instead
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
@@ -56,6 +57,8 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QUICK_BACKEND", "software");
     qputenv("KAVOR_NO_ANIMATION", "1");
     qputenv("KAVOR_KEYCHAIN", "file");
+    // Where the device is, which some systems tell by this bus, is another place every day.
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent");
     kavor::KavorApplication::prepareProcess();
     QGuiApplication application(argc, argv);
 

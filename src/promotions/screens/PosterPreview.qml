@@ -52,11 +52,12 @@ Item {
             asynchronous: true
         }
     }
-    Rectangle { // the price
+    Rectangle { // the price, clear of the title at the top
         objectName: "posterPrice"
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.margins: poster.width * 0.05
+        anchors.rightMargin: poster.width * 0.05
+        anchors.topMargin: poster.height * 0.38
         width: poster.width * 0.34
         height: width
         radius: width / 2
@@ -82,10 +83,10 @@ Item {
             font.weight: Font.Bold
         }
     }
-    Rectangle { // phrase and hours
+    Rectangle { // phrase and hours, between the drawing and the maker's name at the foot
         objectName: "posterBand"
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: poster.height * 0.06
+        anchors.bottomMargin: poster.height * 0.1
         width: parent.width
         height: words.implicitHeight + 2 * Theme.spaceM
         visible: poster.written

@@ -229,6 +229,11 @@ TEST_F(ProfitTest, AWhatIfIsMarkedAndGoesBackToTheMenuWithItsNetPrice) {
     step->restoreMenuPrices();
     EXPECT_FALSE(step->differsFromMenu());
     EXPECT_EQ(texts(0), "3,00 € | 1,00 € | 2,00 € | 66,667%");
+    for (const char* percent : {"100", "66,667"})
+        type(Percent, 0, percent);
+    EXPECT_FALSE(step->differsFromMenu()) << "the price of the menu, over its percent";
+    type(Percent, 0, "100");
+    EXPECT_TRUE(step->differsFromMenu());
 }
 
 TEST_F(ProfitTest, StepAndOrderOfThePricesSurviveTheAccountOverTheWizard) {

@@ -5,6 +5,7 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <cmath>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -23,7 +24,8 @@ struct ProfitTableRow {
         }
     };
 
-    [[nodiscard]] bool isChanged() const { return row.retailPrice != menuPrice; }
+    // As prices are read, to the cent: what comes back by another column is not another price.
+    [[nodiscard]] bool isChanged() const { return !(std::abs(row.retailPrice - menuPrice) < 0.005); }
     // With what is being typed.
     [[nodiscard]] const ProfitRow& seen() const { return typed ? *typed : row; }
 };
