@@ -88,12 +88,12 @@ public:
     void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
                             const QByteArray& idempotencyKey = {}) override;
     void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) override;
-    void sellingSheetOrderSend(const SellingSheetOrder& order,
-                               Completion<GenericOrderResponse> done) override;
+    void sellingSheetOrderSend(const SellingSheetOrder& order, Completion<GenericOrderResponse> done,
+                               const QByteArray& idempotencyKey = {}) override;
     void sellingSheetOrderDelete(Int orderId, const QString& orderToken,
                                  Completion<SimpleResponse> done) override;
-    void activationOrder(const ActivationOrder& order,
-                         Completion<SaveBrochuresOrderActivationResponse> done) override;
+    void activationOrder(const ActivationOrder& order, Completion<SaveBrochuresOrderActivationResponse> done,
+                         const QByteArray& idempotencyKey = {}) override;
     void activationUserQuota(Completion<ActivationsUserQuota> done) override;
 
 private:

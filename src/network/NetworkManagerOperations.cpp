@@ -45,11 +45,18 @@ Operation postingForm(const char* name, const QUrl& url, const Parameters& form)
 
 // The process stops when the record has no JSON form.
 template <class Record>
-Operation postingRecord(const char* name, const QUrl& url, const Record& record) {
+Operation postingRecord(const char* name, const QUrl& url, const Record& record,
+                        const QByteArray& idempotencyKey = {}) {
     const auto body = json::encodePretty(record);
     if (!body)
         stopProcess(std::string("JSON form of the body of ") + name + ": " + body.error().text());
-    return {QString::fromLatin1(name), "POST", url, QByteArray::fromStdString(*body), jsonType, true};
+    return {QString::fromLatin1(name),
+            "POST",
+            url,
+            QByteArray::fromStdString(*body),
+            jsonType,
+            true,
+            idempotencyKey};
 }
 
 QString segment(Int identifier) {
@@ -149,9 +156,8 @@ void NetworkManager::priceRecommendation(Int productId, const QString& postalCod
 
 void NetworkManager::saveOrder(const SaveBrochuresOrder& order, Completion<SaveBrochuresOrderResponse> done,
                                const QByteArray& idempotencyKey) {
-    auto operation = postingRecord("saveOrderURL", urlOf(networkConfiguration_.urls.saveOrderURL), order);
-    operation.idempotencyKey = idempotencyKey;
-    request(operation, done);
+    const QUrl url = urlOf(networkConfiguration_.urls.saveOrderURL);
+    request(postingRecord("saveOrderURL", url, order, idempotencyKey), done);
 }
 
 void NetworkManager::retrieveBrochureOrderList(const OrderListFilter& filter, Completion<OrderList> done) {
@@ -212,10 +218,8 @@ void NetworkManager::sendRawOrder(const SaveBrochuresOrder& order, const QString
 void NetworkManager::createTextileOrder(const SaveTextileOrder& order,
                                         Completion<SaveTextileOrderResponse> done,
                                         const QByteArray& idempotencyKey) {
-    auto operation =
-        postingRecord("createTextileOrder", urlOf(networkConfiguration_.urls.createTextileOrder), order);
-    operation.idempotencyKey = idempotencyKey;
-    request(operation, done);
+    const QUrl url = urlOf(networkConfiguration_.urls.createTextileOrder);
+    request(postingRecord("createTextileOrder", url, order, idempotencyKey), done);
 }
 
 void NetworkManager::retrieveTextileOrder(Int orderId, Completion<RetrieveTextileOrderResponse> done) {
@@ -225,10 +229,8 @@ void NetworkManager::retrieveTextileOrder(Int orderId, Completion<RetrieveTextil
 
 void NetworkManager::promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
                                         const QByteArray& idempotencyKey) {
-    auto operation = postingRecord("promotionOrderSendURL",
-                                   urlOf(networkConfiguration_.urls.promotionOrderSendURL), order);
-    operation.idempotencyKey = idempotencyKey;
-    request(operation, done);
+    const QUrl url = urlOf(networkConfiguration_.urls.promotionOrderSendURL);
+    request(postingRecord("promotionOrderSendURL", url, order, idempotencyKey), done);
 }
 
 void NetworkManager::sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) {
@@ -237,9 +239,10 @@ void NetworkManager::sellingSheetOrderList(Completion<SellingSheetOrderListRespo
 }
 
 void NetworkManager::sellingSheetOrderSend(const SellingSheetOrder& order,
-                                           Completion<GenericOrderResponse> done) {
+                                           Completion<GenericOrderResponse> done,
+                                           const QByteArray& idempotencyKey) {
     const QUrl url = urlOf(networkConfiguration_.urls.sellingSheetOrderSendURL);
-    request(postingRecord("sellingSheetOrderSendURL", url, order), done);
+    request(postingRecord("sellingSheetOrderSendURL", url, order, idempotencyKey), done);
 }
 
 void NetworkManager::sellingSheetOrderDelete(Int orderId, const QString& orderToken,
@@ -251,9 +254,10 @@ void NetworkManager::sellingSheetOrderDelete(Int orderId, const QString& orderTo
 }
 
 void NetworkManager::activationOrder(const ActivationOrder& order,
-                                     Completion<SaveBrochuresOrderActivationResponse> done) {
+                                     Completion<SaveBrochuresOrderActivationResponse> done,
+                                     const QByteArray& idempotencyKey) {
     const QUrl url = urlOf(networkConfiguration_.urls.activationOrderURL);
-    request(postingRecord("activationOrderURL", url, order), done);
+    request(postingRecord("activationOrderURL", url, order, idempotencyKey), done);
 }
 
 void NetworkManager::activationUserQuota(Completion<ActivationsUserQuota> done) {

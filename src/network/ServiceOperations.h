@@ -157,12 +157,13 @@ public:
     virtual void promotionOrderSend(const PromotionOrder& order, Completion<GenericOrderResponse> done,
                                     const QByteArray& idempotencyKey = {}) = 0;
     virtual void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) = 0;
-    virtual void sellingSheetOrderSend(const SellingSheetOrder& order,
-                                       Completion<GenericOrderResponse> done) = 0;
+    virtual void sellingSheetOrderSend(const SellingSheetOrder& order, Completion<GenericOrderResponse> done,
+                                       const QByteArray& idempotencyKey = {}) = 0;
     virtual void sellingSheetOrderDelete(Int orderId, const QString& orderToken,
                                          Completion<SimpleResponse> done) = 0;
     virtual void activationOrder(const ActivationOrder& order,
-                                 Completion<SaveBrochuresOrderActivationResponse> done) = 0;
+                                 Completion<SaveBrochuresOrderActivationResponse> done,
+                                 const QByteArray& idempotencyKey = {}) = 0;
     virtual void activationUserQuota(Completion<ActivationsUserQuota> done) = 0;
 };
 

@@ -114,9 +114,11 @@ public:
         FakeOperation<RetrieveTextileOrderResponse, Int> retrieveTextileOrder;
         FakeOperation<GenericOrderResponse, PromotionOrder, QByteArray> promotionOrderSend; // with its key
         FakeOperation<SellingSheetOrderListResponse> sellingSheetOrderList;
-        FakeOperation<GenericOrderResponse, SellingSheetOrder> sellingSheetOrderSend;
+        FakeOperation<GenericOrderResponse, SellingSheetOrder, QByteArray>
+            sellingSheetOrderSend; // with its key
         FakeOperation<SimpleResponse, Int, QString> sellingSheetOrderDelete;
-        FakeOperation<SaveBrochuresOrderActivationResponse, ActivationOrder> activationOrder;
+        FakeOperation<SaveBrochuresOrderActivationResponse, ActivationOrder, QByteArray>
+            activationOrder; // with its key
         FakeOperation<ActivationsUserQuota> activationUserQuota;
     };
 
@@ -197,17 +199,17 @@ public:
     void sellingSheetOrderList(Completion<SellingSheetOrderListResponse> done) override {
         requests.sellingSheetOrderList.called(std::move(done));
     }
-    void sellingSheetOrderSend(const SellingSheetOrder& order,
-                               Completion<GenericOrderResponse> done) override {
-        requests.sellingSheetOrderSend.called(std::move(done), order);
+    void sellingSheetOrderSend(const SellingSheetOrder& order, Completion<GenericOrderResponse> done,
+                               const QByteArray& idempotencyKey = {}) override {
+        requests.sellingSheetOrderSend.called(std::move(done), order, idempotencyKey);
     }
     void sellingSheetOrderDelete(Int orderId, const QString& orderToken,
                                  Completion<SimpleResponse> done) override {
         requests.sellingSheetOrderDelete.called(std::move(done), orderId, orderToken);
     }
-    void activationOrder(const ActivationOrder& order,
-                         Completion<SaveBrochuresOrderActivationResponse> done) override {
-        requests.activationOrder.called(std::move(done), order);
+    void activationOrder(const ActivationOrder& order, Completion<SaveBrochuresOrderActivationResponse> done,
+                         const QByteArray& idempotencyKey = {}) override {
+        requests.activationOrder.called(std::move(done), order, idempotencyKey);
     }
     void activationUserQuota(Completion<ActivationsUserQuota> done) override {
         requests.activationUserQuota.called(std::move(done));
