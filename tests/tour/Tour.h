@@ -108,6 +108,9 @@ private:
     void choosePennantBrand();
 
     void orderKind(int applicationType);
+    void orderFromTheCloud(BrochureType type);
+    void sendKind();
+    static QString cloudRow(const QJsonObject& record);
     void chooseBlackboard();
     void chooseDrinks();
     static void checkDrinks(const QJsonObject& order);

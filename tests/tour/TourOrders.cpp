@@ -75,6 +75,13 @@ void Tour::showOrders() {
     touch_->awaitGone(QStringLiteral("filterquick"));
 }
 
+// The row of an order in the cloud, as the server has it.
+QString Tour::cloudRow(const QJsonObject& record) {
+    return QStringLiteral("savedOrderbrochure %1 #%2")
+        .arg(record[QLatin1String("type")].toInt())
+        .arg(record[QLatin1String("id")].toInteger());
+}
+
 // An order that is only in the cloud is opened, kept under its name and stands in both places afterwards.
 void Tour::editCloudOrder() {
     const QString name = QStringLiteral("Bar. La Nube");
@@ -84,9 +91,7 @@ void Tour::editCloudOrder() {
              QJsonDocument::fromJson(server_->get(QStringLiteral("/demo/orders?all=1"))).array()) {
             const QJsonObject record = order.toObject();
             if (record[QLatin1String("filename")].toString() == name)
-                row = QStringLiteral("savedOrderbrochure %1 #%2")
-                          .arg(record[QLatin1String("type")].toInt())
-                          .arg(record[QLatin1String("id")].toInteger());
+                row = cloudRow(record);
         }
         return !row.isEmpty();
     });

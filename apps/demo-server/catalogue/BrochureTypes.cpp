@@ -31,7 +31,6 @@ struct Rules {
     bool quantityChecked = true, printer = true;
     bool menuFormat = false, wineFormat = false, otherDrinks = false, secondaryBrands = false, block = false;
     std::optional<std::string> priceColumn = {};
-    bool withParameters = true;
 };
 
 const std::vector<Rules> allRules = {
@@ -196,8 +195,16 @@ const std::vector<Rules> allRules = {
      .quantityChecked = false,
      .printer = false,
      .block = true},
-    // Only its styles are used, inside other kinds.
-    {.kind = BrochureKind::pennant, .withParameters = false},
+    // Its styles are used inside other kinds; no tile opens it, but a string of pennants alone can be ordered
+    // again from what lies in the cloud.
+    {.kind = BrochureKind::pennant,
+     .pennants = true,
+     .minimum = 1,
+     .maximum = 8,
+     .languages = true,
+     .leastQuantity = 10,
+     .greatestQuantity = 200,
+     .quantities = {10, 25, 50, 100, 200}},
 };
 
 Json parametersOf(const Rules& rules) {
@@ -270,9 +277,7 @@ Json brochureTypes() {
                      {"application_father_id", int(familyOfKind(kind))},
                      {"name", kindName(kind)},
                      {"permiteIndicarCartas2Precio", rules.secondPrice}};
-        if (rules.withParameters) {
-            type["parametros"] = parametersOf(rules);
-        }
+        type["parametros"] = parametersOf(rules);
         types.push_back(std::move(type));
     }
     return types;

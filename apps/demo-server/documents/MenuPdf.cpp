@@ -34,6 +34,9 @@ const char* titleIn(int kind, int language) {
     if (kind == int(BrochureKind::menu) && language <= 1) {
         return "Carta de Menú";
     }
+    if (kind == int(BrochureKind::pennant) && language <= 1) {
+        return "Banderines";
+    }
     return words[size_t(std::clamp(language, 1, int(words.size())) - 1)];
 }
 

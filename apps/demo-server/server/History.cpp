@@ -61,7 +61,7 @@ constexpr std::array chosen = {
          .pending = true},
     Past{.kind = mantel, .daysAgo = 16, .state = State::delivered},
     Past{.kind = encarte, .daysAgo = 18, .state = State::inProcess},
-    Past{.kind = digital, .daysAgo = 21, .state = State::delivered},
+    Past{.kind = pennant, .daysAgo = 21, .state = State::cloud},
     Past{.kind = pennant, .daysAgo = 25, .state = State::sent},
     Past{.daysAgo = 5, .state = State::confirmed, .code = false, .name = "Chiringuito Las Dunas Quietas"},
     Past{.kind = menu, .daysAgo = 13, .state = State::sent, .pointOfSale = false},

@@ -67,7 +67,7 @@ const Style* styleOf(const Catalogue& catalogue, BrochureKind kind, int seed) {
 }
 
 void addSpecials(Json& menu, const Catalogue& catalogue, BrochureKind kind) {
-    if (kind == BrochureKind::beer) {
+    if (kind == BrochureKind::beer || kind == BrochureKind::pennant) {
         for (const Json& item : menu["items"]) {
             for (const Json& sold : item["sub_items"]) {
                 const Format* format = catalogue.format(sold["product"].get<int>());

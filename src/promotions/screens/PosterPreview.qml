@@ -90,7 +90,7 @@ Item {
         width: parent.width
         height: words.implicitHeight + 2 * Theme.spaceM
         visible: poster.written
-        color: Qt.rgba(Theme.bottle.r, Theme.bottle.g, Theme.bottle.b, 0.94)
+        color: Qt.rgba(Theme.bottle.r, Theme.bottle.g, Theme.bottle.b, 1)
 
         Column {
             id: words
