@@ -255,4 +255,8 @@ void KavorApplication::setOffline(bool offline) {
     parts_->reachability.setForcedOffline(offline);
 }
 
+void KavorApplication::setPlace(const std::optional<Placemark>& place) {
+    parts_->location.setForcedPlace(place);
+}
+
 } // namespace kavor

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class QQuickWindow;
 
@@ -17,6 +18,7 @@ class LogFile;
 class PhotoLibraryViewController;
 class RootController;
 class ServiceOperations;
+struct Placemark;
 class SessionStore;
 
 // The client, put together: session, device, network, services, screens and the window. One at a time, after
@@ -52,6 +54,8 @@ public:
     void keepSecretsOutOf(LogFile& log);
     // Makes the client believe that there is no network, or ends that.
     void setOffline(bool offline);
+    // Makes the client believe that the device stands there, or ends that.
+    void setPlace(const std::optional<Placemark>& place);
     // Brings the window to the front and opens the URLs.
     void startedAgain(const QStringList& urls);
 

@@ -25,13 +25,18 @@ ReverseLocationManager::ReverseLocationManager(LocationService& location, Revers
     , geocoder_(geocoder) {}
 
 bool ReverseLocationManager::start() {
-    if (!location_.isAvailable())
+    if (!forcedPlace_ && !location_.isAvailable())
         return false;
     const auto report = [guard = QPointer<ReverseLocationManager>(this)](
                             const std::optional<Placemark>& placemark, const std::optional<QString>& error) {
         if (guard && guard->onReverseHandler)
             guard->onReverseHandler(placemark, error);
     };
+    if (forcedPlace_) {
+        QMetaObject::invokeMethod(
+            this, [report, place = forcedPlace_] { report(place, std::nullopt); }, Qt::QueuedConnection);
+        return true;
+    }
     location_.requestLocation(this, [this, report](const LocationAnswer& answer) {
         if (answer.coordinate)
             geocoder_.reverse(*answer.coordinate, report);

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace kavor {
 
@@ -54,10 +55,13 @@ public:
 
     // False, and no answer follows, when location is not available on this device.
     bool start();
+    // Makes the client believe that the device stands there, or ends that.
+    void setForcedPlace(std::optional<Placemark> place) { forcedPlace_ = std::move(place); }
 
 private:
     LocationService& location_;
     ReverseGeocoder& geocoder_;
+    std::optional<Placemark> forcedPlace_;
 };
 
 } // namespace kavor

@@ -110,6 +110,8 @@ private:
     void orderKind(int applicationType);
     void orderFromTheCloud(BrochureType type);
     void sendKind();
+    void keepAndReopen();
+    void leaveTheOrders();
     static QString cloudRow(const QJsonObject& record);
     void chooseBlackboard();
     void chooseDrinks();

@@ -82,7 +82,7 @@ void Tour::orderFromTheCloud(BrochureType type) {
     touch_->settle();
     openStep(Menu::Send);
     sendKind();
-    touch_->tap(QStringLiteral("backButton"));
+    leaveTheOrders();
     touch_->await(QStringLiteral("welcomeView"));
 }
 
@@ -125,8 +125,37 @@ void Tour::orderKind(int applicationType) {
     chooseStyle();
     visitExtras();
     openStep(Menu::Send);
+    const bool throughADraft = hasStep(Menu::Drinks);
+    if (throughADraft)
+        keepAndReopen();
     sendKind();
+    if (throughADraft)
+        leaveTheOrders();
     touch_->await(QStringLiteral("welcomeView"));
+}
+
+// The draft goes to the disk and the cloud, and its work is gone on with from the list of orders.
+void Tour::keepAndReopen() {
+    const QString name = QStringLiteral("Bebidas de ") + QString::number(printedOrders().size());
+    touch_->tap(QStringLiteral("saveOrderAction"));
+    touch_->waitUntil(QStringLiteral("the question for a name"),
+                      [&] { return application_->alerts().hasTextField(); });
+    touch_->type(QStringLiteral("alertTextField"), name);
+    touch_->tap(QStringLiteral("alertButton0"));
+    dismissAlert(QStringLiteral("Pedido guardado"), QStringLiteral("sincronizado"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->await(QStringLiteral("welcomeView"));
+    touch_->tap(QStringLiteral("allOrdersButton"));
+    touch_->tap(savedRow(QStringLiteral("draft"), name, QStringLiteral("editButton")));
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("¿Deseas editar el pedido"), 1);
+    touch_->await(QStringLiteral("menuEntry%1").arg(static_cast<int>(Menu::Send)));
+    touch_->settle();
+    openStep(Menu::Send);
+}
+
+void Tour::leaveTheOrders() {
+    touch_->await(QStringLiteral("sentOrdersTable|copyOrderButton"));
+    touch_->tap(QStringLiteral("backButton"));
 }
 
 // From the send step; the wizard is closed afterwards.

@@ -1,5 +1,6 @@
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/wizard/BrochureMenuViewController.h"
+#include "device/ReverseLocationManager.h"
 #include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "tour/PrintedPdf.h"
@@ -66,7 +67,8 @@ void Tour::openMargins() {
          QStringLiteral("the net price in the draft"));
 }
 
-// What others charge: by an address, for the next row at the same place, and without a network.
+// What others charge: by an address, for the next row at the same place, where the device stands, and without
+// a network.
 void Tour::askPrices() {
     touch_->tap(QStringLiteral("priceRecommendation0"));
     dismissAlert({}, QStringLiteral("No se puede utilizar la ubicación, está deshabilitada."));
@@ -88,6 +90,18 @@ void Tour::askPrices() {
     touch_->awaitGone(QStringLiteral("priceAssistantView"));
     touch_->tap(QStringLiteral("priceRecommendation1"));
     touch_->await(QStringLiteral("priceAssistantView"));
+    touch_->tap(QStringLiteral("backButton"));
+    touch_->awaitGone(QStringLiteral("priceAssistantView"));
+    touch_->tap(QStringLiteral("priceRecommendation0"));
+    touch_->await(QStringLiteral("priceArea3"));
+    application_->setPlace(
+        Placemark{QStringLiteral("28013"), QStringLiteral("Madrid"), std::nullopt, std::nullopt});
+    touch_->tap(QStringLiteral("changePlace"));
+    dismissAlert(QStringLiteral("¿Desea utilizar la siguiente ubicación?"), QStringLiteral("28013, Madrid"));
+    touch_->await(QStringLiteral("priceArea3"));
+    must(touch_->allTexts().contains(QStringLiteral("Código postal 28013")),
+         QStringLiteral("the prices of where the device stands"));
+    application_->setPlace(std::nullopt);
     touch_->tap(QStringLiteral("backButton"));
     touch_->awaitGone(QStringLiteral("priceAssistantView"));
     application_->setOffline(true);
