@@ -258,13 +258,13 @@ std::vector<std::string> TextileIntermediateData::validate() const {
 SaveTextileOrder TextileIntermediateData::makeOrder(OrderRequestType request, bool validating) const {
     if (validating && !validate().empty())
         stopProcess("Fatal error");
-    const auto& section = AppSingleton::shared().actualApplicationType;
-    if (!section)
+    const auto& entered = AppSingleton::shared().actualApplicationType;
+    if (!entered)
         stopProcess("section of a textile order");
     SaveTextileOrder made;
     made.save = request;
     made.orderInformation.message = customizedText.value_or("");
-    made.orderInformation.applicationType = *section;
+    made.orderInformation.applicationType = *entered;
     made.orderInformation.typographyId = typographyIdentifier;
     made.orderInformation.orderComment = orderComment;
     for (const OrderItem& line : order) {

@@ -59,6 +59,12 @@ public:
     std::optional<std::string> filename;
     std::optional<Int> orderIdentifier;
 
+    // What the device alone knows of it.
+    UnansweredSends unansweredSends;
+    std::optional<std::string> outboxFile;  // plain name, of one that was opened from the outbox
+    std::optional<std::string> orderURL;    // where the order can be seen that was made of it
+    std::optional<ApplicationType> section; // in which it was begun or gone on with
+
     // Each clears what hangs on it, also when the same is chosen again; none clears its member alone.
     bool selectBrand(std::optional<Int> identifier);
     bool selectFormatAndGender(std::optional<Int> format, std::optional<Int> gender);
