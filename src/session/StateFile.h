@@ -18,6 +18,7 @@ inline constexpr std::string_view netPrices = "netPrices";
 inline constexpr std::string_view temporalBrochure = "temporalBrochure";
 inline constexpr std::string_view draftsWithChanges = "draftsWithChanges";
 inline constexpr std::string_view promotionDraft = "promotionDraft";
+inline constexpr std::string_view textileDraft = "textileDraft";
 // The lock of the client that is running over the folder.
 inline constexpr std::string_view clientLock = "kavor.lock";
 

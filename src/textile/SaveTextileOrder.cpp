@@ -1,6 +1,6 @@
 #include "textile/SaveTextileOrder.h"
 
-#include "documents/DocumentTables.h"
+#include "textile/TextileTables.h"
 
 namespace kavor::json {
 
@@ -21,28 +21,19 @@ struct Table<SaveTextileOrder::Order> {
 };
 
 template <>
-struct Table<SaveTextileOrder::Customer> {
-    using R = SaveTextileOrder::Customer;
-    static constexpr auto fields = std::tuple{optional("id", &R::id),
-                                              optional("name", &R::name),
-                                              optional("contact", &R::contactName),
-                                              optional("email", &R::email),
-                                              optional("telephone", &R::telephone),
-                                              optional("tevo", &R::tevo),
-                                              optional("placePostalCode", &R::placePostalCode),
-                                              optional("placeLocality", &R::placeLocality),
-                                              optional("placeLocalityId", &R::placeLocalityId),
-                                              optional("placeProvinceId", &R::placeProvinceId),
-                                              optional("placeProvinceName", &R::placeProvinceName)};
-};
-
-template <>
 struct Table<SaveTextileOrder> {
     using R = SaveTextileOrder;
     static constexpr auto fields =
         std::tuple{requiredAs<SaveModeCodec>("save", &R::save), required("order", &R::orderInformation),
                    optional("customer", &R::customer), optional("name_archive_tablet", &R::filename),
                    optional("id", &R::orderIdentifier)};
+};
+
+template <>
+struct Table<KeptTextileOrder> {
+    static constexpr auto fields =
+        std::tuple_cat(Table<SaveTextileOrder>::fields,
+                       std::tuple{optional("unanswered_sends", &KeptTextileOrder::unansweredSends)});
 };
 
 template <>
@@ -84,5 +75,6 @@ struct Table<RetrieveTextileOrderResponse> {
 } // namespace kavor::json
 
 KAVOR_JSON_DOCUMENT(kavor::SaveTextileOrder)
+KAVOR_JSON_DOCUMENT(kavor::KeptTextileOrder)
 KAVOR_JSON_DOCUMENT(kavor::SaveTextileOrderResponse)
 KAVOR_JSON_DOCUMENT(kavor::RetrieveTextileOrderResponse)

@@ -5,9 +5,11 @@
 #include "catalogue/Enumerations.h"
 #include "documents/OrderRequestType.h"
 #include "documents/OrderSyncState.h"
+#include "documents/UnansweredSend.h"
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kavor {
@@ -50,6 +52,11 @@ struct SaveTextileOrder {
     std::optional<std::string> filename;
     std::optional<Int> orderIdentifier;
     std::optional<OrderSyncState> syncState; // memory only
+};
+
+// The order as its file holds it, with what only the device knows.
+struct KeptTextileOrder : SaveTextileOrder {
+    std::optional<UnansweredSends> unansweredSends = std::nullopt; // absent rather than empty
 };
 
 struct SaveTextileOrderResponse {

@@ -13,6 +13,7 @@
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 #include "support/FakeServices.h"
+#include "textile/UnfinishedTextile.h"
 
 #include <QCoreApplication>
 
@@ -54,7 +55,7 @@ public:
     }
 
     void step() {
-        switch (random_() % 16) {
+        switch (random_() % 17) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -92,6 +93,8 @@ public:
             return noteChanges();
         case 14:
             return workOnPromotion();
+        case 15:
+            return workOnTextile();
         default:
             return write(keychainKey, [this](Int stamp) {
                 FileKeychain keychain(folder_ / keychainKey);
@@ -283,6 +286,27 @@ private:
             begin(key, stamp);
             *promotion_ = stamped<PromotionDraft>(stamp);
             unfinished.keep(*promotion_);
+        }
+        tellOutcome(key, stamp);
+    }
+
+    // The order of clothing is opened, begun anew, or written on.
+    void workOnTextile() {
+        const std::string key(state_file::textileDraft);
+        auto& unfinished = UnfinishedTextile::shared();
+        const unsigned chance = random_() % 6;
+        if (chance == 0)
+            return unfinished.open();
+        Int stamp = 0;
+        if (chance == 1 && stampIn(folder_, key).value_or(0) != 0) {
+            begin(key, stamp);
+            unfinished.beginAnew();
+        } else {
+            stamp = ++stamp_;
+            begin(key, stamp);
+            TextileIntermediateData::setShared(
+                std::make_shared<TextileIntermediateData>(draftOf(stamped<TextileDraftRecord>(stamp))));
+            unfinished.keep();
         }
         tellOutcome(key, stamp);
     }

@@ -67,6 +67,10 @@ std::optional<Int> stampOf(const SellingSheetOrder& record) {
 std::optional<Int> stampOf(const PromotionDraft& record) {
     return record.name == record.comment ? std::optional<Int>(std::atoll(record.name.c_str())) : std::nullopt;
 }
+std::optional<Int> stampOf(const TextileDraftRecord& record) {
+    const bool whole = record.orderIdentifier && record.filename == std::to_string(*record.orderIdentifier);
+    return whole ? record.orderIdentifier : std::nullopt;
+}
 std::optional<Int> stampOf(const NetPrices& record) {
     if (record.empty() || record.begin()->second != record.rbegin()->second)
         return std::nullopt;
@@ -179,6 +183,15 @@ PromotionDraft stamped(Int stamp) {
     return record;
 }
 
+template <>
+TextileDraftRecord stamped(Int stamp) {
+    TextileDraftRecord record;
+    record.orderIdentifier = stamp;
+    record.filename = std::to_string(stamp);
+    record.lines.assign(200, {1, 1, 1, 1, {{1, 2}}});
+    return record;
+}
+
 KeychainItem stampedSecret(Int stamp) {
     const std::string text = std::to_string(stamp);
     return {{.server = "server.example"}, text, text};
@@ -196,14 +209,18 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
     auto file = documents / key;
     struct stat status {};
     if (::stat(file.c_str(), &status) != 0) {
-        file = documents / promotionRecoveryName;
-        if (key != state_file::promotionDraft || ::stat(file.c_str(), &status) != 0)
+        if (key != state_file::promotionDraft && key != state_file::textileDraft)
+            return 0;
+        file = documents / (key == state_file::promotionDraft ? promotionRecoveryName : textileRecoveryName);
+        if (::stat(file.c_str(), &status) != 0)
             return 0;
     }
     if ((status.st_mode & 077) != 0)
         return std::nullopt;
     if (key == state_file::promotionDraft)
         return stampOfFile<PromotionDraft>(file, false);
+    if (key == state_file::textileDraft)
+        return stampOfFile<TextileDraftRecord>(file, false);
     if (key == state_file::applicationInformation)
         return stampOfFile<ApplicationInformation>(file, false);
     if (key == state_file::loginResult)

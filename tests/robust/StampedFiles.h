@@ -6,7 +6,7 @@
 #include "promotions/PromotionDraft.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
-#include "textile/SaveTextileOrder.h"
+#include "textile/TextileDraftRecord.h"
 
 #include <filesystem>
 #include <optional>
@@ -21,6 +21,7 @@ namespace kavor::robust {
 inline const std::string temporaryCopyName = "temporalBrochure";
 inline const std::string recoveryCopyName = "temporalBrochure.recovery";
 inline const std::string promotionRecoveryName = "promotionDraft.recovery"; // its key is the copy's
+inline const std::string textileRecoveryName = "textileDraft.recovery";     // the same
 inline constexpr BrochureType menuKinds[] = {BrochureType::beer, BrochureType::wineA4};
 std::string menuKey(BrochureType kind);
 inline const std::string defaultsKey = "UserDefaults";
@@ -43,6 +44,8 @@ template <>
 BrochureIntermediateData::NetPrices stamped(Int stamp);
 template <>
 PromotionDraft stamped(Int stamp);
+template <>
+TextileDraftRecord stamped(Int stamp);
 KeychainItem stampedSecret(Int stamp);
 
 // The number in a file: 0 when it is missing, nothing when it doesn't decode, when its two numbers differ,

@@ -4,6 +4,7 @@
 #include "base/json/Json.h"
 #include "brochures/engine/SaveBrochuresOrder.h"
 #include "network/ServiceOperations.h"
+#include "textile/SaveTextileOrder.h"
 
 #include <QUuid>
 
@@ -26,6 +27,14 @@ std::string prefixOf(OrderRequestType type) {
     return std::to_string(static_cast<Int>(type)) + '/';
 }
 
+template <class Order>
+std::string textOf(const Order& order) {
+    const auto text = json::encode(order);
+    if (!text)
+        stopProcess("document of an order to send: " + text.error().text());
+    return *text;
+}
+
 std::string documentOf(SaveBrochuresOrder order) {
     order.orderIdentifier.reset();
     order.menu.customer.id.reset();
@@ -33,10 +42,16 @@ std::string documentOf(SaveBrochuresOrder order) {
         order.printedMyself = false;
     else
         order.filename.reset();
-    const auto text = json::encode(order);
-    if (!text)
-        stopProcess("document of an order to send: " + text.error().text());
-    return *text;
+    return textOf(order);
+}
+
+std::string documentOf(SaveTextileOrder order) {
+    order.orderIdentifier.reset();
+    if (order.customer)
+        order.customer->id.reset();
+    if (order.save != OrderRequestType::saveCloud)
+        order.filename.reset();
+    return textOf(order);
 }
 
 template <class List>
@@ -51,6 +66,9 @@ SendContent::SendContent(OrderRequestType type, const std::string& document)
     , text_(prefixOf(type) + madeOf(QByteArray::fromStdString(document)).toStdString()) {}
 
 SendContent::SendContent(SaveBrochuresOrder order)
+    : SendContent(order.save, documentOf(std::move(order))) {}
+
+SendContent::SendContent(SaveTextileOrder order)
     : SendContent(order.save, documentOf(std::move(order))) {}
 
 namespace send_intent {
@@ -103,6 +121,12 @@ std::optional<QByteArray> keyInFile(const KeptOrder& order) {
             return QByteArray::fromStdString(known.front().key);
     }
     return std::nullopt;
+}
+
+std::optional<QByteArray> keyInFile(const KeptTextileOrder& order) {
+    const auto known = sentWithoutAnswer(order.unansweredSends.value_or(UnansweredSends()),
+                                         SendContent(SaveTextileOrder(order)));
+    return known.empty() ? std::nullopt : std::optional(QByteArray::fromStdString(known.front().key));
 }
 
 QByteArray keyOfPlace(DirectoryName directory, std::string_view fileName,

@@ -15,16 +15,19 @@
 namespace kavor {
 
 struct KeptOrder;
+struct KeptTextileOrder;
 struct RequestFailure;
 struct SaveBrochuresOrder;
+struct SaveTextileOrder;
 
 // What an order asks for, digested: two orders with the same content are one intent to send.
 class SendContent {
 public:
     // The document without what makes no other order of it.
     SendContent(OrderRequestType type, const std::string& document);
-    // A brochure stands for its content.
+    // A brochure and an order of clothing stand for their content.
     SendContent(SaveBrochuresOrder order);
+    SendContent(SaveTextileOrder order);
 
     [[nodiscard]] OrderRequestType type() const { return type_; }
     [[nodiscard]] const std::string& text() const { return text_; }
@@ -53,6 +56,7 @@ void answered(UnansweredSends& unanswered, const SendContent& content);
 
 // The key of a send of the order in a file which nobody answered.
 std::optional<QByteArray> keyInFile(const KeptOrder& order);
+std::optional<QByteArray> keyInFile(const KeptTextileOrder& order);
 // Most records keep no sends in their files.
 template <class Kept>
 std::optional<QByteArray> keyInFile(const Kept&) {
