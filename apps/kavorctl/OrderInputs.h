@@ -19,7 +19,6 @@ struct OrderInputs {
     std::string login;
     std::string save = "cloud";
     std::string row;
-    std::string intent;
 };
 
 // Makes the catalogue (and the login answer, when a file is named) those of the session.

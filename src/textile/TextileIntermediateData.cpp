@@ -301,7 +301,7 @@ void TextileIntermediateData::loadOrder(const SaveTextileOrder& loaded) {
 SaveTextileOrder savedOrder(const RetrieveTextileOrderResponse& answer) {
     const auto& retrieved = answer.orderInformation;
     SaveTextileOrder order;
-    order.save = OrderRequestType::saveCloud;
+    order.save = OrderRequestType::sendToPrint;
     order.orderInformation.message = retrieved.message.value_or("");
     order.orderInformation.applicationType = retrieved.applicationType;
     order.orderInformation.typographyId = retrieved.typographyId;
