@@ -191,22 +191,34 @@ std::vector<TextileFont> installedFonts() {
 
 namespace {
 
+/// Aprons come in one size; the widest are not cut for women, and no one asks for a small sweatshirt in
+/// black.
+constexpr int oneSize = 7;
+bool isMade(int type, int gender, int colour, int size) {
+    if (type == 3 || size == oneSize) {
+        return type == 3 && size == oneSize;
+    }
+    return !(gender == 2 && size == 6) && !(type == 4 && colour == 3 && size == 1);
+}
+
 Json garmentItems(std::span<const Brand> brands, PictureBook& book) {
-    constexpr int sizes = 6;
     Json items = Json::array();
     int id = 1;
     const auto add = [&](const Brand& brand, int applicationType, int type, int gender, int colour) {
-        for (int size = 1; size <= sizes; ++size) {
+        for (int size = 1; size <= oneSize; ++size) {
+            if (!isMade(type, gender, colour, size)) {
+                continue;
+            }
             items.push_back({{"id", id},
                              {"application_father_id", applicationType == 8 ? 4 : 10},
                              {"application_type_id", applicationType},
-                             {"position", id},
+                             {"position", 1 + id * 37 % 1009}, // unlike the order of the records
                              {"brand_id", brand.id},
                              {"type_id", type},
                              {"model_id", gender},
                              {"color_id", colour},
                              {"size_id", size},
-                             {"by_default", true},
+                             {"by_default", !(type == 4 && colour == 5)}, // an earlier season's
                              {"image", book.resource({PictureKind::garment, type, colour, brand.id},
                                                      lookText(brand.look), size == 1 ? 2 : 3)}});
             ++id;
@@ -258,11 +270,11 @@ Json textileSection(std::span<const Brand> brands, PictureBook& book) {
         std::array<char, 16> text{};
         std::snprintf(text.data(), text.size(), "#%06X", unsigned(colour.colour));
         colours.push_back(
-            {{"id", colour.id}, {"position", colour.id}, {"name", colour.name}, {"color", text.data()}});
+            {{"id", colour.id}, {"position", 6 - colour.id}, {"name", colour.name}, {"color", text.data()}});
     }
-    Json sizes =
-        named({"Extra pequeña", "Pequeña", "Mediana", "Grande", "Extra grande", "Doble extra grande"});
-    constexpr std::array codes = {"XS", "S", "M", "L", "XL", "XXL"};
+    Json sizes = named({"Extra pequeña", "Pequeña", "Mediana", "Grande", "Extra grande", "Doble extra grande",
+                        "Talla única"});
+    constexpr std::array codes = {"XS", "S", "M", "L", "XL", "XXL", "U"};
     for (size_t i = 0; i < codes.size(); ++i) {
         sizes[i]["code"] = codes[i];
     }

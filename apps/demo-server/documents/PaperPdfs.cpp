@@ -25,56 +25,6 @@ const auto* recordOf(const Records& records, int id) {
 
 } // namespace
 
-QByteArray textilePdf(const Json& order, const Catalogue& catalogue) {
-    const Json& sent = order["order"];
-    const Json customer = order.value("customer", Json::object());
-    Report report("Pedido textil", member(customer, "name"), 0);
-    report.heading("Texto para estampar");
-    QFont font = face(Face::body, 46);
-    for (const TextileFont& known : installedFonts()) {
-        if (known.id == sent.value("typography_id", 0)) {
-            font.setFamilies({known.name});
-        }
-    }
-    report.painter().setPen(colour(report.theme().ink));
-    drawFitted(report.painter(), QRectF(Report::margin, report.y(), report.width(), 70), Qt::AlignCenter,
-               member(sent, "message"), font);
-    report.y() += 86;
-    report.heading("Prendas");
-    const Json& textile = catalogue.textile();
-    int units = 0;
-    for (const Json& line : sent["lines"]) {
-        for (const Json& item : textile["textil"]) {
-            if (item["id"] != line["textil_id"]) {
-                continue;
-            }
-            const Brand* brand = catalogue.brand(item["brand_id"].get<int>());
-            const GarmentColour* tone = recordOf(garmentColours(), item["color_id"].get<int>());
-            const GarmentType* type = recordOf(garmentTypes(), item["type_id"].get<int>());
-            report.need(100);
-            drawGarment(report.painter(), QRectF(Report::margin, report.y(), 90, 90), type->id, tone->colour,
-                        brand->look);
-            report.painter().setPen(colour(report.theme().ink));
-            const QString words =
-                QString("%1 %2 · %3 · talla %4")
-                    .arg(text(type->name), text(brand->name), text(tone->name),
-                         member(textile["textil_size"][item["size_id"].get<size_t>() - 1], "code"));
-            drawFitted(report.painter(),
-                       QRectF(Report::margin + 106, report.y() + 24, report.width() - 220, 40),
-                       Qt::AlignLeft | Qt::AlignVCenter, words, face(Face::body, 18));
-            drawFitted(report.painter(),
-                       QRectF(Report::margin + report.width() - 110, report.y() + 24, 110, 40),
-                       Qt::AlignRight | Qt::AlignVCenter, text(line["quantity"].dump()) + " uds.",
-                       face(Face::body, 20, true));
-            report.y() += 96;
-            units += line["quantity"].get<int>();
-        }
-    }
-    report.line("Total", QString("%1 unidades").arg(units));
-    report.paragraph(member(sent, "orderComment"));
-    return report.finish();
-}
-
 QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue) {
     const SheetStyle* style = recordOf(sheetStyles(), order["style_id"].get<int>());
     Report report(member(order, "title"), member(order, "sub_title"), style ? style->theme : 0);

@@ -9,7 +9,6 @@ namespace kavor::demo {
 
 /// PDFs of the orders beside the menus, and the documents that the catalogue names.
 
-QByteArray textilePdf(const Json& order, const Catalogue& catalogue);
 QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue);
 QByteArray activationPdf(const Json& order, const Catalogue& catalogue);
 

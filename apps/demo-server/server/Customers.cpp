@@ -102,7 +102,9 @@ Bar makeBar(int index) {
     Bar bar;
     bar.id = 300 + index + 1;
     std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "B%04d", index + 1);
+    // Some regions number their bars without a letter.
+    std::snprintf(code.data(), code.size(), index % 5 == 3 ? "%d" : "B%04d",
+                  index % 5 == 3 ? 104'000 + index : index + 1);
     bar.code = code.data();
     bar.name = barNames[size_t(index)];
     const std::string handle = handleOf(bar.name);

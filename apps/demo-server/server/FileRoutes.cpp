@@ -4,6 +4,7 @@
 #include "documents/OrderPage.h"
 #include "documents/PaperPdfs.h"
 #include "documents/PromotionPdf.h"
+#include "documents/TextilePdf.h"
 #include "server/DemoServer.h"
 #include "server/OrderRecords.h"
 

@@ -56,8 +56,10 @@ Answer DemoServer::saveTextile(const Call& call) {
     }
     const int save = body["save"].get<int>();
     const Json customer = body.value("customer", Json::object());
-    if (save != 3 && body["order"]["lines"].empty()) {
-        return refusal({{"order.lines", {"El carrito está vacío."}}});
+    if (save != 3) { // what is only kept may be unfinished
+        if (const Faults faults = textileContentFaults(body, catalogue_); !faults.empty()) {
+            return refusal(faults);
+        }
     }
     if (save == 2) {
         return Answer::json({{"url_pdf", previewUrl("textile", body)}});

@@ -3,6 +3,9 @@
 #include "catalogue/BrochureTypes.h"
 #include "catalogue/Content.h"
 
+#include <QString>
+#include <QTextBoundaryFinder>
+
 #include <algorithm>
 #include <functional>
 #include <set>
@@ -406,6 +409,56 @@ Faults brochureContentFaults(const Json& order, const Catalogue& catalogue) {
              qrFaults(qrOf(content), content["order_type"].get<int>(), catalogue)) {
             faults["menu." + member] = std::move(sentences);
         }
+    }
+    return faults;
+}
+
+/// As a reader counts them.
+static int charactersOf(const std::string& text) {
+    const QString words = QString::fromStdString(text);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, words);
+    int count = 0;
+    while (finder.toNextBoundary() >= 0) {
+        ++count;
+    }
+    return count;
+}
+
+Faults textileContentFaults(const Json& order, const Catalogue& catalogue) {
+    Faults faults;
+    const Json& sent = order["order"];
+    const Json& textile = catalogue.textile();
+    const auto holds = [&textile](const char* list, const Json& id) {
+        return std::ranges::any_of(textile[list], [&id](const Json& record) { return record["id"] == id; });
+    };
+    std::int64_t units = 0;
+    for (std::size_t i = 0; i < sent["lines"].size(); ++i) {
+        const Json& line = sent["lines"][i];
+        const std::string path = "order.lines." + std::to_string(i);
+        if (!holds("textil", line["textil_id"])) {
+            faults[path + ".textil_id"].push_back("La prenda ya no está en el catálogo.");
+        }
+        const auto quantity = line["quantity"].get<std::int64_t>();
+        if (quantity < 1) {
+            faults[path + ".quantity"].push_back("Las unidades deben ser al menos 1.");
+        }
+        units += std::clamp<std::int64_t>(quantity, 0, 100'000);
+    }
+    const auto least = textile["validaciones"]["order_min"].get<std::int64_t>();
+    if (units < least) {
+        faults["order.lines"].push_back("El pedido debe llevar al menos " + std::to_string(least) +
+                                        " unidades.");
+    }
+    const auto most = textile["validaciones"]["message_max"].get<int>();
+    const int length = charactersOf(sent["message"].get<std::string>());
+    if (length == 0) {
+        faults["order.message"].push_back("Falta el texto que se estampa.");
+    } else if (length > most) {
+        faults["order.message"].push_back("El texto no puede pasar de " + std::to_string(most) +
+                                          " caracteres.");
+    }
+    if (!holds("textil_typography", sent.value("typography_id", Json()))) {
+        faults["order.typography_id"].push_back("La tipografía ya no está en el catálogo.");
     }
     return faults;
 }

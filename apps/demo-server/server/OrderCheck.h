@@ -25,6 +25,10 @@ Faults activationFormFaults(const Json& order);
 /// catalogue, QR material that its kind does not have.
 Faults brochureContentFaults(const Json& order, const Catalogue& catalogue);
 
+/// What keeps a well-formed order of clothing from being printed: articles that left the catalogue, units
+/// below 1, fewer units than the least, no text or one that is too long, no typography of the catalogue.
+Faults textileContentFaults(const Json& order, const Catalogue& catalogue);
+
 /// What keeps a well-formed promotion order from being printed: a promotion that left the catalogue, formats,
 /// languages, attributes or choices that are not its own, a price that is no number, an impossible date, an
 /// address that is none.
