@@ -3,7 +3,6 @@
 #include "orders/list/DraftOrderRows.h"
 #include "sellingsheets/SellingSheetOrder.h"
 #include "session/LoginResult.h"
-#include "textile/SaveTextileOrder.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +17,8 @@ constexpr std::array all{Target{"catalogue", catalogue},
                          Target{"login", login},
                          Target{"brochureOrder", brochureOrder},
                          Target{"textileOrder", textileOrder},
+                         Target{"textileAnswer", textileAnswer},
+                         Target{"textileDraft", textileDraft},
                          Target{"sellingSheetOrder", sellingSheetOrder},
                          Target{"orderList", orderList},
                          Target{"retrieveAnswer", retrieveAnswer},
@@ -60,10 +61,6 @@ bool catalogue(std::string_view document) {
 
 bool login(std::string_view document) {
     return roundTrip<LoginResult>(document).has_value();
-}
-
-bool textileOrder(std::string_view document) {
-    return roundTrip<SaveTextileOrder>(document).has_value();
 }
 
 bool sellingSheetOrder(std::string_view document) {

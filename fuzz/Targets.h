@@ -15,6 +15,8 @@ bool catalogue(std::string_view document);
 bool login(std::string_view document);
 bool brochureOrder(std::string_view document);
 bool textileOrder(std::string_view document);
+bool textileAnswer(std::string_view document);
+bool textileDraft(std::string_view document);
 bool sellingSheetOrder(std::string_view document);
 bool orderList(std::string_view document);
 bool retrieveAnswer(std::string_view document);
