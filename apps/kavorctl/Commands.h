@@ -15,6 +15,7 @@ void addOrderCommands(CLI::App& program, CommandContext& context);
 void addOrderListCommands(CLI::App& program, CommandContext& context);
 void addPromotionCommands(CLI::App& program, CommandContext& context);
 void addSessionCommands(CLI::App& program, CommandContext& context);
+void addSheetCommands(CLI::App& program, CommandContext& context);
 void addSyncCommand(CLI::App& program, CommandContext& context);
 
 // Commands that need the server, each added to its group.
