@@ -40,6 +40,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addOrderListCommands(program, context);
     addPromotionCommands(program, context);
     addTextileCommands(program, context);
+    addSheetCommands(program, context);
     addSessionCommands(program, context);
     addAccountCommands(program, context);
     addSyncCommand(program, context);

@@ -16,6 +16,7 @@ void addOrderListCommands(CLI::App& program, CommandContext& context);
 void addPromotionCommands(CLI::App& program, CommandContext& context);
 void addSessionCommands(CLI::App& program, CommandContext& context);
 void addTextileCommands(CLI::App& program, CommandContext& context);
+void addSheetCommands(CLI::App& program, CommandContext& context);
 void addSyncCommand(CLI::App& program, CommandContext& context);
 
 // Commands that need the server, each added to its group.

@@ -3,6 +3,7 @@
 #include "base/json/Json.h"
 #include "documents/Answers.h"
 #include "http/HttpExchange.h"
+#include "interaction/QtText.h"
 #include "network/records/ErrorRecords.h"
 
 #include <string_view>
@@ -83,6 +84,19 @@ RequestFailure mapFailure(const HttpAnswer& answer) {
     if (error.kind != RequestError::Kind::Status)
         return {std::move(error), QStringList{genericFailureMessage()}};
     return statusFailure(std::move(error), {answer.body.constData(), std::size_t(answer.body.size())});
+}
+
+std::optional<RequestFailure> refusalIn(const GenericOrderResponse& answer) {
+    if (!answer.errors || answer.errors->empty())
+        return std::nullopt;
+    QStringList messages;
+    for (const auto& [member, texts] : *answer.errors) {
+        for (const std::string& text : texts)
+            messages << fromUtf8(text);
+    }
+    const QString said = messages.isEmpty() ? genericFailureMessage() : messages.join(QLatin1Char('\n'));
+    constexpr int ok = 200;
+    return RequestFailure{{RequestError::Kind::Status, ok, said, std::nullopt}, QStringList{said}};
 }
 
 } // namespace kavor

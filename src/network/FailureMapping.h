@@ -15,4 +15,7 @@ QString genericFailureMessage();
 // body or the kind of failure gives.
 RequestFailure mapFailure(const HttpAnswer& answer);
 
+// What an answer says that has status 200 and refuses all the same; nothing for one that does not.
+std::optional<RequestFailure> refusalIn(const GenericOrderResponse& answer);
+
 } // namespace kavor

@@ -23,6 +23,8 @@ struct SellingSheetOrder {
         std::optional<Int> productIdentifier2;
         std::optional<Int> productBox2;
         double price = 0;
+
+        bool operator==(const Item&) const = default;
     };
 
     static constexpr std::string_view folderName = "SellingSheetOrder";
@@ -49,6 +51,8 @@ struct SellingSheetOrder {
     std::optional<std::string> emailToSend2;
     std::optional<std::string> emailToSend3;
     std::vector<Item> items;
+
+    bool operator==(const SellingSheetOrder&) const = default;
 };
 
 // The answer of "sellingSheetOrderListURL".

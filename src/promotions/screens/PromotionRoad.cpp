@@ -22,20 +22,6 @@ OrderTexts promotionTexts() {
     return texts;
 }
 
-// An answer that says 200 and refuses all the same.
-std::optional<RequestFailure> refusalIn(const GenericOrderResponse& answer) {
-    if (!answer.errors || answer.errors->empty())
-        return std::nullopt;
-    QStringList messages;
-    for (const auto& [member, texts] : *answer.errors) {
-        for (const std::string& text : texts)
-            messages << fromUtf8(text);
-    }
-    const QString said = messages.isEmpty() ? genericFailureMessage() : messages.join(QLatin1Char('\n'));
-    constexpr int ok = 200;
-    return RequestFailure{{RequestError::Kind::Status, ok, said, std::nullopt}, QStringList{said}};
-}
-
 } // namespace
 
 PromotionRoad::PromotionRoad(const OrderRoadServices& services, std::shared_ptr<PromotionDraft> draft,
