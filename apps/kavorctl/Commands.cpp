@@ -39,6 +39,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addOrderCommands(program, context);
     addOrderListCommands(program, context);
     addPromotionCommands(program, context);
+    addActivationCommands(program, context);
     addSessionCommands(program, context);
     addAccountCommands(program, context);
     addSyncCommand(program, context);
