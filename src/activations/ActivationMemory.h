@@ -5,6 +5,7 @@
 #include "documents/UnansweredSend.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,7 @@ public:
 
     ActivationQuotas quotas;
     UnansweredSends unansweredSends; // orders that nobody answered
+    std::set<std::string> counted;   // the content of those that were taken and may be sent again
     // A place that was chosen stands first, and once.
     void remember(const PartyPlace& place);
     [[nodiscard]] const std::vector<PartyPlace>& places() const { return places_; }
