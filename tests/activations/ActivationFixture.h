@@ -41,7 +41,7 @@ inline void addActivations(CatalogueBuilder& builder) {
         result.brandName = "Roble";
         result.name = std::move(name);
         result.imageLogo = picture("logo");
-        result.imageX = 40 * id;
+        result.imageX = 320 * (id - 1);
         result.imageWidth = 300;
         result.imageHeight = 200;
         return result;

@@ -39,7 +39,8 @@ void ActivationElementsSelectionViewController::viewWillAppear() {
     const bool isFull = !ActivationMemory::shared().quotas.of(selectedActivation_).hasRoom();
     if (isFull && !std::exchange(warned_, true))
         services_.alerts.inform(
-            QString(), QStringLiteral("No dispones de cupo para realizar más activaciones de este tipo"));
+            QStringLiteral("Atención"),
+            QStringLiteral("No dispones de cupo para realizar más activaciones de este tipo"));
 }
 
 void ActivationElementsSelectionViewController::tapItem(int item) {

@@ -18,10 +18,10 @@ protected:
 };
 
 const std::string ActivationFlow::fullSentence =
-    " | No dispones de cupo para realizar más activaciones de este tipo";
+    "Atención | No dispones de cupo para realizar más activaciones de este tipo";
 
 TEST_F(ActivationFlow, ABoardIsAsLargeAsItsControlsAndABrandLeadsOn) {
-    EXPECT_EQ(brands().board()->size(), QSize(420, 200));
+    EXPECT_EQ(brands().board()->size(), QSize(940, 200));
     brands().selectBrand(77);
     EXPECT_EQ(brands().selectedBrandActivation(), nullptr);
     auto* board = &brands();

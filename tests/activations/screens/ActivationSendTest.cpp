@@ -71,7 +71,7 @@ TEST_F(ActivationSend, HoursTheWrongWayRoundAreToldOfAndStay) {
     hours.pickHour(9);
     hours.pickMinute(30);
     hours.select();
-    EXPECT_EQ(told(), " | La hora de inicio ha de ser anterior a la de finalización.");
+    EXPECT_EQ(told(), "Atención | La hora de inicio ha de ser anterior a la de finalización.");
     EXPECT_EQ(form().form().hourFrom, "09:30");
     hours.openEnd();
     hours.pickHour(12);
