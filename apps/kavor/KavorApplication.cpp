@@ -7,6 +7,7 @@
 #include "brochures/wizard/BrochureMenuViewController.h"
 #include "device/AppLifecycle.h"
 #include "device/BackgroundTasks.h"
+#include "device/FileExport.h"
 #include "device/LocalNotifications.h"
 #include "device/LocationService.h"
 #include "device/LogFile.h"
@@ -84,7 +85,8 @@ struct KavorApplication::Parts : HeadlessCore {
                    {session, network, auth, alerts, urls, reachability, suggestion, films},
                    {session, network, auth, alerts, urls, reachability, messages},
                    orderActions,
-                   sync}
+                   sync,
+                   files}
         , root({application,
                 alerts,
                 localNotifications,
@@ -111,6 +113,7 @@ struct KavorApplication::Parts : HeadlessCore {
     OrderMessages messages;
     OrderActions orderActions;
     QtFilmPlayer films;
+    DownloadsExport files;
     SectionServices sections;
     RootController root;
     QQmlApplicationEngine engine;

@@ -3,6 +3,7 @@
 #include "account/screens/ProfileViewController.h"
 #include "account/screens/SuggestionViewController.h"
 #include "account/screens/TutorialsViewController.h"
+#include "activations/screens/ActivationsBrandSelectionViewController.h"
 #include "base/StopProcess.h"
 #include "brochures/engine/BrochureIntermediateData.h"
 #include "brochures/engine/MenuPromotions.h"
@@ -36,13 +37,21 @@ struct ComingSection {
 constexpr std::array comingSections{
     ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
     ComingSection{transition::textile, "Textil", "tshirt"},
-    ComingSection{transition::activations, "Activaciones", "party"},
 };
 
 PromotionServices promotionServices(const SectionServices& services) {
     const WizardServices& wizard = services.wizard;
     return {wizard.network,      wizard.alerts,     wizard.urls, wizard.photos,
             wizard.reachability, wizard.downloader, wizard.clock};
+}
+
+Screen activationsScreen(const SectionServices& services, ScreenStack& screens) {
+    const WizardServices& wizard = services.wizard;
+    const ActivationServices activations{wizard.network, wizard.alerts,       wizard.urls,
+                                         wizard.photos,  wizard.reachability, wizard.downloader,
+                                         wizard.clock,   services.files,      screens};
+    return {screenView("ActivationsBrandSelectionView"),
+            new ActivationsBrandSelectionViewController(activations)};
 }
 
 Screen galleryScreen(const SectionServices& services, ScreenStack& screens,
@@ -139,6 +148,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return wizardScreen(services, screens, BrochureMenuViewController::Opening::UnfinishedMenu);
     if (name == transition::promotion)
         return galleryScreen(services, screens);
+    if (name == transition::activations)
+        return activationsScreen(services, screens);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)

@@ -10,6 +10,7 @@
 namespace kavor {
 
 class BackgroundOrderSync;
+class FileExport;
 class OrderActions;
 
 // What the sections work with. Everything outlives their screens.
@@ -19,6 +20,7 @@ struct SectionServices {
     OrderMessageServices messages;
     OrderActions& orderActions;
     BackgroundOrderSync& sync;
+    FileExport& files;
 };
 
 // Makes the screen that a transition of the dashboard or of a notification leads to. The process stops for a

@@ -41,6 +41,7 @@ int run(int argc, const char* const* argv, std::ostream& out, std::ostream& err)
     addPromotionCommands(program, context);
     addTextileCommands(program, context);
     addSheetCommands(program, context);
+    addActivationCommands(program, context);
     addSessionCommands(program, context);
     addAccountCommands(program, context);
     addSyncCommand(program, context);

@@ -10,6 +10,7 @@ namespace kavor::ctl {
 
 // Each group of commands adds itself to the program; a command's work runs when it is parsed.
 void addAccountCommands(CLI::App& program, CommandContext& context);
+void addActivationCommands(CLI::App& program, CommandContext& context);
 void addCatalogueCommands(CLI::App& program, CommandContext& context);
 void addOrderCommands(CLI::App& program, CommandContext& context);
 void addOrderListCommands(CLI::App& program, CommandContext& context);

@@ -201,29 +201,6 @@ TEST(DemoServer, FailsAsItWasTold) {
     EXPECT_EQ(server.post("/demo/faults", {{"path", path}, {"fault", "otro"}}).status, 400);
 }
 
-TEST(DemoServer, CountsActivationsAgainstTheQuota) {
-    RunningServer server;
-    server.login();
-    const Activation& activation = activations()[1]; // all its places are taken
-    ASSERT_EQ(activation.quota, activation.made);
-    const auto send = [&](int id) {
-        return server.post("/api/activations",
-                           {{"customer", {{"name", "Bar"}, {"full_address", "Calle Mayor, 1"}}},
-                            {"activation",
-                             {{"activation_id", id},
-                              {"date_event", "01-02-2031"},
-                              {"time_from", "20:00"},
-                              {"time_to", "22:00"}}}});
-    };
-    EXPECT_EQ(send(activation.id).status, 422);
-    const Activation& open = activations()[0];
-    for (int made = open.made; made < open.quota; ++made) {
-        EXPECT_EQ(send(open.id).json["number_made"], made + 1);
-    }
-    EXPECT_EQ(send(open.id).status, 422);
-    EXPECT_EQ(server.get("/api/activations/quota").json["activations"][0]["number_made"], open.quota);
-}
-
 TEST(DemoServer, MakesAPdfOfEverySortOfOrder) {
     Options options;
     options.orders = 11; // with brands, formats and a style that left the catalogue

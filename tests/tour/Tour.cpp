@@ -90,6 +90,20 @@ std::vector<Tour::Step> Tour::steps() const {
         {"nube", &Tour::editCloudOrder},   {"sitios", &Tour::keepInBothPlaces},
         {"version", &Tour::changeOffline}, {"borrar", &Tour::deleteAndBringBack},
         {"tres", &Tour::sendThree},        {"aviso", &Tour::tapNotification}};
+    const std::vector<Step> events = {{"inicio", &Tour::start},
+                                      {"clave", &Tour::startWithWrongPassword},
+                                      {"entrada", &Tour::logIn},
+                                      {"panel", &Tour::showDashboard},
+                                      {"fiesta", &Tour::choosePartyOfBrand},
+                                      {"elementos", &Tour::chooseElements},
+                                      {"dias", &Tour::tryPartyDays},
+                                      {"incompleto", &Tour::tryIncompleteParty},
+                                      {"formulario", &Tour::fillParty},
+                                      {"pedido", &Tour::sendParty},
+                                      {"asociada", &Tour::tieParty},
+                                      {"otra", &Tour::changeTiedParty},
+                                      {"ultima", &Tour::orderLastOfQuota},
+                                      {"sola", &Tour::openSingleParty}};
     const std::vector<Step> mainJob = {{"inicio", &Tour::start},
                                        {"clave", &Tour::startWithWrongPassword},
                                        {"entrada", &Tour::logIn},
@@ -125,6 +139,8 @@ std::vector<Tour::Step> Tour::steps() const {
         return everyKind;
     case Story::Orders:
         return orders;
+    case Story::Events:
+        return events;
     default:
         return sendingSteps();
     }

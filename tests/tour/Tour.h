@@ -4,6 +4,7 @@
 #include "support/TouchDriver.h"
 #include "tour/DemoServerProcess.h"
 
+#include <QDate>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -29,6 +30,7 @@ public:
         MainJob,
         EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
+        Events,         // orders parties, one tied to the other, and the last of a quota
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -106,6 +108,21 @@ private:
     void chooseOrderSheet();
     void hangPennants();
     void choosePennantBrand();
+
+    void choosePartyOfBrand();
+    void chooseElements();
+    void tryPartyDays();
+    void tryIncompleteParty();
+    void fillParty();
+    void sendParty();
+    void tieParty();
+    void changeTiedParty();
+    void orderLastOfQuota();
+    void openSingleParty();
+    // A day of the calendar, in whichever month it is.
+    void tapPartyDay(const QDate& day);
+    void choosePartyHours(int from, int to);
+    void leaveParty(const QString& view);
 
     void orderKind(int applicationType);
     void orderFromTheCloud(BrochureType type);

@@ -1,5 +1,6 @@
 #include "catalogue/Catalogue.h"
 
+#include "catalogue/Activations.h"
 #include "catalogue/Content.h"
 #include "catalogue/Sections.h"
 

@@ -55,7 +55,7 @@ struct Activation {
     const char* agency;
     int motif, colour, noticeDays, quota, made;
     bool related, withDocument;
-    std::optional<int> monthsOpen;
+    std::optional<int> monthsOpen; ///< 0 ends in some days
 };
 std::span<const Activation> activations();
 

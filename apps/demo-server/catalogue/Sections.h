@@ -19,9 +19,8 @@ Json brochuresSection(std::span<const Brand> brands, std::span<const Style> styl
 /// A subtree "carteleria"; the one inside "cartas" holds only what can go online.
 Json postersSection(std::span<const Brand> brands, PictureBook& book, bool onlineOnly);
 
-/// The subtrees "hoja_vendedora", "activaciones" and "textil".
+/// The subtrees "hoja_vendedora" and "textil".
 Json sellingSheetSection(PictureBook& book);
-Json activationsSection(std::span<const Brand> brands, PictureBook& book);
 Json textileSection(std::span<const Brand> brands, PictureBook& book);
 
 /// An open font of the textile catalogue, where Debian's packages put it.

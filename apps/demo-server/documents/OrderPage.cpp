@@ -2,6 +2,7 @@
 
 #include "catalogue/Content.h"
 #include "catalogue/Posters.h"
+#include "documents/ActivationPdf.h"
 #include "documents/MenuPdf.h"
 #include "documents/Page.h"
 #include "server/OrderRecords.h"
@@ -112,6 +113,9 @@ std::string orderHtml(const Order& order, Orders& orders, const Catalogue& catal
                    escaped(poster ? poster->texts.front().title : "Retirada") +
                    "</td></tr><tr><td>Formatos</td><td class=\"price\">" +
                    std::to_string(order.body["supports"].size()) + "</td></tr>";
+    }
+    if (order.kind == "activation") {
+        content += activationHtml(order, orders);
     }
     if (order.kind == "brochure") {
         for (const Json& line : order.body["order_lines"]) {

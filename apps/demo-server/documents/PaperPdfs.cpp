@@ -7,7 +7,6 @@
 #include "drawing/Covers.h"
 #include "drawing/Emblems.h"
 #include "drawing/Goods.h"
-#include "drawing/Scenes.h"
 #include "drawing/Tools.h"
 #include "drawing/Vessels.h"
 
@@ -73,50 +72,6 @@ QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue) {
         report.y() += 184;
     }
     report.paragraph(member(order, "free_text"));
-    return report.finish();
-}
-
-QByteArray activationPdf(const Json& order, const Catalogue& catalogue) {
-    const Json& event = order["activation"];
-    const Json& customer = order["customer"];
-    const Activation* activation = recordOf(activations(), event["activation_id"].get<int>());
-    Report report(activation ? activation->name : "Activación", member(customer, "name"), 8);
-    if (activation) {
-        const ActivationGroup* group = recordOf(activationGroups(), activation->groupId);
-        drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), report.width(), 300),
-                            *activation, 0,
-                            brandAt(catalogue.brands(), Family::beer, group->brandPlace).look);
-        report.y() += 320;
-    }
-    report.heading("Cuándo y dónde");
-    report.line("Fecha", member(event, "date_event"));
-    report.line("Horario", member(event, "time_from") + " - " + member(event, "time_to"));
-    report.line(member(customer, "full_address"));
-    report.heading("Contacto");
-    report.line(member(customer, "contact"), member(customer, "telephone"));
-    report.line(member(customer, "email"));
-    report.paragraph(member(event, "comment"));
-    return report.finish();
-}
-
-QByteArray activationSheetPdf(int activationId, const Catalogue& catalogue) {
-    const Activation* activation = recordOf(activations(), activationId);
-    if (!activation) {
-        return {};
-    }
-    const ActivationGroup* group = recordOf(activationGroups(), activation->groupId);
-    const Look& look = brandAt(catalogue.brands(), Family::beer, group->brandPlace).look;
-    Report report(activation->name, group->name, 8);
-    report.paragraph(activation->description);
-    for (int scene = 0; scene < 2; ++scene) {
-        drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), report.width(), 300),
-                            *activation, scene, look);
-        report.y() += 318;
-    }
-    report.heading("Condiciones");
-    report.line("Agencia", activation->agency);
-    report.line("Días de antelación", QString::number(activation->noticeDays));
-    report.line("Cupo por usuario", QString::number(activation->quota));
     return report.finish();
 }
 

@@ -2,6 +2,7 @@
 
 #include "drawing/Covers.h"
 #include "drawing/Emblems.h"
+#include "drawing/Goods.h"
 #include "drawing/Motifs.h"
 #include "drawing/Tools.h"
 #include "drawing/Vessels.h"
@@ -75,6 +76,37 @@ void drawActivationScene(QPainter& painter, const QRectF& area, const Activation
     }
     drawMotif(painter, QRectF(270, 326, 100, 88), motifOf(activation.motif + number), tone,
               mixed(tone, Qt::white, 0.5));
+}
+
+void drawActivationElement(QPainter& painter, const QRectF& area, const Activation& activation, int number,
+                           const Look& look) {
+    const Canvas canvas(painter, area, QSizeF(640, 420));
+    const QColor tone = colour(activation.colour);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mixed(tone, Qt::white, 0.8));
+    painter.drawRoundedRect(QRectF(0, 0, 640, 420), 20, 20);
+    switch (number) {
+    case 0:
+        for (int i = 0; i < 4; ++i) {
+            drawVessel(painter, QRectF(60 + i * 135, 70, 115, 290), look,
+                       i % 2 == 0 ? Vessel::pint : Vessel::glass);
+        }
+        return;
+    case 1:
+        painter.setPen(QPen(mixed(tone, Qt::black, 0.3), 6));
+        painter.setBrush(colour(0xFFFDF8));
+        painter.drawRect(QRectF(90, 70, 460, 290));
+        drawEmblem(painter, QRectF(200, 100, 240, 230), look);
+        return;
+    case 2:
+        return drawGarment(painter, QRectF(150, 40, 340, 340), 1, activation.colour, look);
+    default:
+        break;
+    }
+    Theme theme = themes()[8];
+    theme.accent = activation.colour;
+    drawBunting(painter, QRectF(20, 60, 600, 130), theme, {&look});
+    drawBunting(painter, QRectF(20, 220, 600, 130), theme, {});
 }
 
 void drawManual(QPainter& painter, const QRectF& area, const Manual& manual) {

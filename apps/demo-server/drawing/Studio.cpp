@@ -96,7 +96,12 @@ void drawActivation(QPainter& painter, const QRectF& area, const Picture& pictur
     if (isLogo) {
         return drawActivationLogo(painter, area, group, look);
     }
-    drawActivationScene(painter, area, recordOf(activations(), picture.a), picture.b, look);
+    constexpr int firstElement = 10;
+    const Activation& activation = recordOf(activations(), picture.a);
+    if (picture.b >= firstElement) {
+        return drawActivationElement(painter, area, activation, picture.b - firstElement, look);
+    }
+    drawActivationScene(painter, area, activation, picture.b, look);
 }
 
 } // namespace

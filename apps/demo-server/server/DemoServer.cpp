@@ -158,6 +158,7 @@ DemoServer::DemoServer(const Options& options)
     addAccountRoutes();
     addOrderRoutes();
     addMaterialRoutes();
+    addActivationRoutes();
     addPromotionRoutes();
     addFileRoutes();
     addTestRoutes();

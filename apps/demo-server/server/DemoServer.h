@@ -108,13 +108,14 @@ private:
               const std::string& subject);
     Json mails();
 
-    // Textile, selling sheets, activations.
+    // Textile, selling sheets.
     void addMaterialRoutes();
     Answer saveTextile(const Call& call);
     Answer sendSheet(const Call& call);
     Answer deleteSheet(const Call& call);
+
+    void addActivationRoutes();
     Answer sendActivation(const Call& call);
-    int activationsMade(const Account& account, int activationId);
 
     // Pictures, fonts, PDFs, pages, films.
     void addFileRoutes();

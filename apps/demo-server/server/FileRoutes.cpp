@@ -1,5 +1,6 @@
 #include "catalogue/Content.h"
 #include "catalogue/Sections.h"
+#include "documents/ActivationPdf.h"
 #include "documents/MenuPdf.h"
 #include "documents/OrderPage.h"
 #include "documents/PaperPdfs.h"
@@ -133,12 +134,12 @@ Answer DemoServer::pdf(const std::string& name) {
         if (kind == "sheet") {
             return sellingSheetPdf(body, catalogue_);
         }
-        if (kind == "activation") {
-            return activationPdf(body, catalogue_);
-        }
         return menuPdf(body, catalogue_, baseUrl_ + "/carta/" + name);
     };
     if (const auto order = orders_.findByToken(name)) {
+        if (order->kind == "activation") { // a later order may be tied to it, and its quota goes on
+            return bytes(activationPdf(*order, orders_, catalogue_), "application/pdf");
+        }
         return madePdf(orderKey(*order), [&] { return make(order->kind, order->body); });
     }
     if (const auto document = orders_.document(name)) {

@@ -1,5 +1,6 @@
 #include "server/History.h"
 
+#include "catalogue/Activations.h"
 #include "catalogue/Dice.h"
 #include "catalogue/Posters.h"
 #include "server/SampleOrder.h"
@@ -185,6 +186,61 @@ Order orderOfPast(const Past& past, const Catalogue& catalogue, int number) {
     return order;
 }
 
+/// A party of earlier days, or of days to come.
+Order party(int activationId, int daysAhead, const Bar& bar, const char* from, const char* to) {
+    const Activation& activation = *activationOf(activationId);
+    Json items = Json::array();
+    for (const ActivationElement& element : elementsOf(activation)) {
+        items.push_back({{"id", element.id}});
+    }
+    Json attributes = Json::array();
+    for (const ActivationQuestion& question : questionsOf(activation)) {
+        attributes.push_back({{"id", question.id},
+                              {"value", question.typeId == 3 ? "2.50"
+                                        : question.regex     ? "120"
+                                                             : bar.contact}});
+    }
+    constexpr std::int64_t day = 24 * 60 * 60;
+    Order order;
+    order.kind = "activation";
+    order.type = 9;
+    order.pdv = bar.name;
+    order.seeded = true;
+    order.created = startOfDay(now() - 40 * day) + day / 2;
+    order.body = {{"customer",
+                   {{"name", bar.name},
+                    {"contact", bar.contact},
+                    {"telephone", bar.telephone},
+                    {"email", bar.email},
+                    {"full_address", "Calle Mayor 12, " + bar.town},
+                    {"placePostalCode", bar.postalCode},
+                    {"placeLocality", bar.town}}},
+                  {"activation",
+                   {{"activation_id", activationId},
+                    {"date_event", wireDate(now() + daysAhead * day).substr(0, 10)},
+                    {"time_from", from},
+                    {"time_to", to},
+                    {"comment", "El equipo de sonido se monta una hora antes."},
+                    {"items", std::move(items)},
+                    {"attributes", std::move(attributes)}}}};
+    return order;
+}
+
+/// One that is over, and two on one day that are tied.
+void addParties(Orders& orders, std::int64_t account) {
+    Order done = party(1, -12, bars()[3], "20:00", "23:30");
+    done.fixedState = State::delivered;
+    Order first = party(4, 34, bars()[8], "18:00", "20:00");
+    Order second = party(7, 34, bars()[8], "22:00", "23:45");
+    for (Order* order : {&done, &first}) {
+        order->account = account;
+        orders.add(*order);
+    }
+    second.account = account;
+    second.body["activation"]["activation_relation_id"] = first.id;
+    orders.add(second);
+}
+
 } // namespace
 
 void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account, int number) {
@@ -198,6 +254,9 @@ void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account
     }
     std::ranges::sort(made, {}, &Order::created); // an earlier order has the smaller number
     orders.database().together([&] {
+        if (orders.seeds(account) == 0) {
+            addParties(orders, account);
+        }
         for (Order& order : made) {
             orders.add(order);
         }

@@ -36,17 +36,6 @@ void DemoServer::addMaterialRoutes() {
     route("POST", "/api/sheets", Access::bearerWrite, [this](const Call& call) { return sendSheet(call); });
     route("POST", "/api/sheets/delete", Access::bearerWrite,
           [this](const Call& call) { return deleteSheet(call); });
-    route("POST", "/api/activations", Access::bearerWrite,
-          [this](const Call& call) { return sendActivation(call); });
-    route("GET", "/api/activations/quota", Access::bearer, [this](const Call& call) {
-        Json list = Json::array();
-        for (const Activation& activation : activations()) {
-            list.push_back({{"id", activation.id},
-                            {"quota", activation.quota},
-                            {"number_made", activationsMade(call.account, activation.id)}});
-        }
-        return Answer::json({{"activations", std::move(list)}});
-    });
 }
 
 Answer DemoServer::saveTextile(const Call& call) {
@@ -130,44 +119,6 @@ Answer DemoServer::deleteSheet(const Call& call) {
     }
     orders_.remove(*order);
     return Answer::message(200, "Hoja vendedora eliminada.");
-}
-
-int DemoServer::activationsMade(const Account& account, int activationId) {
-    int made = 0;
-    for (const Activation& activation : activations()) {
-        made += activation.id == activationId ? activation.made : 0;
-    }
-    for (const Order& order : orders_.list(account.id, "activation")) {
-        made += order.body["activation"]["activation_id"] == activationId;
-    }
-    return made;
-}
-
-Answer DemoServer::sendActivation(const Call& call) {
-    const Json body = call.json();
-    if (const Faults faults = activationFormFaults(body); !faults.empty()) {
-        return refusal(faults);
-    }
-    const int id = body["activation"]["activation_id"].get<int>();
-    const auto wanted = std::ranges::find(activations(), id, &Activation::id);
-    if (wanted == activations().end()) {
-        return refusal({{"activation.activation_id", {"La activación ya no está en el catálogo."}}});
-    }
-    const int made = activationsMade(call.account, id);
-    if (made >= wanted->quota) {
-        return refusal({{"activation.activation_id", {"No queda cupo para esta activación."}}});
-    }
-    Order order;
-    order.account = call.account.id;
-    order.kind = "activation";
-    order.type = 9;
-    order.pdv = body["customer"]["name"].get<std::string>();
-    order.body = body;
-    orders_.add(order);
-    return Answer::json({{"url", orderPage(order, baseUrl_)},
-                         {"order_id", order.id},
-                         {"quota", wanted->quota},
-                         {"number_made", made + 1}});
 }
 
 } // namespace kavor::demo

@@ -115,6 +115,8 @@ protected:
     virtual void takeSent(const Answer& answer) = 0;
     virtual void tellSent(const OrderAnswer& answer) { tell(texts().sentTitle, answer.message); }
     virtual void savedInCloud(const Answer&) {}
+    // The order was taken, and the answer does not say where it is; another send of it is the same order.
+    virtual void takenWithoutPlace(const Answer&) { tell(QStringLiteral("Error"), texts().noOrder); }
 
     void request(OrderRequestType type) final {
         const Order order = make(type);
@@ -147,7 +149,7 @@ private:
             endIntent(content);
         switch (type) {
         case OrderRequestType::sendToPrint:
-            return lacksOrder ? tell(QStringLiteral("Error"), texts().noOrder) : sent(answer, response);
+            return lacksOrder ? takenWithoutPlace(response) : sent(answer, response);
         case OrderRequestType::sendPreview:
             if (!answer.document)
                 return tell(QStringLiteral("Error"), texts().noDocument);
