@@ -9,12 +9,12 @@ Row {
     required property WelcomeViewController controller
     property bool inverse: false
     readonly property var entries: [
-        { id: "updateInfoapp", text: "Actualizar", icon: "refresh", ready: true },
-        { id: "allOrders", text: "Pedidos", icon: "orders", ready: true },
-        { id: "profile", text: "Perfil", icon: "user", ready: true },
-        { id: "suggestions", text: "Buzón", icon: "mailbox", ready: true },
-        { id: "tutorials", text: "Tutoriales", icon: "play", ready: true },
-        { id: "logout", text: "Salir", icon: "logout", ready: true }
+        { id: "updateInfoapp", text: "Actualizar", icon: "refresh" },
+        { id: "allOrders", text: "Pedidos", icon: "orders" },
+        { id: "profile", text: "Perfil", icon: "user" },
+        { id: "suggestions", text: "Buzón", icon: "mailbox" },
+        { id: "tutorials", text: "Tutoriales", icon: "play" },
+        { id: "logout", text: "Salir", icon: "logout" }
     ]
 
     Repeater {
@@ -30,9 +30,6 @@ Row {
             width: bar.inverse ? 76 : bar.width / bar.entries.length
             height: bar.inverse ? 64 : bar.height
             accessibleName: modelData.text
-            Accessible.description: modelData.ready ? "" : "Próximamente"
-            enabled: modelData.ready
-            opacity: enabled ? 1 : 0.4
             onClicked: bar.controller.openTool(modelData.id)
 
             background: Rectangle {
@@ -40,7 +37,7 @@ Row {
                 anchors.margins: 4
                 radius: Theme.radius
                 color: entry.down ? (bar.inverse ? Theme.bottleDark : Theme.hairline)
-                     : entry.hot && entry.enabled ? (bar.inverse ? Theme.bottleLight : Theme.sunken) : "transparent"
+                     : entry.hot ? (bar.inverse ? Theme.bottleLight : Theme.sunken) : "transparent"
 
                 FocusRing { shown: entry.visualFocus }
             }

@@ -1,6 +1,5 @@
 #include "ShellFixture.h"
 #include "device/LocalNotifications.h"
-#include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/RootController.h"
 
 #include <QAbstractItemModelTester>
@@ -37,8 +36,8 @@ protected:
     RootController root{
         {application, alerts, banners, loginServices(), welcomeServices(),
          [this](const QString& transition, ScreenStack&) {
-             auto* controller = new ComingSoonViewController(transition, {});
-             leaveSection = [controller] { controller->close(); };
+             auto* controller = new ScreenController;
+             leaveSection = [controller] { emit controller->closed(); };
              return Screen{QUrl(QStringLiteral("x:/") + transition + QStringLiteral(".qml")), controller};
          }}};
     QAbstractItemModelTester tester{root.screens(), QAbstractItemModelTester::FailureReportingMode::Fatal};

@@ -1,7 +1,6 @@
 #include "ShellFixture.h"
 #include "device/LocalNotifications.h"
 #include "screens/ResourceImages.h"
-#include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/RootController.h"
 #include "shell/screens/Screens.h"
 #include "support/TouchDriver.h"
@@ -60,9 +59,9 @@ protected:
 
     DesktopNotifications banners;
     RootController root{{application, alerts, banners, loginServices(), welcomeServices(),
-                         [](const QString& transition, ScreenStack&) {
-                             return Screen{screenView(QStringLiteral("ComingSoonView")),
-                                           new ComingSoonViewController(transition, {})};
+                         [](const QString&, ScreenStack&) {
+                             return Screen{QUrl::fromLocalFile(QStringLiteral(KAVOR_TEST_DATA "/section.qml")),
+                                           new ScreenController};
                          }}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;
