@@ -427,9 +427,9 @@ static int charactersOf(const std::string& text) {
 Faults textileContentFaults(const Json& order, const Catalogue& catalogue) {
     Faults faults;
     const Json& sent = order["order"];
-    const Json& textile = catalogue.textile();
-    const auto holds = [&textile](const char* list, const Json& id) {
-        return std::ranges::any_of(textile[list], [&id](const Json& record) { return record["id"] == id; });
+    const Json& clothes = catalogue.textile();
+    const auto holds = [&clothes](const char* list, const Json& id) {
+        return std::ranges::any_of(clothes[list], [&id](const Json& record) { return record["id"] == id; });
     };
     std::int64_t units = 0;
     for (std::size_t i = 0; i < sent["lines"].size(); ++i) {
@@ -444,12 +444,12 @@ Faults textileContentFaults(const Json& order, const Catalogue& catalogue) {
         }
         units += std::clamp<std::int64_t>(quantity, 0, 100'000);
     }
-    const auto least = textile["validaciones"]["order_min"].get<std::int64_t>();
+    const auto least = clothes["validaciones"]["order_min"].get<std::int64_t>();
     if (units < least) {
         faults["order.lines"].push_back("El pedido debe llevar al menos " + std::to_string(least) +
                                         " unidades.");
     }
-    const auto most = textile["validaciones"]["message_max"].get<int>();
+    const auto most = clothes["validaciones"]["message_max"].get<int>();
     const int length = charactersOf(sent["message"].get<std::string>());
     if (length == 0) {
         faults["order.message"].push_back("Falta el texto que se estampa.");
