@@ -4,6 +4,7 @@ set(SCREEN_FOLDERS
     account/screens
     orders/screens
     promotions/screens
+    textile/screens
     brochures/wizard
     brochures/wizard/configuration
     brochures/wizard/style

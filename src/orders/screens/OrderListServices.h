@@ -31,7 +31,8 @@ struct OrderListServices {
 
 // The ways from the list to further screens.
 struct OrderListWays {
-    std::function<void()> wizard; // with the shared draft, as it stands
+    std::function<void()> wizard;  // with the shared draft, as it stands
+    std::function<void()> textile; // the same for clothing
     std::function<void(const OrderList::Order&)> claim;
     std::function<void(const OrderList::Order&)> qrDemand;
 };
