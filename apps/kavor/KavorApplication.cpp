@@ -84,7 +84,9 @@ struct KavorApplication::Parts : HeadlessCore {
                    {session, network, auth, alerts, urls, reachability, suggestion, films},
                    {session, network, auth, alerts, urls, reachability, messages},
                    orderActions,
-                   sync}
+                   sync,
+                   *fonts,
+                   fontUpdater}
         , root({application,
                 alerts,
                 localNotifications,

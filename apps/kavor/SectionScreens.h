@@ -10,6 +10,8 @@
 namespace kavor {
 
 class BackgroundOrderSync;
+class FontRegistry;
+class FontUpdater;
 class OrderActions;
 
 // What the sections work with. Everything outlives their screens.
@@ -19,6 +21,8 @@ struct SectionServices {
     OrderMessageServices messages;
     OrderActions& orderActions;
     BackgroundOrderSync& sync;
+    FontRegistry& fonts; // of the typographies
+    FontUpdater& fontUpdater;
 };
 
 // Makes the screen that a transition of the dashboard or of a notification leads to. The process stops for a

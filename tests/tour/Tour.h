@@ -29,6 +29,7 @@ public:
         MainJob,
         EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
+        Textile,        // orders clothing, with and without a network
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -107,6 +108,14 @@ private:
     void hangPennants();
     void choosePennantBrand();
 
+    void openTextile();
+    void fillTextileCart();
+    void previewTextile();
+    void saveTextileTwice();
+    void printTextileOffline();
+    void printTextile();
+    // The bodies of the textile orders at the server with this "save", since the tour began.
+    [[nodiscard]] QJsonArray textileOrders(int save) const;
     void orderKind(int applicationType);
     void chooseBlackboard();
     void chooseDrinks();

@@ -31,10 +31,10 @@ struct OrderListServices {
 
 // The ways from the list to further screens.
 struct OrderListWays {
-    std::function<void()> wizard;  // with the shared draft, as it stands
-    std::function<void()> textile; // the same for clothing
+    std::function<void()> wizard; // with the shared draft, as it stands
     std::function<void(const OrderList::Order&)> claim;
     std::function<void(const OrderList::Order&)> qrDemand;
+    std::function<void()> textile = {}; // as the wizard, for clothing
 };
 
 } // namespace kavor

@@ -15,6 +15,7 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavor {
@@ -147,6 +148,13 @@ void OrderRowActions::open(const DraftOrderRow& row, const TextileOrderToEdit& t
     enterSection(row);
     UnfinishedTextile::shared().open(toEdit);
     board_.cover(ways_.textile);
+    const auto isGone = [this](const auto& line) {
+        return !services_.session.catalogue().textileItem(line.textileId);
+    };
+    if (std::ranges::any_of(toEdit.order.orderInformation.orderLines, isGone))
+        services_.alerts.inform(QStringLiteral("Atención"),
+                                QStringLiteral("Algunos artículos del pedido ya no están en el catálogo y se "
+                                               "han quitado."));
 }
 
 // Section and application type stand before anything is loaded: the draft's rules look at them.
