@@ -1,3 +1,4 @@
+#include "interaction/AlertPresenter.h"
 #include "kavor/KavorApplication.h"
 #include "textile/TextileIntermediateData.h"
 #include "tour/Tour.h"
@@ -140,10 +141,10 @@ void Tour::printTextileOffline() {
     touch_->tap(QStringLiteral("backButton"));
     application_->setOffline(false);
     touch_->tap(QStringLiteral("unsentOrders"));
-    touch_->await(QStringLiteral("noticeSendAll"));
+    touch_->await(QStringLiteral("sendAllButton"));
     touch_->awaitGone(QStringLiteral("veloView"));
     shot(QStringLiteral("textil-pedidos"));
-    touch_->tap(QStringLiteral("noticeSendAll"));
+    touch_->tap(QStringLiteral("sendAllButton"));
     dismissAlert(QStringLiteral("Enviado"), QStringLiteral("Pedidos realizados correctamente."));
     must(textileOrders(1).size() == 2, QStringLiteral("two printed orders"));
     touch_->awaitGone(QStringLiteral("veloView"));
@@ -162,9 +163,12 @@ void Tour::printTextile() {
     dismissAlert(QStringLiteral("Éxito"), QStringLiteral("Pedido realizado correctamente."));
     touch_->await(QStringLiteral("orderSentCard"));
     shot(QStringLiteral("textil-realizado"));
-    const QJsonObject order = textileOrders(1).last().toObject()[QLatin1String("order")].toObject();
-    must(order[QLatin1String("message")].toString() == QLatin1String("Bar La Higuera"),
-         QStringLiteral("the text at the server"));
+    QJsonObject order;
+    for (const auto& printed : textileOrders(1)) {
+        const QJsonObject each = printed.toObject()[QLatin1String("order")].toObject();
+        if (each[QLatin1String("message")].toString() == QLatin1String("Bar La Higuera"))
+            order = each;
+    }
     must(order[QLatin1String("lines")].toArray().size() == 3, QStringLiteral("three sizes at the server"));
     touch_->tap(QStringLiteral("backButton"));
     openSection(textile);

@@ -51,11 +51,11 @@ Item {
     }
     Lettering {
         anchors.horizontalCenter: parent.horizontalCenter
-        y: (parent.height - picture.side) / 2 + picture.side * 0.34
+        y: (parent.height - picture.side) / 2 + picture.side * 0.57 // below the emblem of the brand
         visible: picture.chosen
-        width: picture.side * 0.34
-        height: picture.side * 0.22
-        largest: Math.max(9, picture.side * 0.09)
+        width: picture.side * 0.38
+        height: picture.side * 0.2
+        largest: Math.max(9, picture.side * 0.11)
         lines: 2
         lettering: picture.garment.lettering
     }

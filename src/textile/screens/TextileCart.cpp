@@ -9,6 +9,15 @@
 
 namespace kavor {
 
+namespace {
+
+UInt minimumUnits() {
+    const Int minimum = TextileArticles::current().textile().validations.minimumOrderAmount;
+    return minimum < 1 ? 0 : UInt(minimum);
+}
+
+} // namespace
+
 TextileCart::TextileCart(TextileDesk& desk, QObject* parent)
     : QObject(parent)
     , desk_(desk) {
@@ -84,15 +93,6 @@ QString TextileCart::summary() const {
         .arg(desk_.draft().order.size())
         .arg(TextileDesk::number(desk_.draft().totalUnits()));
 }
-
-namespace {
-
-UInt minimumUnits() {
-    const Int minimum = TextileArticles::current().textile().validations.minimumOrderAmount;
-    return minimum < 1 ? 0 : UInt(minimum);
-}
-
-} // namespace
 
 bool TextileCart::isEnough() const {
     return desk_.draft().totalUnits() >= minimumUnits();

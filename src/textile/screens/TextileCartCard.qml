@@ -11,7 +11,7 @@ Item {
     signal chosen()
     signal removed()
 
-    implicitWidth: 264
+    implicitWidth: 300
     implicitHeight: 96
 
     Card {

@@ -28,7 +28,7 @@ FocusScope {
 
             objectName: strip.name + "List"
             width: parent.width
-            height: count === 0 ? 0 : strip.colours ? 64 : 148
+            height: count === 0 ? 0 : strip.colours ? 64 : 136
             model: strip.model
             orientation: ListView.Horizontal
             spacing: Theme.spaceS
@@ -58,7 +58,7 @@ FocusScope {
                 ResourceImage {
                     visible: !strip.colours
                     width: parent.width
-                    height: 90
+                    height: 80
                     source: card.model.image
                     ground: card.ground
                     placeholderIcon: "tshirt"

@@ -32,19 +32,14 @@ FocusScope {
                 form: view.controller.customer
                 fields: view.controller.customer.contactFields
             }
-        }
-        ColumnLayout {
-            Layout.fillWidth: true
-            spacing: Theme.spaceL
-
-            TextileTypographies {
-                Layout.fillWidth: true
-                controller: view.controller
-            }
             PlaceCard {
                 Layout.fillWidth: true
                 form: view.controller.customer
             }
+        }
+        TextileTypographies {
+            Layout.fillWidth: true
+            controller: view.controller
         }
     }
 }

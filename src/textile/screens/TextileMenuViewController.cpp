@@ -111,7 +111,6 @@ void TextileMenuViewController::show(int button) {
             &TextileMenuViewController::buttonPushedAction);
     connect(activeViewController_, &TextileStepViewController::previewRequested, this,
             &TextileMenuViewController::showPreview);
-    connect(activeViewController_, &TextileStepViewController::said, this, &TextileMenuViewController::said);
     emit activeStepChanged();
     emit menuButtonsChanged();
     if (former) {

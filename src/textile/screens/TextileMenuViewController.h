@@ -64,6 +64,7 @@ signals:
     void activeStepChanged();
     void offlineChanged();
     void previewChanged();
+    // A quiet word for the user.
     void said(const QString& word);
 
 private:

@@ -64,6 +64,7 @@ FocusScope {
             spacing: Theme.spaceM
 
             GarmentPicture {
+                objectName: "garmentPicture"
                 Layout.preferredWidth: 132
                 Layout.preferredHeight: 132
                 garment: view.controller.garment

@@ -268,8 +268,6 @@ void TextileProductsViewController::addToCartAction() {
     });
     if (wasThere)
         tell("Atención", "Cantidad modificada correctamente.");
-    else
-        emit said(QStringLiteral("Añadido al carrito"));
 }
 
 // ---- What the selection looks like

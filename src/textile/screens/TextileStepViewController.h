@@ -21,8 +21,6 @@ signals:
     // Asks the frame for another step, by its place in the menu.
     void stepRequested(int button);
     void previewRequested(const QUrl& document);
-    // A quiet word for the user.
-    void said(const QString& word);
 };
 
 } // namespace kavor

@@ -33,6 +33,7 @@ TEST_F(TextileSending, AnOrderIsPrintedOnceWhateverIsTappedAndEndsItsDraft) {
     saveAs("Sol");
     ASSERT_TRUE(waitFor([&] { return sends().succeed(answer(12)); }));
     EXPECT_EQ(told(), "Pedido guardado | El pedido se encuentra guardado en local y sincronizado");
+    ASSERT_TRUE(waitFor([&] { return file("Sol")->orderIdentifier == 12; }));
     sending().makeOrderOnServerAction();
     EXPECT_TRUE(menu->veil()->isVisible());
     sends().fail(lostAnswer());
