@@ -63,7 +63,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceS
-        visible: !picture.chosen
+        visible: !picture.chosen && picture.side > 160
         text: "Sin selección"
         color: Theme.mutedInk
         font.family: Theme.fontFamily

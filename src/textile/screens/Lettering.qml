@@ -25,7 +25,7 @@ Item {
         verticalAlignment: Text.AlignVCenter
         wrapMode: item.lines > 1 ? Text.Wrap : Text.NoWrap
         maximumLineCount: item.lines
-        elide: Text.ElideRight
+        elide: item.lines > 1 ? Text.ElideNone : Text.ElideRight // eliding keeps it on one line
         fontSizeMode: Text.Fit
         minimumPixelSize: 8
         font.pixelSize: item.largest

@@ -129,9 +129,7 @@ void TextileSendingViewController::showWaiting(const QString& name) {
 }
 
 QString TextileSendingViewController::waitingText() const {
-    return waiting_.isEmpty()
-               ? QString()
-               : QStringLiteral("Pendiente de envío en «Mis pedidos» con el nombre \"%1\".").arg(waiting_);
+    return desk_.road().waitingText(waiting_);
 }
 
 QString TextileSendingViewController::makeOrderTitle() const {
