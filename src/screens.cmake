@@ -5,6 +5,7 @@ set(SCREEN_FOLDERS
     orders/screens
     promotions/screens
     activations/screens
+    textile/screens
     brochures/wizard
     brochures/wizard/configuration
     brochures/wizard/style

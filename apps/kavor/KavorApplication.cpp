@@ -86,7 +86,9 @@ struct KavorApplication::Parts : HeadlessCore {
                    {session, network, auth, alerts, urls, reachability, messages},
                    orderActions,
                    sync,
-                   files}
+                   files,
+                   *fonts,
+                   fontUpdater}
         , root({application,
                 alerts,
                 localNotifications,

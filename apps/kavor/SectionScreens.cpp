@@ -18,6 +18,7 @@
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/Screens.h"
+#include "textile/screens/TextileMenuViewController.h"
 
 #include <array>
 #include <optional>
@@ -36,7 +37,6 @@ struct ComingSection {
 
 constexpr std::array comingSections{
     ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
-    ComingSection{transition::textile, "Textil", "tshirt"},
 };
 
 PromotionServices promotionServices(const SectionServices& services) {
@@ -104,6 +104,15 @@ Screen wizardScreen(const SectionServices& services, ScreenStack& screens,
     return {screenView("BrochureMenuView"), wizard};
 }
 
+Screen textileScreen(const SectionServices& services, TextileMenuViewController::Opening opening) {
+    const WizardServices& wizard = services.wizard;
+    return {screenView("TextileMenuView"),
+            new TextileMenuViewController(
+                {wizard.network, wizard.orders, wizard.alerts, wizard.urls, wizard.clock, wizard.downloader,
+                 wizard.photos, wizard.reachability, services.fonts, services.fontUpdater, wizard.location},
+                opening)};
+}
+
 using OrderListController = AllOrdersManagementViewController;
 
 Screen claimScreen(const SectionServices& services, const OrderList::Order& order) {
@@ -136,6 +145,9 @@ Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
          [&services, &screens](const OrderList::Order& order) { screens.push(claimScreen(services, order)); },
          [&services, &screens, list](const OrderList::Order& order) {
              screens.push(qrScreen(services, order, *list));
+         },
+         [&services, &screens] {
+             screens.push(textileScreen(services, TextileMenuViewController::Opening::OrderToEdit));
          }});
     return {screenView("AllOrdersManagementView"), list};
 }
@@ -150,6 +162,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return galleryScreen(services, screens);
     if (name == transition::activations)
         return activationsScreen(services, screens);
+    if (name == transition::textile)
+        return textileScreen(services, TextileMenuViewController::Opening::UnfinishedOrder);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)

@@ -11,6 +11,8 @@ namespace kavor {
 
 class BackgroundOrderSync;
 class FileExport;
+class FontRegistry;
+class FontUpdater;
 class OrderActions;
 
 // What the sections work with. Everything outlives their screens.
@@ -21,6 +23,8 @@ struct SectionServices {
     OrderActions& orderActions;
     BackgroundOrderSync& sync;
     FileExport& files;
+    FontRegistry& fonts; // of the typographies
+    FontUpdater& fontUpdater;
 };
 
 // Makes the screen that a transition of the dashboard or of a notification leads to. The process stops for a

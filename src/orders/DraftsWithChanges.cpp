@@ -29,6 +29,10 @@ KAVOR_JSON_DOCUMENT(kavor::NamesOfDrafts)
 
 namespace kavor {
 
+std::string nameOfChanged(OrderFile::Kind kind, const std::string& plainName) {
+    return kind == OrderFile::Kind::Brochure ? plainName : "SaveTextileOrder/" + plainName;
+}
+
 DraftsWithChanges& DraftsWithChanges::shared() {
     static DraftsWithChanges instance;
     return instance;

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "orders/OrderFile.h"
+
 #include <filesystem>
 #include <set>
 #include <string>
 
 namespace kavor {
 
-// The names of the brochure drafts that the server has in an older version, because the last save could only
+// What a draft goes by among those with changes: a brochure by its plain name, clothing by that with its
+// folder.
+std::string nameOfChanged(OrderFile::Kind kind, const std::string& plainName);
+
+// The names of the drafts that the server has in an older version, because the last save could only
 // be made on the device: the state file "draftsWithChanges". Kept without waiting for the disk. Main thread
 // only.
 class DraftsWithChanges {

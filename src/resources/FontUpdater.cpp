@@ -73,6 +73,17 @@ void FontUpdater::update(Typographies typographies, std::function<void()> finish
     leave(run);
 }
 
+void FontUpdater::registerStored(Typographies typographies) {
+    if (cachesFolder_.empty())
+        return;
+    std::erase_if(typographies, [this](const Textile::Typography& typography) {
+        const auto file = atomic_file::child(folder(), typography.filename);
+        std::error_code error;
+        return !file || !std::filesystem::exists(*file, error);
+    });
+    registerNext(std::make_shared<Run>(Run{std::move(typographies), {}, 0}));
+}
+
 void FontUpdater::download(const std::shared_ptr<Run>& run, const Textile::Typography& typography,
                            const std::filesystem::path& file) {
     const std::string mime = typography.mimetype;

@@ -30,6 +30,10 @@ public:
     // Stops the process when the fonts' folder cannot be made.
     void update(Typographies typographies, std::function<void()> finished);
 
+    // Registers those of the list that are on the device, and asks nobody for the others: after a start
+    // without a network.
+    void registerStored(Typographies typographies);
+
     [[nodiscard]] std::filesystem::path folder() const;
 
 private:

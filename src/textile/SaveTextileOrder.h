@@ -41,6 +41,8 @@ struct SaveTextileOrder {
         std::optional<Int> placeLocalityId;
         std::optional<Int> placeProvinceId;
         std::optional<std::string> placeProvinceName;
+
+        bool operator==(const Customer&) const = default;
     };
 
     static constexpr std::string_view folderName = "SaveTextileOrder";

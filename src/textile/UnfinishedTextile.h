@@ -2,20 +2,13 @@
 
 #include "session/UnfinishedWork.h"
 #include "textile/TextileDraftRecord.h"
+#include "textile/TextileOrderToEdit.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace kavor {
-
-// An order of clothing at hand, out of a file or from the server, that the section is to go on with.
-struct TextileOrderToEdit {
-    SaveTextileOrder order;
-    std::optional<std::string> filename = {}; // plain name of its draft file
-    UnansweredSends unansweredSends = {};
-    std::optional<std::string> outboxFile = {}; // plain name, for one that waits in the outbox
-};
 
 // The unfinished textile order, the state file "textileDraft": both textile sections work on one.
 class UnfinishedTextile : public UnfinishedWork<TextileDraftRecord, TextileIntermediateData> {

@@ -172,7 +172,7 @@ private:
             if (isForTheNextStart(name))
                 ++report.temporaries;
             else if (entry.is_regular_file() && key != recoveryCopyName && key != temporaryCopyName &&
-                     key != promotionRecoveryName && !expected_.contains(key))
+                     key != promotionRecoveryName && key != textileRecoveryName && !expected_.contains(key))
                 fault(key + " is a file that nobody wrote");
         }
         for (auto& [key, values] : expected_) {

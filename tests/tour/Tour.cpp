@@ -132,7 +132,19 @@ std::vector<Tour::Step> Tour::steps() const {
                                        {"cuenta", &Tour::showAccount},
                                        {"tutoriales", &Tour::showTutorials},
                                        {"carteleria", &Tour::orderPromotion}};
+    const std::vector<Step> textile = {{"inicio", &Tour::start},
+                                       {"clave", &Tour::startWithWrongPassword},
+                                       {"entrada", &Tour::logIn},
+                                       {"panel", &Tour::showDashboard},
+                                       {"textil", &Tour::openTextile},
+                                       {"carrito", &Tour::fillTextileCart},
+                                       {"previa", &Tour::previewTextile},
+                                       {"guardar", &Tour::saveTextileTwice},
+                                       {"sin-red", &Tour::printTextileOffline},
+                                       {"impresion", &Tour::printTextile}};
     switch (options_.story) {
+    case Story::Textile:
+        return textile;
     case Story::MainJob:
         return mainJob;
     case Story::EveryKind:

@@ -31,6 +31,7 @@ public:
         EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
         Events,         // orders parties, one tied to the other, and the last of a quota
+        Textile,        // orders clothing, with and without a network
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -124,6 +125,14 @@ private:
     void choosePartyHours(int from, int to);
     void leaveParty(const QString& view);
 
+    void openTextile();
+    void fillTextileCart();
+    void previewTextile();
+    void saveTextileTwice();
+    void printTextileOffline();
+    void printTextile();
+    // The bodies of the textile orders at the server with this "save", since the tour began.
+    [[nodiscard]] QJsonArray textileOrders(int save) const;
     void orderKind(int applicationType);
     void orderFromTheCloud(BrochureType type);
     void sendKind();

@@ -27,6 +27,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
         return Story::Orders;
     if (parser.isSet("events"))
         return Story::Events;
+    if (parser.isSet("textile"))
+        return Story::Textile;
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -43,6 +45,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //                                      steps instead; their bodies and PDFs go to DIR
 //   --orders                           the corners of the list of orders instead
 //   --events                           parties instead
+//   --textile                          an order of clothing, with and without a network, instead
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
 //   --window                           in a real window that a thread of its own draws, as users have it
@@ -75,6 +78,7 @@ int main(int argc, char* argv[]) {
                        {"every-kind", {}},
                        {"orders", {}},
                        {"events", {}},
+                       {"textile", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);

@@ -34,6 +34,7 @@ struct OrderListWays {
     std::function<void()> wizard; // with the shared draft, as it stands
     std::function<void(const OrderList::Order&)> claim;
     std::function<void(const OrderList::Order&)> qrDemand;
+    std::function<void()> textile = {}; // as the wizard, for clothing
 };
 
 } // namespace kavor

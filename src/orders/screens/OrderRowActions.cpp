@@ -11,9 +11,11 @@
 #include "orders/services/FiledOrderRoad.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
+#include "textile/UnfinishedTextile.h"
 
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavor {
@@ -60,13 +62,14 @@ void OrderRowActions::edit(const std::string& key) {
         row->syncState == OrderSyncState::savedLocally || row->syncState == OrderSyncState::pendingToSend;
     if (isOnDevice)
         return fetchToEdit(*row, Version::Device);
-    if (row->syncState == OrderSyncState::synced &&
-        DraftsWithChanges::shared().names().contains(row->filename))
+    const auto file = row->file();
+    if (row->syncState == OrderSyncState::synced && file &&
+        DraftsWithChanges::shared().names().contains(nameOfChanged(file->kind, file->plainName)))
         return askForVersion(*row);
     fetchToEdit(*row, Version::Server);
 }
 
-// Whether the wizard can show the row at all; otherwise the user hears why not.
+// Whether its section can show the row at all; otherwise the user hears why not.
 bool OrderRowActions::canOpen(const DraftOrderRow& row) {
     const auto tell = [this](const char* text) {
         services_.alerts.inform(QStringLiteral("Atención"), QString::fromUtf8(text), this);
@@ -75,17 +78,20 @@ bool OrderRowActions::canOpen(const DraftOrderRow& row) {
     const auto file = row.file();
     if (file && services_.actions.isBeingSent(*file))
         return tell("El pedido se está enviando.");
-    const auto kind = row.sectionIdentifier.brochureType();
-    if (!kind)
-        return tell("Los pedidos de textil todavía no se pueden editar aquí. Puedes enviarlos o borrarlos.");
     if (!board_.hasSession()) {
         board_.tellOldCatalogue();
         return false;
     }
-    const auto* type = services_.session.catalogue().brochureType(*kind);
-    if (!type || !type->parameters)
-        return tell("Este tipo de pedido ya no está en el catálogo.");
-    return true;
+    return isInCatalogue(row.sectionIdentifier) || tell("Este tipo de pedido ya no está en el catálogo.");
+}
+
+bool OrderRowActions::isInCatalogue(const SectionIdentifier& section) const {
+    const Catalogue& catalogue = services_.session.catalogue();
+    const auto kind = section.brochureType();
+    if (!kind)
+        return catalogue.information().textile.has_value();
+    const auto* type = catalogue.brochureType(*kind);
+    return type && type->parameters;
 }
 
 void OrderRowActions::askForVersion(const DraftOrderRow& row) {
@@ -107,29 +113,54 @@ void OrderRowActions::fetchToEdit(const DraftOrderRow& row, Version version) {
                                        QStringLiteral("Se necesita conexión para descargar el pedido."),
                                        this);
     const QPointer<QObject> run = board_.beginWait(QStringLiteral("Abriendo el pedido…"));
-    services_.actions.fetchToEdit(
-        row, version, [this, run, row](const OrderActions::Fetched<OrderToEdit>& fetched) {
-            if (!run) // nobody waits for it any more
-                return;
-            board_.endWait();
-            if (fetched.value)
-                return open(row, *fetched.value);
-            if (!fetched.failure || !fetched.failure->error.updateNeeded)
-                return services_.alerts.inform(QStringLiteral("Incidencia"),
-                                               QStringLiteral("El pedido no se puede cargar de servidor"),
-                                               this);
-            board_.tellFailure(*fetched.failure, {}, {});
-        });
+    const auto take = [this, run, row](const auto& answer) {
+        if (run) // else nobody waits for it any more
+            fetched(row, answer);
+    };
+    if (row.sectionIdentifier.brochureType())
+        services_.actions.fetchToEdit(row, version, take);
+    else
+        services_.actions.fetchTextileToEdit(row, version, take);
 }
 
-// Section and application type stand before anything is loaded: the draft's rules look at them.
+template <class ToEdit>
+void OrderRowActions::fetched(const DraftOrderRow& row, const OrderActions::Fetched<ToEdit>& fetched) {
+    board_.endWait();
+    if (fetched.value)
+        return open(row, *fetched.value);
+    if (!fetched.failure || !fetched.failure->error.updateNeeded)
+        return services_.alerts.inform(QStringLiteral("Incidencia"),
+                                       QStringLiteral("El pedido no se puede cargar de servidor"), this);
+    board_.tellFailure(*fetched.failure, {}, {});
+}
+
 void OrderRowActions::open(const DraftOrderRow& row, const OrderToEdit& toEdit) {
     if (!canOpen(row))
         return;
-    services_.session.actualSection = row.sectionIdentifier;
-    services_.session.actualApplicationType = applicationTypeOf(row.sectionIdentifier);
+    enterSection(row);
     openOrder(toEdit);
     board_.cover(ways_.wizard);
+}
+
+void OrderRowActions::open(const DraftOrderRow& row, const TextileOrderToEdit& toEdit) {
+    if (!canOpen(row))
+        return;
+    enterSection(row);
+    UnfinishedTextile::shared().open(toEdit);
+    board_.cover(ways_.textile);
+    const auto isGone = [this](const auto& line) {
+        return !services_.session.catalogue().textileItem(line.textileId);
+    };
+    if (std::ranges::any_of(toEdit.order.orderInformation.orderLines, isGone))
+        services_.alerts.inform(QStringLiteral("Atención"),
+                                QStringLiteral("Algunos artículos del pedido ya no están en el catálogo y se "
+                                               "han quitado."));
+}
+
+// Section and application type stand before anything is loaded: the draft's rules look at them.
+void OrderRowActions::enterSection(const DraftOrderRow& row) {
+    services_.session.actualSection = row.sectionIdentifier;
+    services_.session.actualApplicationType = applicationTypeOf(row.sectionIdentifier);
 }
 
 // ---- Send

@@ -40,7 +40,12 @@ private:
     void fetchToEdit(const DraftOrderRow& row, OrderActions::Version version);
     void askForVersion(const DraftOrderRow& row);
     [[nodiscard]] bool canOpen(const DraftOrderRow& row);
+    [[nodiscard]] bool isInCatalogue(const SectionIdentifier& section) const;
+    template <class ToEdit>
+    void fetched(const DraftOrderRow& row, const OrderActions::Fetched<ToEdit>& fetched);
     void open(const DraftOrderRow& row, const OrderToEdit& toEdit);
+    void open(const DraftOrderRow& row, const TextileOrderToEdit& toEdit);
+    void enterSection(const DraftOrderRow& row);
     static void tellSent(AlertPresenter& alerts, const OrderActions::Sending& sending);
     void sent(const std::string& key, const OrderActions::Sending& sending, bool isAwaited);
     void sentAll(const OrderActions::SentAll& all, int count, bool isAwaited);

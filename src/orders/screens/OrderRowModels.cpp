@@ -1,6 +1,7 @@
 #include "orders/screens/OrderRowModels.h"
 
 #include "interaction/QtText.h"
+#include "orders/DraftsWithChanges.h"
 
 #include <iterator>
 
@@ -41,8 +42,9 @@ SavedOrderRow savedRow(const DraftOrderRow& row, const std::set<std::string>& wi
     shown.syncState = row.syncState;
     if (row.syncState == OrderSyncState::pendingToSend)
         shown.waiting = row.file();
-    shown.hasChanges = row.syncState == OrderSyncState::synced && row.sectionIdentifier.brochureType() &&
-                       withChanges.contains(row.filename);
+    const auto file = row.file();
+    shown.hasChanges = row.syncState == OrderSyncState::synced && file &&
+                       withChanges.contains(nameOfChanged(file->kind, file->plainName));
     return shown;
 }
 

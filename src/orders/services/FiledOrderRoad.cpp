@@ -16,6 +16,16 @@ QString textOf(const QueuedOrder& queued, const OrderTexts& texts) {
     return texts.notQueued;
 }
 
+QString textOfWaiting(const QString& name, bool isOpenedFromThere) {
+    if (name.isEmpty())
+        return {};
+    const QString where = QStringLiteral("Este pedido espera en la bandeja de salida como «%1». ").arg(name);
+    return where + (isOpenedFromThere
+                        ? QStringLiteral("Si lo pides ahora, se envía con los cambios y deja de esperar.")
+                        : QStringLiteral("Envíalo desde Pedidos cuando haya red. Si lo cambias y lo pides "
+                                         "otra vez, serán dos pedidos."));
+}
+
 void askForFileName(AlertPresenter& alerts, QObject* context, const QString& proposal,
                     std::function<void(const std::string&)> taken) {
     askForText(alerts, context, QStringLiteral("Guardar como"), QStringLiteral("Nombre:"), proposal,

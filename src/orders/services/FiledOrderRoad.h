@@ -20,6 +20,10 @@ struct QueuedOrder {
 // What the user reads of it.
 QString textOf(const QueuedOrder& queued, const OrderTexts& texts);
 
+// Says that the order waits in the outbox under this plain name, empty when none does, and what another send
+// would be: the user decides with this in sight.
+QString textOfWaiting(const QString& name, bool isOpenedFromThere);
+
 // "Guardar como": taken hears a name that can become a file; any other is refused with its reason and asked
 // for again.
 void askForFileName(AlertPresenter& alerts, QObject* context, const QString& proposal,
@@ -51,6 +55,10 @@ public:
             emit this->anotherOrderBegun();
             askForName();
         });
+    }
+
+    [[nodiscard]] QString waitingText(const QString& name) const {
+        return textOfWaiting(name, outboxFile().has_value());
     }
 
     // Looks whether an order of this draft waits in the outbox; waitingInOutbox tells it, beside the window's

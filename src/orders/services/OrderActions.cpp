@@ -9,6 +9,7 @@
 #include "orders/list/DraftOrderRows.h"
 #include "orders/services/SendIntent.h"
 #include "orders/services/SentFiles.h"
+#include "textile/TextileIntermediateData.h"
 
 #include <QTimer>
 
@@ -26,7 +27,7 @@ template <class Call>
 auto withRecord(OrderFile::Kind kind, Call call) {
     if (kind == OrderFile::Kind::Brochure)
         return call(std::type_identity<KeptOrder>());
-    return call(std::type_identity<SaveTextileOrder>());
+    return call(std::type_identity<KeptTextileOrder>());
 }
 
 // What waits in the outbox is to be printed, whatever an older file says.
@@ -35,20 +36,10 @@ KeptOrder asSent(KeptOrder order) {
     order.printedMyself = order.printsMyself.value_or(false);
     return order;
 }
-SaveTextileOrder asSent(SaveTextileOrder order) {
+KeptTextileOrder asSent(KeptTextileOrder order) {
     order.save = OrderRequestType::sendToPrint;
     return order;
 }
-
-void removeUnchangedDraft(const OrderDiskManager& orders, const SaveBrochuresOrder& sent) {
-    sent_files::removeUnchangedDraft(orders, sent);
-}
-void removeUnchangedDraft(const OrderDiskManager&, const SaveTextileOrder&) {}
-
-void forgetChanges(const OrderDiskManager& orders, const SaveBrochuresOrder& sent) {
-    sent_files::forgetChanges(orders, sent);
-}
-void forgetChanges(const OrderDiskManager&, const SaveTextileOrder&) {}
 
 QString reasonOf(const RequestFailure& failure) {
     return failure.messages && !failure.messages->isEmpty() ? failure.messages->first()
@@ -68,6 +59,20 @@ OrderToEdit toEdit(const OrderFile& file, const KeptOrder& kept, const OrderDisk
         send_intent::noteQueued(result.unansweredSends, content,
                                 send_intent::keyOfFile(kept, file.directory, file.fileName(), moment));
     }
+    return result;
+}
+
+TextileOrderToEdit toEdit(const OrderFile& file, const KeptTextileOrder& kept,
+                          const OrderDiskManager::Moment& moment) {
+    if (file.directory == Directory::draft)
+        return {kept, file.plainName, kept.unansweredSends.value_or(UnansweredSends()), {}};
+    TextileOrderToEdit result{kept, kept.filename, kept.unansweredSends.value_or(UnansweredSends()),
+                              file.plainName};
+    // Sent as it stands, it is the order of the file.
+    SaveTextileOrder content = kept;
+    content.save = OrderRequestType::sendToPrint;
+    send_intent::noteQueued(result.unansweredSends, content,
+                            send_intent::keyOfFile(kept, file.directory, file.fileName(), moment));
     return result;
 }
 
@@ -141,7 +146,7 @@ void OrderActions::post(const KeptOrder& order, const Answered& done, const QByt
                        key);
 }
 
-void OrderActions::post(const SaveTextileOrder& order, const Answered& done, const QByteArray& key) {
+void OrderActions::post(const KeptTextileOrder& order, const Answered& done, const QByteArray& key) {
     network_.createTextileOrder(order,
                                 {this, [done](const SaveTextileOrderResponse&) { done(std::nullopt); },
                                  [done](const RequestFailure& failure) { done(failure); }},
@@ -154,11 +159,11 @@ void OrderActions::removeSent(const OrderFile& file, const Record& order, const 
         this,
         [&orders = orders_, file, order] {
             const bool gone = orders.remove<Record>(file.fileName(), file.directory);
-            removeUnchangedDraft(orders, order);
+            sent_files::removeUnchangedDraft(orders, order);
             return gone;
         },
         [this, file, order, done](bool gone) {
-            forgetChanges(orders_, order);
+            sent_files::forgetChanges(orders_, order);
             ended(file, {gone ? Sending::Result::Sent : Sending::Result::FileStays}, done);
         });
 }
@@ -212,7 +217,7 @@ QString OrderActions::refusalOf(const OrderFile& file) const {
 void OrderActions::fetchToEdit(const DraftOrderRow& row, Version version,
                                const Then<Fetched<OrderToEdit>>& done) {
     if (version == Version::Device || !row.serverId())
-        return fetchFromFile(row.file().value_or(OrderFile()), done);
+        return fetchFromFile<KeptOrder>(row.file().value_or(OrderFile()), done);
     network_.retrieveBrochureOrder(
         *row.serverId(),
         {this,
@@ -224,15 +229,30 @@ void OrderActions::fetchToEdit(const DraftOrderRow& row, Version version,
          }});
 }
 
-void OrderActions::fetchFromFile(const OrderFile& file, const Then<Fetched<OrderToEdit>>& done) {
+void OrderActions::fetchTextileToEdit(const DraftOrderRow& row, Version version,
+                                      const Then<Fetched<TextileOrderToEdit>>& done) {
+    if (version == Version::Device || !row.serverId())
+        return fetchFromFile<KeptTextileOrder>(row.file().value_or(OrderFile()), done);
+    network_.retrieveTextileOrder(*row.serverId(),
+                                  {this,
+                                   [done, name = row.filename](const RetrieveTextileOrderResponse& answer) {
+                                       done({TextileOrderToEdit{savedOrder(answer), name, {}, {}}});
+                                   },
+                                   [done](const RequestFailure& failure) {
+                                       done({std::nullopt, failure});
+                                   }});
+}
+
+template <class Record, class ToEdit>
+void OrderActions::fetchFromFile(const OrderFile& file, const Then<Fetched<ToEdit>>& done) {
     runInBackground(
         this,
-        [&orders = orders_, file]() -> std::optional<OrderToEdit> {
-            const auto moment = orders.moment<KeptOrder>(file.fileName(), file.directory);
-            const auto kept = orders.retrieve<KeptOrder>(file.fileName(), file.directory);
+        [&orders = orders_, file]() -> std::optional<ToEdit> {
+            const auto moment = orders.moment<Record>(file.fileName(), file.directory);
+            const auto kept = orders.retrieve<Record>(file.fileName(), file.directory);
             return kept && moment ? std::optional(toEdit(file, *kept, *moment)) : std::nullopt;
         },
-        [done](std::optional<OrderToEdit> order) { done({std::move(order)}); });
+        [done](std::optional<ToEdit> order) { done({std::move(order)}); });
 }
 
 void OrderActions::fetchCopy(Int id, const Then<Fetched<SaveBrochuresOrder>>& done) {
@@ -317,9 +337,11 @@ void OrderActions::bringBack(const OrderFile& file, const Then<bool>& done) {
 
 void OrderActions::forget(const OrderFile& file) {
     refusals_.erase(file);
-    if (file.kind == OrderFile::Kind::Brochure && file.directory == Directory::draft &&
-        !draftExists(file.plainName))
-        DraftsWithChanges::shared().remove(file.plainName);
+    const bool stays = withRecord(file.kind, [&](auto record) {
+        return orders_.exists<typename decltype(record)::type>(file.plainName, Directory::draft);
+    });
+    if (file.directory == Directory::draft && !stays)
+        DraftsWithChanges::shared().remove(nameOfChanged(file.kind, file.plainName));
     runInBackground(
         this,
         [&orders = orders_, file] {

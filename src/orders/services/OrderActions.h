@@ -3,7 +3,7 @@
 #include "brochures/engine/OrderToEdit.h"
 #include "network/ServiceOperations.h"
 #include "orders/OrderFile.h"
-#include "textile/SaveTextileOrder.h"
+#include "textile/TextileOrderToEdit.h"
 
 #include <QObject>
 
@@ -70,8 +70,11 @@ public:
     // Why the server refused the file last; empty when it did not. As long as the process lives.
     [[nodiscard]] QString refusalOf(const OrderFile& file) const;
 
-    // The order of a row for the wizard: from the file, or from the server under the row's name.
+    // The order of a row for the wizard, or for the section of clothing: from the file, or from the server
+    // under the row's name.
     void fetchToEdit(const DraftOrderRow& row, Version version, const Then<Fetched<OrderToEdit>>& done);
+    void fetchTextileToEdit(const DraftOrderRow& row, Version version,
+                            const Then<Fetched<TextileOrderToEdit>>& done);
     // The brochure that the server has under a number, as a draft that never went there.
     void fetchCopy(Int id, const Then<Fetched<SaveBrochuresOrder>>& done);
     // Writes the copy as a draft of this name; over another one only where that is wanted.
@@ -101,10 +104,11 @@ private:
     template <class Record>
     void removeSent(const OrderFile& file, const Record& order, const Then<Sending>& done);
     void post(const KeptOrder& order, const Answered& done, const QByteArray& key);
-    void post(const SaveTextileOrder& order, const Answered& done, const QByteArray& key);
+    void post(const KeptTextileOrder& order, const Answered& done, const QByteArray& key);
     void ended(const OrderFile& file, const Sending& sending, const Then<Sending>& done);
     void sendNext(const std::shared_ptr<SendingAll>& all);
-    void fetchFromFile(const OrderFile& file, const Then<Fetched<OrderToEdit>>& done);
+    template <class Record, class ToEdit>
+    void fetchFromFile(const OrderFile& file, const Then<Fetched<ToEdit>>& done);
     template <class Work>
     void changeFile(Work work, const Then<bool>& done);
 

@@ -4,6 +4,7 @@
 #include "orders/DraftsWithChanges.h"
 #include "orders/services/SameOrder.h"
 #include "orders/services/SendIntent.h"
+#include "textile/SaveTextileOrder.h"
 
 namespace kavor::sent_files {
 
@@ -11,14 +12,14 @@ namespace {
 
 constexpr auto draft = OrderDiskManager::DirectoryName::draft;
 
-template <class IsSent>
-void removeDraftThat(const OrderDiskManager& orders, const SaveBrochuresOrder& sent, IsSent isSent) {
+template <class Order, class IsSent>
+void removeDraftThat(const OrderDiskManager& orders, const Order& sent, IsSent isSent) {
     if (!sent.filename)
         return;
     const std::string file = OrderDiskManager::fileName(*sent.filename);
-    const auto kept = orders.retrieve<SaveBrochuresOrder>(file, draft);
+    const auto kept = orders.retrieve<Order>(file, draft);
     if (kept && isSent(*kept))
-        orders.remove<SaveBrochuresOrder>(file, draft);
+        orders.remove<Order>(file, draft);
 }
 
 // What the order asks for, whoever prints it.
@@ -26,6 +27,16 @@ std::string contentOf(SaveBrochuresOrder order) {
     order.save = OrderRequestType::sendToPrint;
     order.printedMyself = false;
     return SendContent(std::move(order)).text();
+}
+std::string contentOf(SaveTextileOrder order) {
+    order.save = OrderRequestType::sendToPrint;
+    return SendContent(std::move(order)).text();
+}
+
+template <class Order>
+void forgetChangesOf(const OrderDiskManager& orders, const Order& sent, OrderFile::Kind kind) {
+    if (sent.filename && !orders.exists<Order>(*sent.filename, draft))
+        DraftsWithChanges::shared().remove(nameOfChanged(kind, *sent.filename));
 }
 
 } // namespace
@@ -38,9 +49,16 @@ void removeUnchangedDraft(const OrderDiskManager& orders, const SaveBrochuresOrd
     removeDraftThat(orders, sent, [&](const auto& kept) { return contentOf(kept) == contentOf(sent); });
 }
 
+void removeUnchangedDraft(const OrderDiskManager& orders, const SaveTextileOrder& sent) {
+    removeDraftThat(orders, sent, [&](const auto& kept) { return contentOf(kept) == contentOf(sent); });
+}
+
 void forgetChanges(const OrderDiskManager& orders, const SaveBrochuresOrder& sent) {
-    if (sent.filename && !orders.exists<SaveBrochuresOrder>(*sent.filename, draft))
-        DraftsWithChanges::shared().remove(*sent.filename);
+    forgetChangesOf(orders, sent, OrderFile::Kind::Brochure);
+}
+
+void forgetChanges(const OrderDiskManager& orders, const SaveTextileOrder& sent) {
+    forgetChangesOf(orders, sent, OrderFile::Kind::Textile);
 }
 
 } // namespace kavor::sent_files

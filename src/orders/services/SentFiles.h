@@ -5,6 +5,7 @@
 namespace kavor {
 
 struct SaveBrochuresOrder;
+struct SaveTextileOrder;
 
 // What becomes of the draft of an order that the server has taken to print.
 namespace sent_files {
@@ -15,8 +16,10 @@ void removeDraft(const OrderDiskManager& orders, const SaveBrochuresOrder& sent)
 // The same for an order that waited in the outbox: the user may have gone on with its draft, which stays
 // then.
 void removeUnchangedDraft(const OrderDiskManager& orders, const SaveBrochuresOrder& sent);
+void removeUnchangedDraft(const OrderDiskManager& orders, const SaveTextileOrder& sent);
 // A draft that is gone has no changes. Main thread only.
 void forgetChanges(const OrderDiskManager& orders, const SaveBrochuresOrder& sent);
+void forgetChanges(const OrderDiskManager& orders, const SaveTextileOrder& sent);
 
 } // namespace sent_files
 

@@ -22,7 +22,11 @@ CustomerLookup::CustomerLookup(ServiceOperations& network, AlertPresenter& alert
 
 void CustomerLookup::search(const QString& code, Answered answered) {
     if (!network_.isReachable()) {
-        informOffline(alerts_);
+        alerts_.inform(texts_.offlineTitle, texts_.offlineText);
+        return;
+    }
+    if (code.isEmpty() && !texts_.noCodeText.isEmpty()) {
+        alerts_.inform(texts_.noCodeTitle, texts_.noCodeText);
         return;
     }
     if (!AppSingleton::shared()

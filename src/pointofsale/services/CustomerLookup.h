@@ -17,6 +17,10 @@ class VeiledRun;
 
 // What the user is told when no customer comes of a code.
 struct CustomerLookupTexts {
+    QString offlineTitle = QStringLiteral("Error");
+    QString offlineText = QStringLiteral("No hay conexión a internet.");
+    QString noCodeTitle = QStringLiteral("Atención");
+    QString noCodeText; // empty: nobody can search without a code
     QString nobodyTitle = QStringLiteral("Información");
     QString nobodyText =
         QStringLiteral("No se ha encontrado ningún cliente asociado al código TEVO introducido.\n"

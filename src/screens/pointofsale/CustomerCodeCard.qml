@@ -25,7 +25,7 @@ Card {
             onEdited: (typed) => card.form.editText("tevoTextField", typed)
             onFinished: (typed) => card.form.finishText("tevoTextField", typed)
             onAccepted: {
-                if (card.form.tevo !== "")
+                if (card.form.tevo !== "" || card.form.tellsMissingCode)
                     card.form.searchTEVOCodeAction();
             }
         }
@@ -35,7 +35,7 @@ Card {
             text: "Buscar"
             icon: "search"
             kind: "secondary"
-            enabled: card.form.tevo !== ""
+            enabled: card.form.tevo !== "" || card.form.tellsMissingCode
             onClicked: card.form.searchTEVOCodeAction()
         }
     }

@@ -62,6 +62,8 @@ void PointOfSaleForm::searchTEVOCodeAction() {
 void PointOfSaleForm::customerAnswered(const std::optional<Customer>& found) {
     if (found) {
         form_.fillFromLookup(*found);
+        if (words_.takesCodeFound && found->tevo)
+            form_.setValue("tevoTextField", found->tevo);
         logo_.fill(found->imageLogo);
         allTextsChanged();
     } else {
@@ -75,7 +77,8 @@ void PointOfSaleForm::locateDeviceAndFillFields() {
 }
 
 void PointOfSaleForm::placeTaken(const Placemark& place) {
-    form_.editText("postalCodeTextField", place.postalCode.value_or(QString()).toStdString());
+    if (words_.takesPostalCodeOfPlace)
+        form_.editText("postalCodeTextField", place.postalCode.value_or(QString()).toStdString());
     form_.editText("municipalityTextField", place.locality.value_or(QString()).toStdString());
     form_.editText("provinceTextField", place.state.value_or(QString()).toStdString());
     allTextsChanged();

@@ -36,6 +36,8 @@ struct PointOfSaleTexts {
         "no se volcarán correctamente provocando errores. Por favor, asegúrate antes de cursar "
         "el pedido.");
     CustomerLookupTexts lookup;
+    bool takesCodeFound = false; // of the customer that a look-up finds; else the code stays as typed
+    bool takesPostalCodeOfPlace = true;
 };
 
 // The text fields that a section asks for besides the code, block by block. A section may give a field of
@@ -57,6 +59,8 @@ class PointOfSaleForm : public QObject {
     Q_PROPERTY(QString tevoAviseLabel READ tevoAviseLabel CONSTANT)
     Q_PROPERTY(bool customerCodeRequired READ isCustomerCodeRequired CONSTANT)
     Q_PROPERTY(QString tevo READ tevo NOTIFY tevoChanged)
+    // Whether a look-up without a code tells what is missing.
+    Q_PROPERTY(bool tellsMissingCode READ tellsMissingCode CONSTANT)
     Q_PROPERTY(QAbstractItemModel* contactFields READ contactFields CONSTANT)
     Q_PROPERTY(QAbstractItemModel* placeFields READ placeFields CONSTANT)
     Q_PROPERTY(QAbstractItemModel* onlineFields READ onlineFields CONSTANT)
@@ -84,6 +88,7 @@ public:
     [[nodiscard]] QString tevoAviseLabel() const;
     [[nodiscard]] bool isCustomerCodeRequired() const;
     [[nodiscard]] QString tevo() const { return fieldText(QStringLiteral("tevoTextField")); }
+    [[nodiscard]] bool tellsMissingCode() const { return !words_.lookup.noCodeText.isEmpty(); }
     [[nodiscard]] QString fieldText(const QString& field) const;
     // What tells an emptied field from one that nobody touched.
     [[nodiscard]] const CustomerForm& texts() const { return form_; }

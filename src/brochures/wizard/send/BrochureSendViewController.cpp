@@ -119,16 +119,8 @@ void BrochureSendViewController::setWaiting(const QString& name) {
     emit waitingChanged();
 }
 
-// Changed and ordered anew, it is an order of its own: the user decides with this in sight.
 QString BrochureSendViewController::waitingText() const {
-    if (waiting_.isEmpty())
-        return {};
-    const QString where =
-        QStringLiteral("Este pedido espera en la bandeja de salida como «%1». ").arg(waiting_);
-    return where + (context_.draft->outboxFile
-                        ? QStringLiteral("Si lo pides ahora, se envía con los cambios y deja de esperar.")
-                        : QStringLiteral("Envíalo desde Pedidos cuando haya red. Si lo cambias y lo pides "
-                                         "otra vez, serán dos pedidos."));
+    return road_.waitingText(waiting_);
 }
 
 void BrochureSendViewController::goToMissing(int index) {
