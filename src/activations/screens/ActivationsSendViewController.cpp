@@ -98,7 +98,6 @@ void ActivationsSendViewController::viewWillAppear() {
 // ---- The form
 
 void ActivationsSendViewController::fill(const ActivationForm& form) {
-    form_ = form;
     Customer customer;
     customer.name = form.name;
     if (!form.code.empty())
@@ -110,6 +109,7 @@ void ActivationsSendViewController::fill(const ActivationForm& form) {
     calendar_.setPartyDate(fromUtf8(form.partyDate.value_or("")));
     hours_.fill(form.hourFrom, form.hourTo);
     attributes_.ask(selectedActivation_.attributesList, form.attributesToSend);
+    form_ = form;
     emit textsChanged();
     emit edited();
 }
@@ -157,7 +157,7 @@ void ActivationsSendViewController::hoursSelected() {
     form_.hourTo = hours_.to();
     emit edited();
     if (endsBeforeItStarts(form_.hourFrom, form_.hourTo))
-        services_.alerts.inform(QString(),
+        services_.alerts.inform(warning,
                                 QStringLiteral("La hora de inicio ha de ser anterior a la de finalización."));
 }
 
