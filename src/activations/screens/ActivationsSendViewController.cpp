@@ -216,12 +216,16 @@ void ActivationsSendViewController::placesFound(const SearchMapsResponse& found)
                              });
 }
 
+std::vector<PartyPlace> ActivationsSendViewController::offeredPlaces() const {
+    std::vector<PartyPlace> places = ActivationMemory::shared().places();
+    std::erase(places, form_.place);
+    return places;
+}
+
 void ActivationsSendViewController::useEarlierPlace(int place) {
-    const auto& places = ActivationMemory::shared().places();
-    if (place < 0 || place >= int(places.size()))
-        return;
-    const PartyPlace chosen = places[std::size_t(place)];
-    takePlace(chosen);
+    const auto places = offeredPlaces();
+    if (place >= 0 && place < int(places.size()))
+        takePlace(places[std::size_t(place)]);
 }
 
 void ActivationsSendViewController::takePlace(const PartyPlace& place) {
@@ -382,7 +386,7 @@ QString ActivationsSendViewController::locationDetail() const {
 
 QStringList ActivationsSendViewController::earlierPlaces() const {
     QStringList texts;
-    for (const PartyPlace& place : ActivationMemory::shared().places())
+    for (const PartyPlace& place : offeredPlaces())
         texts << fromUtf8(place.fullAddress);
     return texts;
 }
