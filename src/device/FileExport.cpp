@@ -23,7 +23,8 @@ QString freePlace(const QDir& folder, const QString& name) {
 } // namespace
 
 std::optional<QString> DownloadsExport::saveAndOpen(const QString& name, const QByteArray& content) {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+    const QDir folder(folder_.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
+                                        : folder_);
     if (!folder.mkpath(QStringLiteral(".")))
         return std::nullopt;
     const QString place = freePlace(folder, name);

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 
 namespace kavor {
 
@@ -16,10 +17,15 @@ public:
     virtual std::optional<QString> saveAndOpen(const QString& name, const QByteArray& content) = 0;
 };
 
-// The folder of downloads.
+// A folder where the user finds it; without a word that of downloads.
 class DownloadsExport : public FileExport {
 public:
+    explicit DownloadsExport(QString folder = {})
+        : folder_(std::move(folder)) {}
     std::optional<QString> saveAndOpen(const QString& name, const QByteArray& content) override;
+
+private:
+    QString folder_;
 };
 
 } // namespace kavor

@@ -57,7 +57,7 @@ inline void addActivations(CatalogueBuilder& builder) {
     concert.attributesList = {{52, 3, 1, "Precio", "un importe", true, R"(^[0-9]+(\.[0-9]{1,2})?$)"},
                               {51, 1, 2, "Aforo", "un número de personas", false, "[0-9]"}};
     ActivationInformation terrace = activation(31, "Terraza", 2, 1, 0);
-    terrace.detailsPDF = Url{"http://server.example/terraza.pdf"};
+    terrace.detailsPDF = Url{"http://127.0.0.1:9/terraza.pdf"};
     terrace.dateFrom = LocalDateTime{2026, 12, 1};
     terrace.dateTo = LocalDateTime{2026, 12, 31, 23, 59, 59};
     Definition nights = definition(1, "Noches Roble");

@@ -52,9 +52,15 @@ QJsonObject eventOf(const QJsonObject& order) {
 
 void Tour::tapPartyDay(const QDate& day) {
     touch_->await(QStringLiteral("monthTitle"));
-    const bool before = day < firstDay();
-    for (int months = 0; months < 12 && touch_->text(QStringLiteral("monthTitle")) != monthOf(day); ++months)
-        touch_->tap(before ? QStringLiteral("formerMonth") : QStringLiteral("nextMonth"));
+    for (int months = 0; months < 12; ++months) {
+        const QString shown = touch_->text(QStringLiteral("monthTitle"));
+        if (shown == monthOf(day))
+            break;
+        QDate month = QDate::currentDate();
+        while (monthOf(month) != shown)
+            month = month.addMonths(1);
+        touch_->tap(day < month ? QStringLiteral("formerMonth") : QStringLiteral("nextMonth"));
+    }
     touch_->tap(QStringLiteral("partyDay%1").arg(day.day()));
 }
 
@@ -132,7 +138,7 @@ void Tour::fillParty() {
     choosePartyHours(19, 23);
     touch_->type(QStringLiteral("attribute0"), QStringLiteral("Ana Robles"));
     touch_->type(QStringLiteral("attribute1"), QStringLiteral("muchas"));
-    touch_->type(QStringLiteral("attribute2"), QStringLiteral("2,5"));
+    touch_->key(Qt::Key_Return);
     dismissAlert(QStringLiteral("Atención"), QStringLiteral("El formato para este campo es un número"));
     touch_->type(QStringLiteral("attribute1"), QStringLiteral("120"));
     touch_->type(QStringLiteral("attribute2"), QStringLiteral("2,5"));
@@ -244,6 +250,7 @@ void Tour::orderLastOfQuota() {
     dismissAlert(QString(), QStringLiteral("Ya no dispones de cupo"));
     touch_->tap(QStringLiteral("backButton"));
     touch_->await(QStringLiteral("item0"));
+    dismissAlert(QStringLiteral("Atención"), QStringLiteral("No dispones de cupo"));
     leaveParty(QStringLiteral("activation7"));
     shot(QStringLiteral("sin-cupo"));
     touch_->tap(QStringLiteral("nextButton"));

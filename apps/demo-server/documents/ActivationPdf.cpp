@@ -109,28 +109,40 @@ private:
     QDate day_;
 };
 
-void writeWhen(Report& report, const Json& event, const Json& customer) {
-    report.heading("Cuándo y dónde");
-    const QDate day = dayOf(event);
-    const double top = report.y();
-    constexpr double monthWidth = 220, monthHeight = 190;
-    const QRectF month(Report::margin + report.width() - monthWidth, top + 4, monthWidth, monthHeight);
-    const QRectF words(Report::margin + 6, top, report.width() - monthWidth - 30, 40);
-    auto row = [&](double offset, const QString& text, double size, bool bold) {
-        report.painter().setPen(colour(report.theme().ink));
-        drawFitted(report.painter(), words.translated(0, offset), Qt::AlignLeft | Qt::AlignVCenter, text,
-                   face(Face::body, size, bold));
-    };
-    row(8, day.isValid() ? spanish(day, "dddd d 'de' MMMM 'de' yyyy") : member(event, "date_event"), 24,
-        true);
-    row(50, hoursOf(event), 21, false);
-    row(96, member(customer, "name"), 19, true);
-    row(128, member(customer, "full_address"), 17, false);
-    row(156, member(customer, "placePostalCode") + " " + member(customer, "placeLocality"), 17, false);
-    if (day.isValid()) {
+/// The party in a picture, its month beside it.
+void writeBand(Report& report, const Json& event, const Activation* activation, const Catalogue& catalogue) {
+    constexpr double height = 200;
+    const double half = report.width() / 2;
+    if (activation) {
+        drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), half, height), *activation,
+                            0, lookOf(*activation, catalogue));
+    }
+    if (const QDate day = dayOf(event); day.isValid()) {
+        const QRectF month(Report::margin + half + 20, report.y(), half - 20, height);
         SmallMonth(report.painter(), month, day).draw(report.theme());
     }
-    report.y() = top + monthHeight + 18;
+    report.y() += height + 14;
+}
+
+void writeWhen(Report& report, const Json& event, const Json& customer) {
+    report.heading("Cuándo y dónde");
+    const auto row = [&](const QString& words, double size, bool bold) {
+        report.painter().setPen(colour(report.theme().ink));
+        drawFitted(report.painter(), QRectF(Report::margin + 6, report.y(), report.width() - 6, size * 1.5),
+                   Qt::AlignLeft | Qt::AlignVCenter, words, face(Face::body, size, bold));
+        report.y() += size * 1.5;
+    };
+    const QDate day = dayOf(event);
+    const QString when =
+        day.isValid() ? spanish(day, "dddd d 'de' MMMM 'de' yyyy") : member(event, "date_event");
+    row(when + ". " + hoursOf(event), 22, true);
+    row(member(customer, "name"), 19, true);
+    row(member(customer, "full_address"), 17, false);
+    const QString town = member(customer, "placePostalCode") + " " + member(customer, "placeLocality");
+    if (!town.trimmed().isEmpty()) {
+        row(town, 17, false);
+    }
+    report.y() += 8;
 }
 
 void writeElements(Report& report, const std::vector<ActivationElement>& elements,
@@ -141,7 +153,7 @@ void writeElements(Report& report, const std::vector<ActivationElement>& element
     report.need(200);
     report.heading("Elementos");
     constexpr double gap = 14;
-    const double width = (report.width() - 3 * gap) / 4, height = width * 0.66;
+    const double width = (report.width() - 3 * gap) / 4, height = width * 0.6;
     for (size_t i = 0; i < elements.size(); ++i) {
         const double x = Report::margin + double(i) * (width + gap);
         drawActivationElement(report.painter(), QRectF(x, report.y() + 4, width, height), activation,
@@ -172,19 +184,37 @@ void writeQuota(Report& report, int made, int quota) {
 
 void writeContact(Report& report, const Json& event, const Json& customer, const Activation* activation) {
     report.heading("Contacto y datos");
-    report.line("Contacto", member(customer, "contact"));
-    report.line("Teléfono", member(customer, "telephone"));
-    report.line("Email", member(customer, "email"));
-    if (customer.contains("cod_tevo")) {
-        report.line("Código cliente", text(customer["cod_tevo"].dump()));
-    }
+    std::vector<std::pair<QString, QString>> cells = {
+        {"Contacto", member(customer, "contact")},
+        {"Teléfono", member(customer, "telephone")},
+        {"Email", member(customer, "email")},
+        {"Código cliente", customer.contains("cod_tevo") ? text(customer["cod_tevo"].dump()) : QString()},
+        {"Azafata o azafato", member(event, "favorite_steward")}};
     if (activation) {
-        report.line("Agencia", activation->agency);
+        cells.emplace_back("Agencia", activation->agency);
         for (const auto& [name, value] : answersOf(event, *activation)) {
-            report.line(text(name), text(value));
+            cells.emplace_back(text(name), text(value));
         }
     }
-    report.line("Preferencia de azafata o azafato", member(event, "favorite_steward"));
+    std::erase_if(cells, [](const auto& cell) { return cell.second.isEmpty(); });
+    constexpr size_t columns = 3;
+    constexpr double height = 46;
+    const double width = report.width() / columns;
+    for (size_t i = 0; i < cells.size(); ++i) {
+        if (i % columns == 0) {
+            report.need(height);
+        }
+        const QRectF box(Report::margin + 6 + double(i % columns) * width, report.y(), width - 14, 20);
+        report.painter().setPen(mixed(colour(report.theme().ink), colour(report.theme().paper), 0.35));
+        drawFitted(report.painter(), box, Qt::AlignLeft | Qt::AlignVCenter, cells[i].first,
+                   face(Face::body, 14));
+        report.painter().setPen(colour(report.theme().ink));
+        drawFitted(report.painter(), box.translated(0, 19), Qt::AlignLeft | Qt::AlignVCenter, cells[i].second,
+                   face(Face::body, 17, true));
+        if (i % columns == columns - 1 || i + 1 == cells.size()) {
+            report.y() += height;
+        }
+    }
     for (const char* key : {"local_information", "comment"}) {
         if (const QString words = member(event, key); !words.isEmpty()) {
             report.paragraph(words);
@@ -224,12 +254,7 @@ QByteArray activationPdf(const Order& order, Orders& orders, const Catalogue& ca
     const Activation* activation = activationOf(event["activation_id"].get<int>());
     Report report(activation ? activation->name : "Activación",
                   activation ? text(groupOf(*activation).name) : member(customer, "name"), 8);
-    if (activation) {
-        drawActivationScene(report.painter(),
-                            QRectF(Report::margin, report.y(), report.width(), report.width() * 0.3),
-                            *activation, 0, lookOf(*activation, catalogue));
-        report.y() += report.width() * 0.3 + 16;
-    }
+    writeBand(report, event, activation, catalogue);
     writeWhen(report, event, customer);
     if (const std::string tie = tieWords(order, orders); !tie.empty()) {
         report.heading("Activaciones del mismo día");

@@ -35,22 +35,58 @@ FocusScope {
         anchors.bottom: parent.bottom
         width: parent.width
         visible: view.controller.emptyTitle === ""
-        contentHeight: Math.max(height, board.implicitHeight + 2 * Theme.pageMargin)
+        contentHeight: Math.max(height, content.implicitHeight + 2 * Theme.pageMargin)
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
         ScrollMark { view: page }
-        ActivationBoard {
-            id: board
+        Column {
+            id: content
 
-            objectName: "brandBoard"
-            anchors.centerIn: parent
-            width: parent.width - 2 * Theme.pageMargin
-            height: implicitHeight
-            focus: true
-            name: "brand"
-            model: view.controller.board
-            onTapped: (identifier) => view.controller.selectBrand(identifier)
+            readonly property bool roomy: page.height - board.implicitHeight > 340
+
+            x: Theme.pageMargin
+            y: roomy ? Theme.pageMargin : (page.contentHeight - implicitHeight) / 2
+            width: parent.width - 2 * x
+            spacing: Theme.spaceXL
+
+            ActivationBoard {
+                id: board
+
+                objectName: "brandBoard"
+                width: parent.width
+                height: implicitHeight
+                focus: true
+                name: "brand"
+                model: view.controller.board
+                onTapped: (identifier) => view.controller.selectBrand(identifier)
+            }
+            Card { // where the board leaves room, the same in words
+                width: parent.width
+                visible: content.roomy
+                padding: 4
+                spacing: 0
+
+                Repeater {
+                    id: rows
+
+                    model: view.controller.brandRows
+
+                    ListRow {
+                        required property int index
+                        required property var modelData
+
+                        objectName: "brandRow" + modelData.id
+                        width: parent.width
+                        icon: "party"
+                        text: modelData.text
+                        detail: modelData.detail
+                        chevron: true
+                        separator: index < rows.count - 1
+                        onClicked: view.controller.selectBrand(modelData.id)
+                    }
+                }
+            }
         }
     }
     EmptyState {

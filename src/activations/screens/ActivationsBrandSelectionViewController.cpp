@@ -57,6 +57,21 @@ void ActivationsBrandSelectionViewController::selectBrand(qint64 definition) {
                                 new ActivationsSelectionViewController(services_, route)});
 }
 
+QVariantList ActivationsBrandSelectionViewController::brandRows() const {
+    QVariantList rows;
+    const auto* all = activations();
+    for (const auto& each : all ? all->definitionsList : std::vector<ActivationsInformation::Definition>()) {
+        const auto count = each.activationsList.size();
+        const QString word = count == 1 ? QStringLiteral("activación") : QStringLiteral("activaciones");
+        rows << QVariantMap{
+            {QStringLiteral("id"), qlonglong(each.id)},
+            {QStringLiteral("text"), fromUtf8(each.name)},
+            {QStringLiteral("detail"),
+             QStringLiteral("%1 · %2 %3").arg(fromUtf8(each.brandName)).arg(count).arg(word)}};
+    }
+    return rows;
+}
+
 QString ActivationsBrandSelectionViewController::emptyTitle() const {
     return board_.count() > 0 ? QString() : QStringLiteral("No hay activaciones");
 }

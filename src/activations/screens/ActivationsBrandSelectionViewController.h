@@ -4,6 +4,8 @@
 #include "activations/screens/ActivationServices.h"
 #include "screens/ScreenController.h"
 
+#include <QVariantList>
+
 #include <memory>
 
 namespace kavor {
@@ -15,6 +17,8 @@ class ActivationsBrandSelectionViewController : public kavor::ScreenController {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(kavor::ActivationBoardModel* board READ board CONSTANT)
+    // The same brands in words: {id, text, detail} each.
+    Q_PROPERTY(QVariantList brandRows READ brandRows CONSTANT)
     // Why there is nothing to choose; empty where there is.
     Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
@@ -32,6 +36,7 @@ public:
     Q_INVOKABLE void closeSceneAction() { emit closed(); }
 
     [[nodiscard]] ActivationBoardModel* board() { return &board_; }
+    [[nodiscard]] QVariantList brandRows() const;
     [[nodiscard]] const ActivationsInformation::Definition* selectedBrandActivation() const {
         return selectedBrandActivation_;
     }

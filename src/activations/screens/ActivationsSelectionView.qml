@@ -19,6 +19,16 @@ FocusScope {
         anchors.fill: parent
         color: Theme.paper
     }
+    ResourceImage { // the brand's own ground
+        anchors.top: bar.bottom
+        anchors.bottom: actions.top
+        width: parent.width
+        visible: view.controller.background !== "" && ready
+        source: view.controller.background
+        radius: 0
+        opacity: 0.7
+        Accessible.ignored: true
+    }
     AppBar {
         id: bar
 
@@ -116,8 +126,8 @@ FocusScope {
             AppButton {
                 objectName: "nextButton"
                 Layout.fillWidth: Theme.compact
+                Layout.minimumWidth: 200
                 text: "Continuar"
-                icon: "chevron-right"
                 onClicked: view.controller.nextAction()
             }
         }

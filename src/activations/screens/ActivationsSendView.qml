@@ -56,7 +56,7 @@ FocusScope {
                     objectName: "tieText"
                     Layout.fillWidth: true
                     icon: "link"
-                    label: "Segunda activación del mismo día"
+                    label: "Activación del mismo día"
                     text: view.controller.tieText
                 }
                 AppButton {

@@ -98,7 +98,6 @@ void ActivationsSendViewController::viewWillAppear() {
 // ---- The form
 
 void ActivationsSendViewController::fill(const ActivationForm& form) {
-    form_ = form;
     Customer customer;
     customer.name = form.name;
     if (!form.code.empty())
@@ -110,6 +109,7 @@ void ActivationsSendViewController::fill(const ActivationForm& form) {
     calendar_.setPartyDate(fromUtf8(form.partyDate.value_or("")));
     hours_.fill(form.hourFrom, form.hourTo);
     attributes_.ask(selectedActivation_.attributesList, form.attributesToSend);
+    form_ = form;
     emit textsChanged();
     emit edited();
 }
@@ -157,7 +157,7 @@ void ActivationsSendViewController::hoursSelected() {
     form_.hourTo = hours_.to();
     emit edited();
     if (endsBeforeItStarts(form_.hourFrom, form_.hourTo))
-        services_.alerts.inform(QString(),
+        services_.alerts.inform(warning,
                                 QStringLiteral("La hora de inicio ha de ser anterior a la de finalización."));
 }
 
@@ -216,12 +216,16 @@ void ActivationsSendViewController::placesFound(const SearchMapsResponse& found)
                              });
 }
 
+std::vector<PartyPlace> ActivationsSendViewController::offeredPlaces() const {
+    std::vector<PartyPlace> places = ActivationMemory::shared().places();
+    std::erase(places, form_.place);
+    return places;
+}
+
 void ActivationsSendViewController::useEarlierPlace(int place) {
-    const auto& places = ActivationMemory::shared().places();
-    if (place < 0 || place >= int(places.size()))
-        return;
-    const PartyPlace chosen = places[std::size_t(place)];
-    takePlace(chosen);
+    const auto places = offeredPlaces();
+    if (place >= 0 && place < int(places.size()))
+        takePlace(places[std::size_t(place)]);
 }
 
 void ActivationsSendViewController::takePlace(const PartyPlace& place) {
@@ -382,7 +386,7 @@ QString ActivationsSendViewController::locationDetail() const {
 
 QStringList ActivationsSendViewController::earlierPlaces() const {
     QStringList texts;
-    for (const PartyPlace& place : ActivationMemory::shared().places())
+    for (const PartyPlace& place : offeredPlaces())
         texts << fromUtf8(place.fullAddress);
     return texts;
 }

@@ -40,7 +40,7 @@ class ActivationsSendViewController : public kavor::ScreenController {
     Q_PROPERTY(QString codeNote READ codeNote NOTIFY edited)
     Q_PROPERTY(QString locationString READ locationString NOTIFY edited)
     Q_PROPERTY(QString locationDetail READ locationDetail NOTIFY edited)
-    // Addresses that were chosen before.
+    // Other addresses that were chosen before.
     Q_PROPERTY(QStringList earlierPlaces READ earlierPlaces NOTIFY edited)
     Q_PROPERTY(kavor::ActivationAttributeModel* attributes READ attributes CONSTANT)
     Q_PROPERTY(QString comment READ comment NOTIFY textsChanged)
@@ -133,6 +133,7 @@ private:
     void tellTaken(const ActivationRoad::Answer& answer, const QString& more);
     void beginTied(Int orderId);
     [[nodiscard]] QString contactSummary() const;
+    [[nodiscard]] std::vector<PartyPlace> offeredPlaces() const;
 
     ActivationServices services_;
     ActivationRoute route_;

@@ -59,6 +59,7 @@ Card {
         width: parent.width
         height: days.implicitHeight + 8
         enabled: !card.calendar.blocked
+        opacity: enabled ? 1 : 0.6
         activeFocusOnTab: true
 
         Accessible.role: Accessible.Table

@@ -24,6 +24,7 @@ Tappable {
             height: 40
             isToday: day.entry.isToday
             hatched: day.entry.notice && day.entry.inMonth
+            dim: day.entry.outside && day.entry.inMonth
             selected: day.entry.selected
             pressed: day.down
             hovered: day.hot && day.enabled

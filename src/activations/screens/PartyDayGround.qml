@@ -18,17 +18,17 @@ Item {
         clip: true
 
         Repeater {
-            model: Math.ceil((ground.width + ground.height) / 7)
+            model: Math.ceil((ground.width + ground.height) / 7) + 1
 
             Rectangle {
                 required property int index
 
-                x: index * 7 - ground.height / 2
+                x: index * 7 - ground.height * 1.25
                 y: ground.height / 2 - 1
                 width: ground.height * 1.5
                 height: 1.5
                 rotation: -45
-                color: Theme.hairline
+                color: Qt.darker(Theme.hairline, 1.12)
                 antialiasing: true
             }
         }

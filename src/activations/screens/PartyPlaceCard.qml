@@ -76,7 +76,6 @@ Card {
                 rightPadding: 4
                 icon: "location"
                 text: modelData
-                selected: modelData === card.controller.locationString
                 separator: index < places.count - 1
                 onClicked: card.controller.useEarlierPlace(index)
             }

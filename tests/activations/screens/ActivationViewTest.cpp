@@ -153,6 +153,7 @@ TEST_F(ActivationViews, TheCalendarIsWorkedByKeysAndInertForATiedOrder) {
     EXPECT_EQ(scene->value("tieText", "text"), "Asociada al pedido 345");
     EXPECT_FALSE(scene->value("partyDay12", "enabled").toBool());
     EXPECT_TRUE(scene->isOnShow("changeActivation"));
+    scene->item("startTimeButton")->forceActiveFocus(Qt::TabFocusReason);
     scene->key(Qt::Key_Escape);
     EXPECT_NE(told().find("perderá la información"), std::string::npos);
     EXPECT_EQ(warnings(), QStringList());
