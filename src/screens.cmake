@@ -4,6 +4,7 @@ set(SCREEN_FOLDERS
     account/screens
     orders/screens
     promotions/screens
+    sellingsheets/screens
     brochures/wizard
     brochures/wizard/configuration
     brochures/wizard/style
