@@ -13,6 +13,7 @@
 #include "orders/screens/DemandBrandQrController.h"
 #include "promotions/screens/PromotionStyleSelectorViewController.h"
 #include "promotions/screens/PromotionViewController.h"
+#include "sellingsheets/screens/SellingSheetOrderListManagerViewController.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
 #include "shell/screens/ComingSoonViewController.h"
@@ -34,7 +35,6 @@ struct ComingSection {
 };
 
 constexpr std::array comingSections{
-    ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
     ComingSection{transition::textile, "Textil", "tshirt"},
     ComingSection{transition::activations, "Activaciones", "party"},
 };
@@ -131,6 +131,16 @@ Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
     return {screenView("AllOrdersManagementView"), list};
 }
 
+Screen sellingSheetScreen(const SectionServices& services, ScreenStack& screens) {
+    const WizardServices& wizard = services.wizard;
+    auto* list = new SellingSheetOrderListManagerViewController(
+        {wizard.network, wizard.orders, wizard.alerts, wizard.urls, wizard.photos, wizard.reachability,
+         wizard.downloader, wizard.clock});
+    QObject::connect(list, &SellingSheetOrderListManagerViewController::screenRequested, &screens,
+                     &ScreenStack::push);
+    return {screenView("SellingSheetListView"), list};
+}
+
 } // namespace
 
 Screen makeSectionScreen(const QString& transition, const SectionServices& services, ScreenStack& screens) {
@@ -139,6 +149,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return wizardScreen(services, screens, BrochureMenuViewController::Opening::UnfinishedMenu);
     if (name == transition::promotion)
         return galleryScreen(services, screens);
+    if (name == transition::sellingSheet)
+        return sellingSheetScreen(services, screens);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)
