@@ -10,7 +10,6 @@ namespace kavor::demo {
 /// PDFs of the orders beside the menus, and the documents that the catalogue names.
 
 QByteArray textilePdf(const Json& order, const Catalogue& catalogue);
-QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue);
 QByteArray activationPdf(const Json& order, const Catalogue& catalogue);
 
 /// Details of an activation; empty for an id that is none.

@@ -3,6 +3,7 @@
 #include "catalogue/Dice.h"
 #include "catalogue/Posters.h"
 #include "server/SampleOrder.h"
+#include "server/SheetHistory.h"
 #include "server/Time.h"
 
 #include <algorithm>
@@ -196,10 +197,17 @@ void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account
     if (made.empty()) {
         return;
     }
+    std::vector<Order> sheets;
+    if (orders.seeds(account) == 0) {
+        sheets = pastSheets(catalogue, account);
+    }
     std::ranges::sort(made, {}, &Order::created); // an earlier order has the smaller number
     orders.database().together([&] {
         for (Order& order : made) {
             orders.add(order);
+        }
+        for (Order& sheet : sheets) {
+            orders.add(sheet);
         }
         orders.setSeeds(account, number);
     });
