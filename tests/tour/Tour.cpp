@@ -90,6 +90,13 @@ std::vector<Tour::Step> Tour::steps() const {
         {"nube", &Tour::editCloudOrder},   {"sitios", &Tour::keepInBothPlaces},
         {"version", &Tour::changeOffline}, {"borrar", &Tour::deleteAndBringBack},
         {"tres", &Tour::sendThree},        {"aviso", &Tour::tapNotification}};
+    const std::vector<Step> sheets = {
+        {"inicio", &Tour::start},        {"clave", &Tour::startWithWrongPassword},
+        {"entrada", &Tour::logIn},       {"panel", &Tour::showDashboard},
+        {"hojas", &Tour::listSheets},    {"copia", &Tour::previewAndCopySheets},
+        {"datos", &Tour::writeSheet},    {"modulos", &Tour::addModules},
+        {"previa", &Tour::previewSheet}, {"envio", &Tour::sendSheet},
+        {"borrar", &Tour::deleteSheets}};
     const std::vector<Step> mainJob = {{"inicio", &Tour::start},
                                        {"clave", &Tour::startWithWrongPassword},
                                        {"entrada", &Tour::logIn},
@@ -125,6 +132,8 @@ std::vector<Tour::Step> Tour::steps() const {
         return everyKind;
     case Story::Orders:
         return orders;
+    case Story::Sheets:
+        return sheets;
     default:
         return sendingSteps();
     }

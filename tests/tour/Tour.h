@@ -29,6 +29,7 @@ public:
         MainJob,
         EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
+        Sheets,         // makes, sends, copies and deletes selling sheets
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -106,6 +107,18 @@ private:
     void chooseOrderSheet();
     void hangPennants();
     void choosePennantBrand();
+
+    void listSheets();
+    void previewAndCopySheets();
+    void writeSheet();
+    void addModules();
+    void previewSheet();
+    void sendSheet();
+    void checkSheet();
+    void deleteSheets();
+    void showSheets(bool ofServer);
+    // The sheets of the server, those of the history included.
+    [[nodiscard]] QJsonArray serverSheets() const;
 
     void orderKind(int applicationType);
     void chooseBlackboard();

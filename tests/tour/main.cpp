@@ -25,6 +25,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
         return Story::EveryKind;
     if (parser.isSet("orders"))
         return Story::Orders;
+    if (parser.isSet("sheets"))
+        return Story::Sheets;
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -40,6 +42,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //   --every-kind                       an order of every kind of brochure with all its
 //                                      steps instead; their bodies and PDFs go to DIR
 //   --orders                           the corners of the list of orders instead
+//   --sheets                           selling sheets instead; the PDF of one goes to DIR
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
 //   --window                           in a real window that a thread of its own draws, as users have it
@@ -71,6 +74,7 @@ int main(int argc, char* argv[]) {
                        {"window", {}},
                        {"every-kind", {}},
                        {"orders", {}},
+                       {"sheets", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);
