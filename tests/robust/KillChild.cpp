@@ -10,6 +10,7 @@
 #include "promotions/UnfinishedPromotion.h"
 #include "robust/StampedFiles.h"
 #include "robust/StampedNames.h"
+#include "sellingsheets/UnfinishedSheet.h"
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 #include "support/FakeServices.h"
@@ -51,10 +52,11 @@ public:
         , orders_(folder_) {
         openMenu();
         promotion_ = UnfinishedPromotion::shared().open(promotionId);
+        UnfinishedSheet::shared().open();
     }
 
     void step() {
-        switch (random_() % 16) {
+        switch (random_() % 17) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -92,6 +94,8 @@ public:
             return noteChanges();
         case 14:
             return workOnPromotion();
+        case 15:
+            return workOnSheet();
         default:
             return write(keychainKey, [this](Int stamp) {
                 FileKeychain keychain(folder_ / keychainKey);
@@ -283,6 +287,28 @@ private:
             begin(key, stamp);
             *promotion_ = stamped<PromotionDraft>(stamp);
             unfinished.keep(*promotion_);
+        }
+        tellOutcome(key, stamp);
+    }
+
+    // The sheet in work comes back, is stored elsewhere, or is written on.
+    void workOnSheet() {
+        const std::string key(UnfinishedSheet::stateFile);
+        auto& unfinished = UnfinishedSheet::shared();
+        const unsigned chance = random_() % 6;
+        if (chance == 0) {
+            unfinished.open();
+            return;
+        }
+        Int stamp = 0;
+        if (chance == 1 && stampIn(folder_, key).value_or(0) != 0) {
+            begin(key, stamp);
+            unfinished.removeAll();
+        } else {
+            stamp = ++stamp_;
+            begin(key, stamp);
+            StyleSingleton::shared() = {stamped<SellingSheetOrder>(stamp), std::to_string(stamp)};
+            unfinished.keep();
         }
         tellOutcome(key, stamp);
     }

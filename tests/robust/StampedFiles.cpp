@@ -5,6 +5,7 @@
 #include "device/UserDefaults.h"
 #include "device/keychain/FileKeychain.h"
 #include "robust/StampedNames.h"
+#include "sellingsheets/UnfinishedSheet.h"
 #include "session/StateFile.h"
 
 #include <sys/stat.h>
@@ -66,6 +67,10 @@ std::optional<Int> stampOf(const SellingSheetOrder& record) {
 }
 std::optional<Int> stampOf(const PromotionDraft& record) {
     return record.name == record.comment ? std::optional<Int>(std::atoll(record.name.c_str())) : std::nullopt;
+}
+std::optional<Int> stampOf(const SheetInWork& record) {
+    const bool whole = record.filename == std::to_string(record.order.identifier);
+    return whole ? stampOf(record.order) : std::nullopt;
 }
 std::optional<Int> stampOf(const NetPrices& record) {
     if (record.empty() || record.begin()->second != record.rbegin()->second)
@@ -195,15 +200,18 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
     }
     auto file = documents / key;
     struct stat status {};
+    const bool isRecoverable = key == state_file::promotionDraft || key == UnfinishedSheet::stateFile;
     if (::stat(file.c_str(), &status) != 0) {
-        file = documents / promotionRecoveryName;
-        if (key != state_file::promotionDraft || ::stat(file.c_str(), &status) != 0)
+        file = documents / (key + recoveryEnding);
+        if (!isRecoverable || ::stat(file.c_str(), &status) != 0)
             return 0;
     }
     if ((status.st_mode & 077) != 0)
         return std::nullopt;
     if (key == state_file::promotionDraft)
         return stampOfFile<PromotionDraft>(file, false);
+    if (key == UnfinishedSheet::stateFile)
+        return stampOfFile<SheetInWork>(file, false);
     if (key == state_file::applicationInformation)
         return stampOfFile<ApplicationInformation>(file, false);
     if (key == state_file::loginResult)
