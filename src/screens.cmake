@@ -6,6 +6,7 @@ set(SCREEN_FOLDERS
     promotions/screens
     activations/screens
     textile/screens
+    sellingsheets/screens
     brochures/wizard
     brochures/wizard/configuration
     brochures/wizard/style

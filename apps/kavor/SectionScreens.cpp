@@ -14,30 +14,18 @@
 #include "orders/screens/DemandBrandQrController.h"
 #include "promotions/screens/PromotionStyleSelectorViewController.h"
 #include "promotions/screens/PromotionViewController.h"
+#include "sellingsheets/screens/SellingSheetOrderListManagerViewController.h"
 #include "session/AppSingleton.h"
 #include "shell/WelcomeOptions.h"
-#include "shell/screens/ComingSoonViewController.h"
 #include "shell/screens/Screens.h"
 #include "textile/screens/TextileMenuViewController.h"
 
-#include <array>
 #include <optional>
 #include <utility>
 
 namespace kavor {
 
 namespace {
-
-// The sections that are still to come, with a title and a drawing.
-struct ComingSection {
-    std::string_view transition;
-    const char* title;
-    const char* icon;
-};
-
-constexpr std::array comingSections{
-    ComingSection{transition::sellingSheet, "Hoja vendedora", "sellingsheet"},
-};
 
 PromotionServices promotionServices(const SectionServices& services) {
     const WizardServices& wizard = services.wizard;
@@ -152,6 +140,16 @@ Screen orderListScreen(const SectionServices& services, ScreenStack& screens) {
     return {screenView("AllOrdersManagementView"), list};
 }
 
+Screen sellingSheetScreen(const SectionServices& services, ScreenStack& screens) {
+    const WizardServices& wizard = services.wizard;
+    auto* list = new SellingSheetOrderListManagerViewController(
+        {wizard.network, wizard.orders, wizard.alerts, wizard.urls, wizard.photos, wizard.reachability,
+         wizard.downloader, wizard.clock});
+    QObject::connect(list, &SellingSheetOrderListManagerViewController::screenRequested, &screens,
+                     &ScreenStack::push);
+    return {screenView("SellingSheetListView"), list};
+}
+
 } // namespace
 
 Screen makeSectionScreen(const QString& transition, const SectionServices& services, ScreenStack& screens) {
@@ -164,6 +162,8 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return activationsScreen(services, screens);
     if (name == transition::textile)
         return textileScreen(services, TextileMenuViewController::Opening::UnfinishedOrder);
+    if (name == transition::sellingSheet)
+        return sellingSheetScreen(services, screens);
     if (name == transition::allOrders)
         return orderListScreen(services, screens);
     if (name == transition::profile)
@@ -172,12 +172,6 @@ Screen makeSectionScreen(const QString& transition, const SectionServices& servi
         return {screenView("SuggestionView"), new SuggestionViewController(services.account)};
     if (name == transition::tutorials)
         return {screenView("TutorialsView"), new TutorialsViewController(services.account)};
-    for (const ComingSection& section : comingSections) {
-        if (name == section.transition)
-            return {screenView("ComingSoonView"),
-                    new ComingSoonViewController(QString::fromUtf8(section.title),
-                                                 QString::fromLatin1(section.icon))};
-    }
     stopProcess("a screen for the transition " + name);
 }
 

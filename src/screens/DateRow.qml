@@ -9,6 +9,7 @@ FocusScope {
 
     property string label: ""
     property string text: ""
+    property string shown: text // where the form shows the date in another way than the calendar
     property string placeholder: "Sin fecha"
     property string error: ""
     property string today: ""
@@ -45,7 +46,7 @@ FocusScope {
             leftPadding: Theme.spaceM
             rightPadding: Theme.spaceM
             accessibleName: row.label
-            Accessible.description: (row.text !== "" ? row.text : row.placeholder) + (row.error !== "" ? ". " + row.error : "")
+            Accessible.description: (row.text !== "" ? row.shown : row.placeholder) + (row.error !== "" ? ". " + row.error : "")
             onClicked: calendar.active = true
             Keys.onDownPressed: calendar.active = true
 
@@ -68,7 +69,7 @@ FocusScope {
                     anchors.leftMargin: Theme.spaceM
                     anchors.right: parent.right
                     anchors.verticalCenter: parent.verticalCenter
-                    text: row.text !== "" ? row.text : row.placeholder
+                    text: row.text !== "" ? row.shown : row.placeholder
                     color: row.text !== "" ? Theme.ink : Theme.mutedInk
                     elide: Text.ElideRight
                     font: button.font

@@ -10,6 +10,7 @@
 #include "promotions/UnfinishedPromotion.h"
 #include "robust/StampedFiles.h"
 #include "robust/StampedNames.h"
+#include "sellingsheets/UnfinishedSheet.h"
 #include "session/AppSingleton.h"
 #include "session/StateFile.h"
 #include "support/FakeServices.h"
@@ -52,10 +53,11 @@ public:
         , orders_(folder_) {
         openMenu();
         promotion_ = UnfinishedPromotion::shared().open(promotionId);
+        UnfinishedSheet::shared().open();
     }
 
     void step() {
-        switch (random_() % 17) {
+        switch (random_() % 18) {
         case 0:
         case 1:
             return saveDraft<SaveBrochuresOrder>();
@@ -95,6 +97,8 @@ public:
             return workOnPromotion();
         case 15:
             return workOnTextile();
+        case 16:
+            return workOnSheet();
         default:
             return write(keychainKey, [this](Int stamp) {
                 FileKeychain keychain(folder_ / keychainKey);
@@ -306,6 +310,28 @@ private:
             begin(key, stamp);
             TextileIntermediateData::setShared(
                 std::make_shared<TextileIntermediateData>(draftOf(stamped<TextileDraftRecord>(stamp))));
+            unfinished.keep();
+        }
+        tellOutcome(key, stamp);
+    }
+
+    // The sheet in work comes back, is stored elsewhere, or is written on.
+    void workOnSheet() {
+        const std::string key(UnfinishedSheet::stateFile);
+        auto& unfinished = UnfinishedSheet::shared();
+        const unsigned chance = random_() % 6;
+        if (chance == 0) {
+            unfinished.open();
+            return;
+        }
+        Int stamp = 0;
+        if (chance == 1 && stampIn(folder_, key).value_or(0) != 0) {
+            begin(key, stamp);
+            unfinished.removeAll();
+        } else {
+            stamp = ++stamp_;
+            begin(key, stamp);
+            StyleSingleton::shared() = {stamped<SellingSheetOrder>(stamp), std::to_string(stamp)};
             unfinished.keep();
         }
         tellOutcome(key, stamp);

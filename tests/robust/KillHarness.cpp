@@ -165,6 +165,12 @@ private:
         report.faults.push_back(documents_.filename().string() + ": " + text);
     }
 
+    // The other place of the same key.
+    [[nodiscard]] bool isRecoveryOfKey(const std::string& name) const {
+        return name.ends_with(recoveryEnding) &&
+               expected_.contains(name.substr(0, name.size() - recoveryEnding.size()));
+    }
+
     void lookAtFiles() {
         for (const auto& entry : std::filesystem::recursive_directory_iterator(documents_)) {
             const auto name = entry.path().filename().string();
@@ -172,7 +178,7 @@ private:
             if (isForTheNextStart(name))
                 ++report.temporaries;
             else if (entry.is_regular_file() && key != recoveryCopyName && key != temporaryCopyName &&
-                     key != promotionRecoveryName && key != textileRecoveryName && !expected_.contains(key))
+                     !isRecoveryOfKey(key) && !expected_.contains(key))
                 fault(key + " is a file that nobody wrote");
         }
         for (auto& [key, values] : expected_) {

@@ -5,6 +5,7 @@
 #include "device/UserDefaults.h"
 #include "device/keychain/FileKeychain.h"
 #include "robust/StampedNames.h"
+#include "sellingsheets/UnfinishedSheet.h"
 #include "session/StateFile.h"
 
 #include <sys/stat.h>
@@ -70,6 +71,10 @@ std::optional<Int> stampOf(const PromotionDraft& record) {
 std::optional<Int> stampOf(const TextileDraftRecord& record) {
     const bool whole = record.orderIdentifier && record.filename == std::to_string(*record.orderIdentifier);
     return whole ? record.orderIdentifier : std::nullopt;
+}
+std::optional<Int> stampOf(const SheetInWork& record) {
+    const bool whole = record.filename == std::to_string(record.order.identifier);
+    return whole ? stampOf(record.order) : std::nullopt;
 }
 std::optional<Int> stampOf(const NetPrices& record) {
     if (record.empty() || record.begin()->second != record.rbegin()->second)
@@ -208,11 +213,11 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
     }
     auto file = documents / key;
     struct stat status {};
+    const bool isRecoverable = key == state_file::promotionDraft || key == state_file::textileDraft ||
+                               key == UnfinishedSheet::stateFile;
     if (::stat(file.c_str(), &status) != 0) {
-        if (key != state_file::promotionDraft && key != state_file::textileDraft)
-            return 0;
-        file = documents / (key == state_file::promotionDraft ? promotionRecoveryName : textileRecoveryName);
-        if (::stat(file.c_str(), &status) != 0)
+        file = documents / (key + recoveryEnding);
+        if (!isRecoverable || ::stat(file.c_str(), &status) != 0)
             return 0;
     }
     if ((status.st_mode & 077) != 0)
@@ -221,6 +226,8 @@ std::optional<Int> stampIn(const std::filesystem::path& documents, const std::st
         return stampOfFile<PromotionDraft>(file, false);
     if (key == state_file::textileDraft)
         return stampOfFile<TextileDraftRecord>(file, false);
+    if (key == UnfinishedSheet::stateFile)
+        return stampOfFile<SheetInWork>(file, false);
     if (key == state_file::applicationInformation)
         return stampOfFile<ApplicationInformation>(file, false);
     if (key == state_file::loginResult)

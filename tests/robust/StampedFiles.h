@@ -20,8 +20,7 @@ namespace kavor::robust {
 // places: the temporary copy, the recovery copy, and the one that is set aside, which gives the key.
 inline const std::string temporaryCopyName = "temporalBrochure";
 inline const std::string recoveryCopyName = "temporalBrochure.recovery";
-inline const std::string promotionRecoveryName = "promotionDraft.recovery"; // its key is the copy's
-inline const std::string textileRecoveryName = "textileDraft.recovery";     // the same
+inline const std::string recoveryEnding = ".recovery"; // of other unfinished work, whose key is the copy's
 inline constexpr BrochureType menuKinds[] = {BrochureType::beer, BrochureType::wineA4};
 std::string menuKey(BrochureType kind);
 inline const std::string defaultsKey = "UserDefaults";

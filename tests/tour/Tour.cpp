@@ -104,6 +104,13 @@ std::vector<Tour::Step> Tour::steps() const {
                                       {"otra", &Tour::changeTiedParty},
                                       {"ultima", &Tour::orderLastOfQuota},
                                       {"sola", &Tour::openSingleParty}};
+    const std::vector<Step> sheets = {
+        {"inicio", &Tour::start},        {"clave", &Tour::startWithWrongPassword},
+        {"entrada", &Tour::logIn},       {"panel", &Tour::showDashboard},
+        {"hojas", &Tour::listSheets},    {"copia", &Tour::previewAndCopySheets},
+        {"datos", &Tour::writeSheet},    {"modulos", &Tour::addModules},
+        {"previa", &Tour::previewSheet}, {"envio", &Tour::sendSheet},
+        {"borrar", &Tour::deleteSheets}};
     const std::vector<Step> mainJob = {{"inicio", &Tour::start},
                                        {"clave", &Tour::startWithWrongPassword},
                                        {"entrada", &Tour::logIn},
@@ -153,6 +160,8 @@ std::vector<Tour::Step> Tour::steps() const {
         return orders;
     case Story::Events:
         return events;
+    case Story::Sheets:
+        return sheets;
     default:
         return sendingSteps();
     }

@@ -32,6 +32,7 @@ public:
         Orders,         // goes through the corners of the list of orders
         Events,         // orders parties, one tied to the other, and the last of a quota
         Textile,        // orders clothing, with and without a network
+        Sheets,         // makes, sends, copies and deletes selling sheets
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -133,6 +134,18 @@ private:
     void printTextile();
     // The bodies of the textile orders at the server with this "save", since the tour began.
     [[nodiscard]] QJsonArray textileOrders(int save) const;
+    void listSheets();
+    void previewAndCopySheets();
+    void writeSheet();
+    void addModules();
+    void previewSheet();
+    void sendSheet();
+    void checkSheet();
+    void deleteSheets();
+    void showSheets(bool ofServer);
+    // The sheets of the server, those of the history included.
+    [[nodiscard]] QJsonArray serverSheets() const;
+
     void orderKind(int applicationType);
     void orderFromTheCloud(BrochureType type);
     void sendKind();

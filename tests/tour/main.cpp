@@ -29,6 +29,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
         return Story::Events;
     if (parser.isSet("textile"))
         return Story::Textile;
+    if (parser.isSet("sheets"))
+        return Story::Sheets;
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -46,6 +48,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //   --orders                           the corners of the list of orders instead
 //   --events                           parties instead
 //   --textile                          an order of clothing, with and without a network, instead
+//   --sheets                           selling sheets instead; the PDF of one goes to DIR
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
 //   --window                           in a real window that a thread of its own draws, as users have it
@@ -79,6 +82,7 @@ int main(int argc, char* argv[]) {
                        {"orders", {}},
                        {"events", {}},
                        {"textile", {}},
+                       {"sheets", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);

@@ -47,6 +47,8 @@ struct SheetStyle {
     int theme;
 };
 std::span<const SheetStyle> sheetStyles();
+/// How many characters the texts of a selling sheet may have.
+inline constexpr int sheetTitleLength = 50, sheetSubtitleLength = 80, sheetFreeTextLength = 200;
 
 struct Activation {
     int id, groupId;

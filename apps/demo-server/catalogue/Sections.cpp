@@ -17,7 +17,10 @@ Json sellingSheetSection(PictureBook& book) {
                           {"image", book.resource({PictureKind::sheetStyle, style.id}, style.name, 2)}});
     }
     return {
-        {"validaciones", {{"longitud_titulo", 50}, {"longitud_subtitulo", 80}, {"longitud_free_text", 200}}},
+        {"validaciones",
+         {{"longitud_titulo", sheetTitleLength},
+          {"longitud_subtitulo", sheetSubtitleLength},
+          {"longitud_free_text", sheetFreeTextLength}}},
         {"estilos", std::move(styles)}};
 }
 

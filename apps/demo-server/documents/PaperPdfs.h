@@ -7,9 +7,7 @@
 
 namespace kavor::demo {
 
-/// PDFs of the orders beside the menus, and the documents that the catalogue names.
-
-QByteArray sellingSheetPdf(const Json& order, const Catalogue& catalogue);
+/// The documents that the catalogue names.
 
 /// Recommended prices of a family.
 QByteArray priceListPdf(Family family, const Catalogue& catalogue);

@@ -5,10 +5,12 @@
 #include "documents/OrderPage.h"
 #include "documents/PaperPdfs.h"
 #include "documents/PromotionPdf.h"
+#include "documents/SheetPdf.h"
 #include "documents/TextilePdf.h"
 #include "server/DemoServer.h"
 #include "server/OrderRecords.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QSaveFile>
 
@@ -34,6 +36,13 @@ void DemoServer::addFileRoutes() {
     route("GET", R"(/img/([0-9a-f]{32})\.png)", Access::open, [this](const Call& call) {
         const auto picture = studio_.png(call.part(1));
         return picture ? bytes(*picture, "image/png") : Answer::message(404, "No existe la imagen.");
+    });
+    route("GET", "/logos/distribuidora.png", Access::open, [](const Call&) {
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        distributorLogo().save(&buffer, "PNG");
+        return bytes(png, "image/png");
     });
     route("GET", R"(/fonts/([A-Za-z0-9_.-]+))", Access::open, [](const Call& call) {
         for (const TextileFont& font : installedFonts()) {

@@ -4,6 +4,7 @@
 #include "catalogue/Dice.h"
 #include "catalogue/Posters.h"
 #include "server/SampleOrder.h"
+#include "server/SheetHistory.h"
 #include "server/Time.h"
 
 #include <algorithm>
@@ -252,6 +253,10 @@ void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account
     if (made.empty()) {
         return;
     }
+    std::vector<Order> sheets;
+    if (orders.seeds(account) == 0) {
+        sheets = pastSheets(catalogue, account);
+    }
     std::ranges::sort(made, {}, &Order::created); // an earlier order has the smaller number
     orders.database().together([&] {
         if (orders.seeds(account) == 0) {
@@ -259,6 +264,9 @@ void addHistory(Orders& orders, const Catalogue& catalogue, std::int64_t account
         }
         for (Order& order : made) {
             orders.add(order);
+        }
+        for (Order& sheet : sheets) {
+            orders.add(sheet);
         }
         orders.setSeeds(account, number);
     });

@@ -9,15 +9,6 @@
 
 namespace kavor::demo {
 
-namespace {
-
-template <typename Records>
-bool holds(const Records& records, int id) {
-    return std::ranges::any_of(records, [id](const auto& record) { return record.id == id; });
-}
-
-} // namespace
-
 void DemoServer::addMaterialRoutes() {
     route("POST", "/api/textile", Access::bearerWrite,
           [this](const Call& call) { return saveTextile(call); });
@@ -86,8 +77,8 @@ Answer DemoServer::sendSheet(const Call& call) {
     if (const Faults faults = sellingSheetFormFaults(body); !faults.empty()) {
         return refusal(faults);
     }
-    if (!holds(sheetStyles(), body["style_id"].get<int>())) {
-        return refusal({{"style_id", {"El estilo ya no está en el catálogo."}}});
+    if (const Faults faults = sellingSheetContentFaults(body, catalogue_); !faults.empty()) {
+        return refusal(faults);
     }
     if (!body.value("save", true)) {
         return Answer::json({{"url", previewUrl("sheet", body)}});

@@ -230,12 +230,6 @@ const Form activationEvent = {{"activation_id", Is::integer, true},
 const Form activation = {{"customer", Is::object, true, &activationCustomer},
                          {"activation", Is::object, true, &activationEvent}};
 
-/// Something on either side of one "@".
-bool isEmail(const std::string& text) {
-    const auto at = text.find('@');
-    return at != std::string::npos && at > 0 && at + 1 < text.size() && text.rfind('@') == at;
-}
-
 bool hasType(const Json& json, Is type) {
     switch (type) {
     case Is::integer:
@@ -346,6 +340,12 @@ QrMaterial qrOf(const Json& content) {
 }
 
 } // namespace
+
+/// Something on either side of one "@".
+bool isEmail(const std::string& text) {
+    const auto at = text.find('@');
+    return at != std::string::npos && at > 0 && at + 1 < text.size() && text.rfind('@') == at;
+}
 
 Faults brochureFormFaults(const Json& order, bool raw) {
     if (!raw) {

@@ -37,6 +37,13 @@ Faults promotionContentFaults(const Json& order);
 /// where they stand.
 void checkAttributes(const Json& attributes, const Poster& poster, const std::string& path, Faults& faults);
 
+/// What keeps a well-formed selling sheet from being printed: a style or products that left the catalogue or
+/// are not on offer, boxes or prices of 0, texts that are too long, impossible dates, addresses that are none.
+Faults sellingSheetContentFaults(const Json& order, const Catalogue& catalogue);
+
+/// Whether a text can be an address of mail.
+bool isEmail(const std::string& text);
+
 /// QR material as it is asked for: of one brand, stickers (type 1) or wooden blocks (type 2).
 struct QrMaterial {
     std::int64_t brand = 0, type = 1;

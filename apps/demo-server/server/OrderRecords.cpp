@@ -282,7 +282,10 @@ Json sellingSheetEntry(const Order& order, const std::string& baseUrl) {
     entry["id"] = order.id;
     entry["token"] = order.token;
     entry["created_at"] = wireDate(order.created);
-    entry["url_pdf"] = orderPdf(order, baseUrl);
+    entry.erase("url_pdf");
+    if (order.linked) {
+        entry["url_pdf"] = orderPdf(order, baseUrl);
+    }
     return entry;
 }
 

@@ -1,0 +1,37 @@
+#include "sellingsheets/screens/SheetListModel.h"
+
+namespace kavor {
+
+QVariant SheetListModel::data(const QModelIndex& index, int role) const {
+    const SheetListRow* row = rows_.at(index);
+    if (!row)
+        return {};
+    switch (role) {
+    case KeyRole:
+        return row->key;
+    case NameRole:
+        return row->name;
+    case TitleRole:
+        return row->title;
+    case ValidityRole:
+        return row->validity;
+    case StateRole:
+        return row->state;
+    case ModulesRole:
+        return row->modules;
+    case DateRole:
+        return row->date;
+    case ImageRole:
+        return row->image;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> SheetListModel::roleNames() const {
+    return {{KeyRole, "key"},           {NameRole, "name"},       {TitleRole, "title"},
+            {ValidityRole, "validity"}, {StateRole, "stateText"}, {ModulesRole, "modules"},
+            {DateRole, "date"},         {ImageRole, "image"}};
+}
+
+} // namespace kavor

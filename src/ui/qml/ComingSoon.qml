@@ -1,8 +1,0 @@
-import QtQuick
-
-// Stands where a step is still to come.
-EmptyState {
-    icon: "clock"
-    tone: "amber"
-    title: "Próximamente"
-}
