@@ -53,7 +53,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         y: (parent.height - picture.side) / 2 + picture.side * 0.57 // below the emblem of the brand
         visible: picture.chosen
-        width: picture.side * 0.38
+        width: picture.side * 0.43
         height: picture.side * 0.2
         largest: Math.max(9, picture.side * 0.11)
         lines: 2

@@ -35,8 +35,8 @@ Item {
         anchors.fill: parent
         visible: item.lettering.picture !== ""
         source: item.lettering.picture
+        sourceSize.width: Math.ceil(width) // made smaller smoothly
         fillMode: Image.PreserveAspectFit
         horizontalAlignment: item.horizontalAlignment === Text.AlignLeft ? Image.AlignLeft : Image.AlignHCenter
-        mipmap: true
     }
 }

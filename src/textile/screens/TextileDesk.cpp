@@ -38,6 +38,7 @@ TextileDesk::TextileDesk(const TextileServices& services, QObject* parent)
     : QObject(parent)
     , services_(services) {
     take(TextileIntermediateData::shared());
+    connect(&services_.fonts, &FontRegistry::changed, this, [this] { pictures_.clear(); });
 }
 
 TextileDesk::~TextileDesk() = default;
@@ -79,7 +80,7 @@ void TextileDesk::removeGoneArticles() {
 }
 
 QString TextileDesk::sampleText() const {
-    const QString text = fromUtf8(draft_->customizedText.value_or(""));
+    QString text = fromUtf8(draft_->customizedText.value_or(""));
     if (!text.trimmed().isEmpty())
         return text;
     const QString bar = draft_->customer ? fromUtf8(draft_->customer->name.value_or("")) : QString();
@@ -98,9 +99,19 @@ QVariantMap TextileDesk::lettering(const Textile::Typography* typography, const 
     const QString family = services_.fonts.family(name);
     map[QStringLiteral("family")] = family;
     if (family.isEmpty() && services_.fonts.isRegistered(name))
-        map[QStringLiteral("picture")] = dataImageUrl(
-            picture_text::of(services_.fonts.picture(name, text, pictureOfTextSize, QColor(ink))));
+        map[QStringLiteral("picture")] = pictureOf(name, text, ink);
     return map;
+}
+
+QString TextileDesk::pictureOf(const QString& font, const QString& text, const QString& ink) const {
+    constexpr qsizetype most = 64;
+    if (pictures_.size() > most)
+        pictures_.clear();
+    QString& picture = pictures_[{font, text, ink}];
+    if (picture.isEmpty())
+        picture = dataImageUrl(
+            picture_text::of(services_.fonts.picture(font, text, pictureOfTextSize, QColor(ink))));
+    return picture;
 }
 
 QVariantMap TextileDesk::garment(const Textile::Item* article, const Textile::Color* color) const {

@@ -5,7 +5,9 @@
 #include "textile/screens/TextileRoad.h"
 #include "textile/screens/TextileServices.h"
 
+#include <QHash>
 #include <QObject>
+#include <QStringList>
 #include <QVariantMap>
 
 #include <functional>
@@ -63,10 +65,12 @@ signals:
 
 private:
     void take(std::shared_ptr<TextileIntermediateData> draft);
+    [[nodiscard]] QString pictureOf(const QString& font, const QString& text, const QString& ink) const;
 
     TextileServices services_;
     std::shared_ptr<TextileIntermediateData> draft_;
     std::unique_ptr<TextileRoad> road_;
+    mutable QHash<QStringList, QString> pictures_; // of texts, since each takes its time
 };
 
 } // namespace kavor

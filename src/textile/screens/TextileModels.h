@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
+#include <QtQml/qqmlregistration.h>
 
 #include <vector>
 
@@ -24,8 +25,10 @@ struct TextileChoice {
 };
 
 // Roles "key", "title", "detail", "image", "colour", "lettering", "chosen".
-class TextileChoiceModel : public RowListModel {
+class TextileChoiceModel : public kavor::RowListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the step")
 public:
     using RowListModel::RowListModel;
 
@@ -52,8 +55,10 @@ struct TextileSizeRow {
 };
 
 // Roles "size", "code", "name", "units" (the text), "positive".
-class TextileSizeModel : public RowListModel {
+class TextileSizeModel : public kavor::RowListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the step")
 public:
     using RowListModel::RowListModel;
 
@@ -82,8 +87,10 @@ struct TextileCartRow {
 };
 
 // Roles "key", "title", "detail", "sizes", "units", "garment", "chosen".
-class TextileCartModel : public RowListModel {
+class TextileCartModel : public kavor::RowListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the step")
 public:
     using RowListModel::RowListModel;
 

@@ -66,8 +66,8 @@ Card {
             spacing: Theme.spaceM
 
             GarmentPicture {
-                Layout.preferredWidth: 112
-                Layout.preferredHeight: 112
+                Layout.preferredWidth: 148
+                Layout.preferredHeight: 148
                 marked: false
                 garment: row.model.garment
             }

@@ -8,6 +8,7 @@ FocusScope {
     id: view
 
     required property TextileSendingViewController controller
+    readonly property var lettering: controller.lettering
 
     objectName: "textileSend"
 
@@ -72,11 +73,11 @@ FocusScope {
                     width: parent.width
                     height: 72
                     largest: 44
-                    lettering: view.controller.lettering
+                    lettering: view.lettering
                 }
                 HelpText {
                     width: parent.width
-                    text: view.controller.lettering.text === "" ? "Todavía no hay texto." : ""
+                    text: view.lettering.text === "" ? "Todavía no hay texto." : ""
                 }
             }
             Card {

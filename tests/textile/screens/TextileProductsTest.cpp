@@ -96,8 +96,8 @@ TEST_F(TextileProducts, ReadsUnitsWithOrWithoutPointsAndAnythingElseAsZero) {
     choose("11", "1-1", "1");
     const std::pair<const char*, const char*> cases[] = {
         {"7", "M 7"},  {"12000", "M 12.000"}, {"1.200", "M 1200"}, {"abc", "M 0"},
-        {"", "M 0"},   {"12.00", "M 0"},    {"-3", "M 0"},        {"1,5", "M 0"},
-        {" 4", "M 0"}, {".200", "M 0"},     {"0012", "M 12"},     {"18446744073709551616", "M 0"}};
+        {"", "M 0"},   {"12.00", "M 0"},      {"-3", "M 0"},       {"1,5", "M 0"},
+        {" 4", "M 0"}, {".200", "M 0"},       {"0012", "M 12"},    {"18446744073709551616", "M 0"}};
     for (const auto& [typed, shown] : cases) {
         step->finishUnits(2, "9");
         step->finishUnits(2, QString::fromLatin1(typed));

@@ -94,6 +94,24 @@ TEST_F(TextileViews, AnOrderIsMadeByKeysAtEachSize) {
     }
 }
 
+TEST_F(TextileViews, AFieldThatGoesWithItsStepWritesNothingIntoTheDraftThatFollows) {
+    show(sizes[0]);
+    type("customTextTextField", "Bar Sol");
+    menu->buttonPushedAction(Menu::Reset);
+    kavor::press(alerts, QStringLiteral("Sí"));
+    EXPECT_TRUE(UiScene::waitFor([&] { return scene->value("customTextTextField", "text") == ""; }));
+    EXPECT_FALSE(draft().customizedText);
+    press("menuEntry2");
+    press("textileBrand0");
+    press("textileFormat0");
+    press("textileColor0");
+    type("sizeFieldS", "7");
+    menu->buttonPushedAction(Menu::Reset);
+    kavor::press(alerts, QStringLiteral("Sí"));
+    EXPECT_TRUE(UiScene::waitFor([&] { return !scene->isOnShow("sizeFieldS"); }));
+    EXPECT_TRUE(draft().selectedSizes.empty() && !draft().selectedBrandIdentifier);
+}
+
 TEST_F(TextileViews, ALineOfTheCartGoesByASwipeUpTheBinAndTheDeleteKey) {
     for (const QSize size : sizes) {
         fillTextile(draft());
