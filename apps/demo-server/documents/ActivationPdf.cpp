@@ -111,7 +111,7 @@ private:
 
 /// The party in a picture, its month beside it.
 void writeBand(Report& report, const Json& event, const Activation* activation, const Catalogue& catalogue) {
-    constexpr double height = 200;
+    constexpr double height = 176;
     const double half = report.width() / 2;
     if (activation) {
         drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), half, height), *activation,
@@ -267,7 +267,7 @@ QByteArray activationPdf(const Order& order, Orders& orders, const Catalogue& ca
     }
     writeContact(report, event, customer, activation);
     if (activation) {
-        report.need(90);
+        report.need(84);
         writeQuota(report, activationsMade(orders, order.account, *activation), activation->quota);
     }
     return report.finish();
