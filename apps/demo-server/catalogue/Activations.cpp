@@ -92,7 +92,7 @@ Json attributeRecords(const Activation& activation) {
 
 /// The last moment of an activation; one without months ends soon.
 std::string endOf(int monthsOpen) {
-    constexpr std::int64_t soon = 20 * 24 * 60 * 60;
+    constexpr std::int64_t day = 86400, soon = 20 * day;
     return monthsOpen > 0 ? "31-12-" + std::to_string(2030 + monthsOpen) + " 23:59:59"
                           : wireDate(startOfDay(now() + soon) - 1);
 }

@@ -57,7 +57,7 @@ FocusScope {
                 visible: view.controller.images.length > 0
                 itemWidth: Math.min(width * 0.84, 340)
                 placeholderIcon: "party"
-                model: view.controller.images.map((source) => ({ source: source, text: "" }))
+                model: view.controller.images
             }
             Card {
                 Layout.fillWidth: true

@@ -4,7 +4,7 @@
 #include "activations/screens/ActivationServices.h"
 #include "screens/ScreenController.h"
 
-#include <QStringList>
+#include <QVariantList>
 
 #include <optional>
 #include <vector>
@@ -24,7 +24,8 @@ class ActivationElementsSelectionViewController : public kavor::ScreenController
     Q_PROPERTY(QString noticeLabel READ noticeLabel CONSTANT)
     // When it is on offer; empty for one that always is.
     Q_PROPERTY(QString availabilityLabel READ availabilityLabel CONSTANT)
-    Q_PROPERTY(QStringList images READ images CONSTANT)
+    // {source, text} each, by position.
+    Q_PROPERTY(QVariantList images READ images CONSTANT)
     Q_PROPERTY(kavor::ActivationItemModel* items READ items CONSTANT)
     // "3 de 4 elementos"
     Q_PROPERTY(QString countText READ countText NOTIFY selectionChanged)
@@ -57,7 +58,7 @@ public:
     [[nodiscard]] QString agencyDescription() const;
     [[nodiscard]] QString noticeLabel() const;
     [[nodiscard]] QString availabilityLabel() const;
-    [[nodiscard]] QStringList images() const;
+    [[nodiscard]] QVariantList images() const;
     [[nodiscard]] ActivationItemModel* items() { return &items_; }
     [[nodiscard]] const std::vector<bool>& selectedItems() const { return selectedItems_; }
     [[nodiscard]] QString countText() const;
