@@ -76,6 +76,7 @@ FocusScope {
                     objectName: "quotaRing"
                     total: view.controller.quota
                     made: view.controller.numberMade
+                    text: view.controller.remainingText
                 }
                 DetailRow { width: parent.width; icon: "clock"; label: "Antelación"; text: view.controller.noticeLabel }
                 DetailRow {

@@ -127,6 +127,10 @@ int ActivationElementsSelectionViewController::numberMade() const {
     return shownCount(ActivationMemory::shared().quotas.of(selectedActivation_).numberMade);
 }
 
+QString ActivationElementsSelectionViewController::remainingText() const {
+    return quotaText(ActivationMemory::shared().quotas.of(selectedActivation_));
+}
+
 QString ActivationElementsSelectionViewController::tieText() const {
     if (!route_.tie || !route_.tie->extraOrderInformation.activationInfo.otherActivationRelationIdentifier)
         return {};

@@ -31,6 +31,7 @@ class ActivationElementsSelectionViewController : public kavor::ScreenController
     Q_PROPERTY(QString countText READ countText NOTIFY selectionChanged)
     Q_PROPERTY(int quota READ quota NOTIFY quotaChanged)
     Q_PROPERTY(int numberMade READ numberMade NOTIFY quotaChanged)
+    Q_PROPERTY(QString remainingText READ remainingText NOTIFY quotaChanged)
     Q_PROPERTY(bool detailVisible READ isDetailVisible CONSTANT)
     // That the order is tied to another one; empty otherwise.
     Q_PROPERTY(QString tieText READ tieText CONSTANT)
@@ -64,6 +65,7 @@ public:
     [[nodiscard]] QString countText() const;
     [[nodiscard]] int quota() const;
     [[nodiscard]] int numberMade() const;
+    [[nodiscard]] QString remainingText() const;
     [[nodiscard]] bool isDetailVisible() const { return selectedActivation_.detailsPDF.has_value(); }
     [[nodiscard]] QString tieText() const;
     [[nodiscard]] bool isOffline() const;

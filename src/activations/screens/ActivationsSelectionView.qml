@@ -122,6 +122,7 @@ FocusScope {
                 visible: view.chosen
                 total: view.controller.quota
                 made: view.controller.numberMade
+                text: view.controller.remainingText
             }
             AppButton {
                 objectName: "nextButton"
