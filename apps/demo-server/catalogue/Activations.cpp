@@ -10,8 +10,10 @@ namespace kavor::demo {
 
 std::vector<ActivationElement> elementsOf(const Activation& activation) {
     constexpr std::array names = {"Vasos serigrafiados", "Mantelillos", "Camisetas de sorteo", "Guirnalda"};
+    const int number = 2 + activation.id % 3;
     std::vector<ActivationElement> elements;
-    for (int i = 0; i < 2 + activation.id % 3; ++i) {
+    elements.reserve(size_t(number));
+    for (int i = 0; i < number; ++i) {
         elements.push_back({activation.id * 100 + i + 1, i, names[size_t(i)], i == 0});
     }
     return elements;

@@ -91,8 +91,8 @@ private:
     void drawDay(QDate day, QDate first, const Theme& theme) {
         const double side = (area_.width() - 20) / 7, height = (area_.height() - 44) / 6;
         const int cell = day.day() - 1 + first.dayOfWeek() - 1;
-        const QRectF box(area_.left() + 10 + cell % 7 * side, area_.top() + 38 + cell / 7 * height, side,
-                         height);
+        const int week = cell / 7;
+        const QRectF box(area_.left() + 10 + cell % 7 * side, area_.top() + 38 + week * height, side, height);
         const bool chosen = day == day_;
         if (chosen) {
             const double radius = std::min(side, height) / 2;
