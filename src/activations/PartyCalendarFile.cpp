@@ -61,8 +61,8 @@ std::optional<LocalDateTime> momentOf(const std::string& day, const std::string&
 
 LocalDateTime nextDay(const LocalDateTime& at) {
     LocalDateTime noon = at;
-    noon.hour = 12; // a change of the clocks moves no day
-    constexpr std::time_t day = 24 * 60 * 60;
+    noon.hour = 12;                    // a change of the clocks moves no day
+    constexpr std::time_t day = 86400; // seconds
     LocalDateTime next = LocalDateTime::fromTime(noon.toTime() + day);
     next.hour = at.hour;
     next.minute = at.minute;

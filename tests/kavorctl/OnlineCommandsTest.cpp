@@ -157,6 +157,27 @@ TEST_F(OnlineCommandsTest, ShowsTheProfileAndSendsSuggestionsAndClaims) {
     EXPECT_EQ(server.requestsTo("/api/orders/claim").size(), 1);
 }
 
+TEST_F(OnlineCommandsTest, SendsAnActivationUnderTheKeyOfItsIntentAndTellsTheQuotas) {
+    ASSERT_EQ(logIn().status, ctl::fine);
+    folder.put("party.json", R"({"customer":{"name":"Bar Sol","full_address":"Mayor 1"},"activation":)"
+                             R"({"activation_id":1,"date_event":"","time_from":"-","time_to":"-"}})");
+    server.answer("/api/activations", ScriptedAnswer::json(R"({"order_id":7,"number_made":2})"));
+    const std::vector<std::string> send{"activation", "send", folder / "party.json", "--intent", "fiesta"};
+    EXPECT_EQ(online(send).out, "{\n  \"number_made\": 2,\n  \"order_id\": 7\n}\n");
+    EXPECT_EQ(online(send).status, ctl::fine);
+    const auto sent = server.requestsTo("/api/activations");
+    ASSERT_EQ(sent.size(), 2);
+    EXPECT_FALSE(sent[0].header("idempotency-key").isEmpty());
+    EXPECT_EQ(sent[0].header("idempotency-key"), sent[1].header("idempotency-key"));
+    server.answer("/api/activations/quota",
+                  ScriptedAnswer::json(R"({"activations":[{"id":1,"quota":4,"number_made":2}]})"));
+    EXPECT_NE(online({"activation", "quotas"}).out.find("\"quota\": 4"), std::string::npos);
+    server.answer("/api/activations/quota", ScriptedAnswer::json(R"({"activations":[{"id":1}]})"));
+    const Outcome wrong = online({"activation", "quotas"});
+    EXPECT_EQ(wrong.status, ctl::requestFailed);
+    EXPECT_EQ(wrong.err.find("No se puede obtener información del cupo"), 0U) << wrong.err;
+}
+
 TEST_F(OnlineCommandsTest, KeepsTheTokenOfARepairForTheNextProcess) {
     ASSERT_EQ(logIn().status, ctl::fine);
     server.answer("/api/login", ScriptedAnswer::json(R"({"msg":"ok","token":"T2"})"));

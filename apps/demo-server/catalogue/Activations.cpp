@@ -10,8 +10,10 @@ namespace kavor::demo {
 
 std::vector<ActivationElement> elementsOf(const Activation& activation) {
     constexpr std::array names = {"Vasos serigrafiados", "Mantelillos", "Camisetas de sorteo", "Guirnalda"};
+    const int number = 2 + activation.id % 3;
     std::vector<ActivationElement> elements;
-    for (int i = 0; i < 2 + activation.id % 3; ++i) {
+    elements.reserve(size_t(number));
+    for (int i = 0; i < number; ++i) {
         elements.push_back({activation.id * 100 + i + 1, i, names[size_t(i)], i == 0});
     }
     return elements;
@@ -92,7 +94,7 @@ Json attributeRecords(const Activation& activation) {
 
 /// The last moment of an activation; one without months ends soon.
 std::string endOf(int monthsOpen) {
-    constexpr std::int64_t soon = 20 * 24 * 60 * 60;
+    constexpr std::int64_t day = 86400, soon = 20 * day;
     return monthsOpen > 0 ? "31-12-" + std::to_string(2030 + monthsOpen) + " 23:59:59"
                           : wireDate(startOfDay(now() + soon) - 1);
 }

@@ -91,8 +91,8 @@ private:
     void drawDay(QDate day, QDate first, const Theme& theme) {
         const double side = (area_.width() - 20) / 7, height = (area_.height() - 44) / 6;
         const int cell = day.day() - 1 + first.dayOfWeek() - 1;
-        const QRectF box(area_.left() + 10 + cell % 7 * side, area_.top() + 38 + cell / 7 * height, side,
-                         height);
+        const int week = cell / 7;
+        const QRectF box(area_.left() + 10 + cell % 7 * side, area_.top() + 38 + week * height, side, height);
         const bool chosen = day == day_;
         if (chosen) {
             const double radius = std::min(side, height) / 2;
@@ -111,7 +111,7 @@ private:
 
 /// The party in a picture, its month beside it.
 void writeBand(Report& report, const Json& event, const Activation* activation, const Catalogue& catalogue) {
-    constexpr double height = 200;
+    constexpr double height = 176;
     const double half = report.width() / 2;
     if (activation) {
         drawActivationScene(report.painter(), QRectF(Report::margin, report.y(), half, height), *activation,
@@ -267,7 +267,7 @@ QByteArray activationPdf(const Order& order, Orders& orders, const Catalogue& ca
     }
     writeContact(report, event, customer, activation);
     if (activation) {
-        report.need(90);
+        report.need(84);
         writeQuota(report, activationsMade(orders, order.account, *activation), activation->quota);
     }
     return report.finish();

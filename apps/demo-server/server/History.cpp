@@ -201,7 +201,7 @@ Order party(int activationId, int daysAhead, const Bar& bar, const char* from, c
                                         : question.regex     ? "120"
                                                              : bar.contact}});
     }
-    constexpr std::int64_t day = 24 * 60 * 60;
+    constexpr std::int64_t day = 86400; // seconds
     Order order;
     order.kind = "activation";
     order.type = 9;

@@ -11,7 +11,7 @@ namespace kavor {
 
 // The attributes that an activation asks for: a row each, in the order of the catalogue, with the roles
 // "label", "value", "help", "required" and "hints" (input method).
-class ActivationAttributeModel : public RowListModel {
+class ActivationAttributeModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the form of an activation")

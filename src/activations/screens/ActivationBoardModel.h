@@ -37,7 +37,7 @@ struct BoardControl {
 
 // The controls of a board, which is as large as the largest right and lower edge of all of them. A row each;
 // places are in the board's own units.
-class ActivationBoardModel : public RowListModel {
+class ActivationBoardModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the screen")

@@ -57,7 +57,7 @@ FocusScope {
                 visible: view.controller.images.length > 0
                 itemWidth: Math.min(width * 0.84, 340)
                 placeholderIcon: "party"
-                model: view.controller.images.map((source) => ({ source: source, text: "" }))
+                model: view.controller.images
             }
             Card {
                 Layout.fillWidth: true
@@ -76,6 +76,7 @@ FocusScope {
                     objectName: "quotaRing"
                     total: view.controller.quota
                     made: view.controller.numberMade
+                    text: view.controller.remainingText
                 }
                 DetailRow { width: parent.width; icon: "clock"; label: "Antelación"; text: view.controller.noticeLabel }
                 DetailRow {

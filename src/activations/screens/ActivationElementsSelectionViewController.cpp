@@ -107,8 +107,11 @@ QString ActivationElementsSelectionViewController::availabilityLabel() const {
     return availabilityText(selectedActivation_);
 }
 
-QStringList ActivationElementsSelectionViewController::images() const {
-    return picturesOf(selectedActivation_.imagesList);
+QVariantList ActivationElementsSelectionViewController::images() const {
+    QVariantList entries;
+    for (const QString& source : picturesOf(selectedActivation_.imagesList))
+        entries << QVariantMap{{QStringLiteral("source"), source}, {QStringLiteral("text"), QString()}};
+    return entries;
 }
 
 QString ActivationElementsSelectionViewController::countText() const {
@@ -122,6 +125,10 @@ int ActivationElementsSelectionViewController::quota() const {
 
 int ActivationElementsSelectionViewController::numberMade() const {
     return shownCount(ActivationMemory::shared().quotas.of(selectedActivation_).numberMade);
+}
+
+QString ActivationElementsSelectionViewController::remainingText() const {
+    return quotaText(ActivationMemory::shared().quotas.of(selectedActivation_));
 }
 
 QString ActivationElementsSelectionViewController::tieText() const {

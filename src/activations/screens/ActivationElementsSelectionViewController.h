@@ -4,7 +4,7 @@
 #include "activations/screens/ActivationServices.h"
 #include "screens/ScreenController.h"
 
-#include <QStringList>
+#include <QVariantList>
 
 #include <optional>
 #include <vector>
@@ -24,12 +24,14 @@ class ActivationElementsSelectionViewController : public kavor::ScreenController
     Q_PROPERTY(QString noticeLabel READ noticeLabel CONSTANT)
     // When it is on offer; empty for one that always is.
     Q_PROPERTY(QString availabilityLabel READ availabilityLabel CONSTANT)
-    Q_PROPERTY(QStringList images READ images CONSTANT)
+    // {source, text} each, by position.
+    Q_PROPERTY(QVariantList images READ images CONSTANT)
     Q_PROPERTY(kavor::ActivationItemModel* items READ items CONSTANT)
     // "3 de 4 elementos"
     Q_PROPERTY(QString countText READ countText NOTIFY selectionChanged)
     Q_PROPERTY(int quota READ quota NOTIFY quotaChanged)
     Q_PROPERTY(int numberMade READ numberMade NOTIFY quotaChanged)
+    Q_PROPERTY(QString remainingText READ remainingText NOTIFY quotaChanged)
     Q_PROPERTY(bool detailVisible READ isDetailVisible CONSTANT)
     // That the order is tied to another one; empty otherwise.
     Q_PROPERTY(QString tieText READ tieText CONSTANT)
@@ -57,12 +59,13 @@ public:
     [[nodiscard]] QString agencyDescription() const;
     [[nodiscard]] QString noticeLabel() const;
     [[nodiscard]] QString availabilityLabel() const;
-    [[nodiscard]] QStringList images() const;
+    [[nodiscard]] QVariantList images() const;
     [[nodiscard]] ActivationItemModel* items() { return &items_; }
     [[nodiscard]] const std::vector<bool>& selectedItems() const { return selectedItems_; }
     [[nodiscard]] QString countText() const;
     [[nodiscard]] int quota() const;
     [[nodiscard]] int numberMade() const;
+    [[nodiscard]] QString remainingText() const;
     [[nodiscard]] bool isDetailVisible() const { return selectedActivation_.detailsPDF.has_value(); }
     [[nodiscard]] QString tieText() const;
     [[nodiscard]] bool isOffline() const;

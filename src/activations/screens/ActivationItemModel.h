@@ -9,7 +9,7 @@ namespace kavor {
 
 // The elements of an activation as cards: a row each, in the order of the catalogue, with the roles "name",
 // "description", "source" (the first picture), "required" and "selected".
-class ActivationItemModel : public RowListModel {
+class ActivationItemModel : public kavor::RowListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the screen")

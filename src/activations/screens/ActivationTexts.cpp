@@ -31,6 +31,13 @@ QString noticeText(Int days) {
                      : QStringLiteral("%1 días de antelación").arg(days);
 }
 
+QString quotaText(const ActivationQuota& quota) {
+    const Int remaining = quota.remaining();
+    if (remaining == 0)
+        return QStringLiteral("sin cupo");
+    return remaining == 1 ? QStringLiteral("queda 1") : QStringLiteral("quedan %1").arg(remaining);
+}
+
 QString availabilityText(const ActivationInformation& activation) {
     if (activation.dateFrom && activation.dateTo)
         return QStringLiteral("Del %1 al %2").arg(longDay(*activation.dateFrom), longDay(*activation.dateTo));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activations/ActivationMemory.h"
 #include "catalogue/ActivationsInformation.h"
 
 #include <QDate>
@@ -19,6 +20,8 @@ class AlertPresenter;
 
 // "Sin antelación", "1 día de antelación", "10 días de antelación".
 QString noticeText(Int days);
+// "sin cupo", "queda 1", "quedan 2".
+QString quotaText(const ActivationQuota& quota);
 // When an activation is on offer: "Del 1 de diciembre de 2026 al ...", "Desde el ...", "Hasta el ..."; empty
 // for one that always is.
 QString availabilityText(const ActivationInformation& activation);

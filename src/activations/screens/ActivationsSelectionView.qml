@@ -21,8 +21,8 @@ FocusScope {
     }
     ResourceImage { // the brand's own ground
         anchors.top: bar.bottom
-        anchors.bottom: actions.top
         width: parent.width
+        height: Math.max(view.height - bar.height - actions.height, width * 0.7) // its upper part at least
         visible: view.controller.background !== "" && ready
         source: view.controller.background
         radius: 0
@@ -122,6 +122,7 @@ FocusScope {
                 visible: view.chosen
                 total: view.controller.quota
                 made: view.controller.numberMade
+                text: view.controller.remainingText
             }
             AppButton {
                 objectName: "nextButton"

@@ -149,6 +149,10 @@ int ActivationsSelectionViewController::numberMade() const {
     return shownCount(selectedQuota().numberMade);
 }
 
+QString ActivationsSelectionViewController::remainingText() const {
+    return quotaText(selectedQuota());
+}
+
 QString ActivationsSelectionViewController::emptyText() const {
     return presentButtons_.count() > 0 ? QString()
                                        : QStringLiteral("Esta marca no tiene activaciones por ahora.");

@@ -26,6 +26,7 @@ class ActivationsSelectionViewController : public kavor::ScreenController {
     Q_PROPERTY(QString selectedNotice READ selectedNotice NOTIFY selectionChanged)
     Q_PROPERTY(int quota READ quota NOTIFY selectionChanged)
     Q_PROPERTY(int numberMade READ numberMade NOTIFY selectionChanged)
+    Q_PROPERTY(QString remainingText READ remainingText NOTIFY selectionChanged)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
     Q_PROPERTY(kavor::VeilState* veil READ veil CONSTANT)
     Q_PROPERTY(bool offline READ isOffline NOTIFY offlineChanged)
@@ -54,6 +55,7 @@ public:
     [[nodiscard]] QString selectedNotice() const;
     [[nodiscard]] int quota() const;
     [[nodiscard]] int numberMade() const;
+    [[nodiscard]] QString remainingText() const;
     [[nodiscard]] QString emptyText() const;
     [[nodiscard]] VeilState* veil() { return &veil_; }
     [[nodiscard]] bool isOffline() const;

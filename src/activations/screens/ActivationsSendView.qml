@@ -119,6 +119,7 @@ FocusScope {
                             side: 56
                             total: view.controller.quota
                             made: view.controller.numberMade
+                            text: view.controller.remainingText
                         }
                         HelpText { width: parent.width; text: view.controller.itemsText }
                     }

@@ -365,6 +365,10 @@ int ActivationsSendViewController::numberMade() const {
     return shownCount(ActivationMemory::shared().quotas.of(selectedActivation_).numberMade);
 }
 
+QString ActivationsSendViewController::remainingText() const {
+    return quotaText(ActivationMemory::shared().quotas.of(selectedActivation_));
+}
+
 QString ActivationsSendViewController::codeNote() const {
     if (form_.code.empty() || road_->orderToSend().customer.cobrixCode)
         return {};

@@ -33,6 +33,7 @@ class ActivationsSendViewController : public kavor::ScreenController {
     Q_PROPERTY(QString itemsText READ itemsText CONSTANT)
     Q_PROPERTY(int quota READ quota NOTIFY sentChanged)
     Q_PROPERTY(int numberMade READ numberMade NOTIFY sentChanged)
+    Q_PROPERTY(QString remainingText READ remainingText NOTIFY sentChanged)
     Q_PROPERTY(kavor::PartyCalendar* calendar READ calendar CONSTANT)
     Q_PROPERTY(kavor::PartyHours* hours READ hours CONSTANT)
     Q_PROPERTY(kavor::PointOfSaleForm* customer READ customer CONSTANT)
@@ -89,6 +90,7 @@ public:
     [[nodiscard]] QString itemsText() const;
     [[nodiscard]] int quota() const;
     [[nodiscard]] int numberMade() const;
+    [[nodiscard]] QString remainingText() const;
     [[nodiscard]] PartyCalendar* calendar() { return &calendar_; }
     [[nodiscard]] PartyHours* hours() { return &hours_; }
     [[nodiscard]] PointOfSaleForm* customer() { return &customer_; }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Shapes
 import Kavor.Ui
 
-// A quota as a ring that fills up, with what is left of it in words.
+// A quota as a ring that fills up, beside it a text that says what is left.
 Row {
     id: quota
 
@@ -10,8 +10,8 @@ Row {
     property int made: 0
     property int side: 64
     property bool inverse: false
-    readonly property int remaining: Math.max(0, total - made)
-    readonly property string text: remaining === 0 ? "sin cupo" : remaining === 1 ? "queda 1" : "quedan " + remaining
+    readonly property bool full: made >= total
+    property string text: ""
 
     spacing: Theme.spaceM
 
@@ -46,7 +46,7 @@ Row {
             }
             ShapePath {
                 strokeWidth: ring.line
-                strokeColor: ring.sweep <= 0 ? "transparent" : quota.remaining === 0 ? Theme.danger : Theme.amber
+                strokeColor: ring.sweep <= 0 ? "transparent" : quota.full ? Theme.danger : Theme.amber
                 fillColor: "transparent"
                 capStyle: ShapePath.RoundCap
 
@@ -73,7 +73,7 @@ Row {
         objectName: "quotaText"
         anchors.verticalCenter: parent.verticalCenter
         text: quota.text
-        color: quota.inverse ? Theme.inverseInk : quota.remaining === 0 ? Theme.dangerDark : Theme.ink
+        color: quota.inverse ? Theme.inverseInk : quota.full ? Theme.dangerDark : Theme.ink
         font.family: Theme.fontFamily
         font.pixelSize: Theme.fontLarge
         font.weight: Font.Medium

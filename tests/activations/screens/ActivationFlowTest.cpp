@@ -64,6 +64,8 @@ TEST_F(ActivationFlow, QuotasAreThoseOfTheServerOrTheCataloguesWithAWord) {
     EXPECT_EQ(badge(0), "4/4");
     EXPECT_FALSE(choice().presentButtons()->controls()[0].badge->hasRoom);
     EXPECT_EQ(badge(1), "2/2");
+    choice().selectActivation(21);
+    EXPECT_EQ(choice().remainingText(), "sin cupo");
     choice().closeSceneAction();
     brands().selectBrand(2); // straight to the elements, with the number that the server said
     EXPECT_EQ(told(), fullSentence);
