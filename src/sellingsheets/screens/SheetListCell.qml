@@ -106,7 +106,7 @@ Tappable {
 
                 Text {
                     Layout.fillWidth: true
-                    text: cell.date
+                    text: Theme.compact && cell.draft ? "" : cell.date // no room beside all buttons
                     color: Theme.mutedInk
                     elide: Text.ElideRight
                     font.family: Theme.fontFamily
