@@ -116,7 +116,7 @@ Item {
             }
             Text {
                 width: parent.width
-                text: [paper.page.taxes, paper.page.pages].filter(each => each !== "").join(" · ")
+                text: paper.page.foot
                 color: Theme.mutedInk
                 horizontalAlignment: Text.AlignHCenter
                 font.family: Theme.fontFamily
