@@ -134,6 +134,8 @@ std::vector<Tour::Step> Tour::steps() const {
         return orders;
     case Story::Sheets:
         return sheets;
+    case Story::SheetsAgain:
+        return {{"panel", &Tour::openDashboard}, {"hoja", &Tour::findSheetAgain}};
     default:
         return sendingSteps();
     }

@@ -30,6 +30,7 @@ public:
         EveryKind,      // orders one brochure of every kind, with all that the kind has
         Orders,         // goes through the corners of the list of orders
         Sheets,         // makes, sends, copies and deletes selling sheets
+        SheetsAgain,    // a new start after that one died over a sheet
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -63,6 +64,7 @@ private:
 
     void startServer();
     void openClient();
+    void openDashboard();
     void start();
     void startAgain();
     void startWithWrongPassword();
@@ -116,6 +118,7 @@ private:
     void sendSheet();
     void checkSheet();
     void deleteSheets();
+    void findSheetAgain();
     void showSheets(bool ofServer);
     // The sheets of the server, those of the history included.
     [[nodiscard]] QJsonArray serverSheets() const;

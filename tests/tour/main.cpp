@@ -27,6 +27,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
         return Story::Orders;
     if (parser.isSet("sheets"))
         return Story::Sheets;
+    if (parser.isSet("sheets-again"))
+        return Story::SheetsAgain;
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -43,6 +45,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //                                      steps instead; their bodies and PDFs go to DIR
 //   --orders                           the corners of the list of orders instead
 //   --sheets                           selling sheets instead; the PDF of one goes to DIR
+//   --sheets-again                     a new start after that one died over a sheet: it comes back
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
 //   --window                           in a real window that a thread of its own draws, as users have it
@@ -75,6 +78,7 @@ int main(int argc, char* argv[]) {
                        {"every-kind", {}},
                        {"orders", {}},
                        {"sheets", {}},
+                       {"sheets-again", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);
