@@ -76,7 +76,7 @@ QString productImage(const Catalogue& catalogue, Int product) {
         return {};
     for (const auto* picture :
          {&found.format->bottleBoxImage, &found.format->image, &found.format->imageThumb}) {
-        if (const QString source = resourceImageUrl(*picture); !source.isEmpty())
+        if (QString source = resourceImageUrl(*picture); !source.isEmpty())
             return source;
     }
     return {};
