@@ -1,7 +1,9 @@
 #include "RoundTrip.h"
 #include "catalogue/Catalogue.h"
 #include "orders/list/DraftOrderRows.h"
-#include "sellingsheets/SellingSheetOrder.h"
+#include "sellingsheets/SheetModules.h"
+#include "sellingsheets/SheetRules.h"
+#include "sellingsheets/UnfinishedSheet.h"
 #include "session/LoginResult.h"
 
 #include <algorithm>
@@ -63,8 +65,27 @@ bool login(std::string_view document) {
     return roundTrip<LoginResult>(document).has_value();
 }
 
+// A sheet, or one in work with the name of its draft.
 bool sellingSheetOrder(std::string_view document) {
-    return roundTrip<SellingSheetOrder>(document).has_value();
+    if (roundTrip<SheetInWork>(document))
+        return true;
+    const auto sheet = roundTrip<SellingSheetOrder>(document);
+    if (!sheet)
+        return false;
+    static const Catalogue catalogue = [] {
+        ApplicationInformation information;
+        information.sellingSheet = SellingSheet();
+        return Catalogue(std::move(information));
+    }();
+    const std::string messages = validationText(*sheet, catalogue);
+    if (!messages.empty() && messages.back() != '\n')
+        fail("each message ends with a line feed");
+    if (validationText(copyOf(*sheet), catalogue).size() > messages.size())
+        fail("a copy lacks no more than its sheet");
+    const Int next = nextModuleIdentifier(sheet->items);
+    if (std::ranges::find(sheet->items, next, &SellingSheetOrder::Item::identifier) != sheet->items.end())
+        fail("a new module has a number of its own");
+    return true;
 }
 
 bool orderList(std::string_view document) {

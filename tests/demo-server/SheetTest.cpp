@@ -140,7 +140,10 @@ TEST(SheetsOfTheHistory, AreOfEverySort) {
         }
         Json again = sheet; // as a client asks for its preview
         again["save"] = false;
-        EXPECT_EQ(server.post("/api/sheets", again).status, 200);
+        const auto answer = server.post("/api/sheets", again);
+        ASSERT_EQ(answer.status, 200) << answer.text;
+        const int pages = ReadPdf(pdfAt(server, answer.json["url"])).pages();
+        EXPECT_EQ(pages, sheet["show_one_module_per_page"].get<bool>() ? int(sheet["items"].size()) : 1);
     }
     EXPECT_TRUE(withLogo == 1 && withoutPdf == 1 && onePerPage == 1);
 }

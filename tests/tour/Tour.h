@@ -33,6 +33,7 @@ public:
         Events,         // orders parties, one tied to the other, and the last of a quota
         Textile,        // orders clothing, with and without a network
         Sheets,         // makes, sends, copies and deletes selling sheets
+        SheetsAgain,    // a new start after that one died over a sheet
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
         SendAgain       // and another one: nothing stands in the way any more
@@ -66,6 +67,7 @@ private:
 
     void startServer();
     void openClient();
+    void openDashboard();
     void start();
     void startAgain();
     void startWithWrongPassword();
@@ -142,6 +144,7 @@ private:
     void sendSheet();
     void checkSheet();
     void deleteSheets();
+    void findSheetAgain();
     void showSheets(bool ofServer);
     // The sheets of the server, those of the history included.
     [[nodiscard]] QJsonArray serverSheets() const;

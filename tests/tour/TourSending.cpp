@@ -150,12 +150,17 @@ void Tour::dieBeforeTheAnswer() {
 }
 
 void Tour::startAgain() {
+    openDashboard();
+    must(printedOrders().size() == 1, QStringLiteral("the server has the order of the last start"));
+}
+
+// Of one who is logged in since the last start.
+void Tour::openDashboard() {
     openClient();
     touch_->await(QStringLiteral("notificationsFrameView")); // they come with the catalogue
     touch_->awaitGone(QStringLiteral("progressVeilView"));
     touch_->tap(QStringLiteral("dismissNotificationsButton"));
     touch_->awaitGone(QStringLiteral("notificationsFrameView"));
-    must(printedOrders().size() == 1, QStringLiteral("the server has the order of the last start"));
 }
 
 // The answer is lost, it comes the next time, and the file cannot go.

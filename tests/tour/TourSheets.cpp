@@ -137,6 +137,21 @@ void Tour::addModules() {
     touch_->await(QStringLiteral("modulesAction"));
 }
 
+// What was in work comes back by itself, with all that was entered.
+void Tour::findSheetAgain() {
+    openSection(sellingSheets);
+    touch_->await(QStringLiteral("sheetDataView"));
+    touch_->waitUntil(QStringLiteral("the word of its return"), [&] {
+        return touch_->allTexts().contains(QStringLiteral("Se ha recuperado la hoja en curso"));
+    });
+    must(touch_->text(QStringLiteral("titleTextField")) == QLatin1String("Verano en Haro"),
+         touch_->allTexts());
+    must(touch_->allTexts().contains(QStringLiteral("2 módulos")), touch_->allTexts());
+    touch_->tap(QStringLiteral("saveSheetAction"));
+    touch_->await(drafts + QStringLiteral("List|sendSheet"));
+    must(touch_->allTexts().contains(QStringLiteral("Terraza de Bar Haro")), touch_->allTexts());
+}
+
 void Tour::previewSheet() {
     touch_->tap(QStringLiteral("previewSheetAction"));
     touch_->await(QStringLiteral("webPreview"));

@@ -31,6 +31,8 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
         return Story::Textile;
     if (parser.isSet("sheets"))
         return Story::Sheets;
+    if (parser.isSet("sheets-again"))
+        return Story::SheetsAgain;
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -49,6 +51,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //   --events                           parties instead
 //   --textile                          an order of clothing, with and without a network, instead
 //   --sheets                           selling sheets instead; the PDF of one goes to DIR
+//   --sheets-again                     a new start after that one died over a sheet: it comes back
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
 //   --window                           in a real window that a thread of its own draws, as users have it
@@ -83,6 +86,7 @@ int main(int argc, char* argv[]) {
                        {"events", {}},
                        {"textile", {}},
                        {"sheets", {}},
+                       {"sheets-again", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);

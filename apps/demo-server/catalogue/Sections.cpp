@@ -16,12 +16,11 @@ Json sellingSheetSection(PictureBook& book) {
                           {"position", style.id},
                           {"image", book.resource({PictureKind::sheetStyle, style.id}, style.name, 2)}});
     }
-    return {
-        {"validaciones",
-         {{"longitud_titulo", sheetTitleLength},
-          {"longitud_subtitulo", sheetSubtitleLength},
-          {"longitud_free_text", sheetFreeTextLength}}},
-        {"estilos", std::move(styles)}};
+    return {{"validaciones",
+             {{"longitud_titulo", sheetTitleLength},
+              {"longitud_subtitulo", sheetSubtitleLength},
+              {"longitud_free_text", sheetFreeTextLength}}},
+            {"estilos", std::move(styles)}};
 }
 
 std::vector<TextileFont> installedFonts() {

@@ -62,15 +62,15 @@ public:
     QByteArray make() {
         beginPage();
         const bool onePerPage = order_["show_one_module_per_page"].get<bool>();
+        const double height = onePerPage ? bottom() - y_ - 12 : heightOfModules();
         bool first = true;
         for (const Json& module : order_["items"]) {
-            const double height = onePerPage ? bottom() - y_ - 12 : 176;
             if (!first && (onePerPage || y_ + height > bottom())) {
                 sheet_.newPage();
                 beginPage();
             }
             first = false;
-            drawModule(module, QRectF(edge, y_, width(), onePerPage ? bottom() - y_ - 12 : height));
+            drawModule(module, QRectF(edge, y_, width(), height));
             y_ += height + 14;
         }
         if (order_["items"].empty()) {
@@ -94,6 +94,14 @@ private:
     /// Where the modules of a page end; a free text stands above the foot.
     double bottom() const {
         return sheet_.page().height() - footHeight - (member(order_, "free_text").isEmpty() ? 12 : 78);
+    }
+
+    /// Few modules share the page; of many, as many as fit.
+    double heightOfModules() const {
+        constexpr double least = 176, most = 236, head = 204;
+        const double room = bottom() - head;
+        const auto count = double(order_["items"].size());
+        return count == 1 ? room - 12 : std::clamp(room / count - 14, least, most);
     }
 
     void beginPage() {
@@ -170,7 +178,8 @@ private:
         const auto second = goods(module, "product2_id", "product2_box");
         const bool large = card.height() > 300;
         const double scale = large ? 1.9 : 1;
-        const double side = large ? std::min((card.width() - 100) / 2, card.height() * 0.45) : 140;
+        const double side = large ? std::min((card.width() - 100) / 2, card.height() * 0.45)
+                                  : std::min(card.height() - 36, second ? 156.0 : 200.0);
         double x = large ? card.center().x() - (second ? side + 24 : side / 2) : card.left() + 14;
         const double top = large ? card.top() + 40 : card.top() + (card.height() - side) / 2;
         for (const auto& each : {first, second}) {

@@ -38,7 +38,8 @@ Faults promotionContentFaults(const Json& order);
 void checkAttributes(const Json& attributes, const Poster& poster, const std::string& path, Faults& faults);
 
 /// What keeps a well-formed selling sheet from being printed: a style or products that left the catalogue or
-/// are not on offer, boxes or prices of 0, texts that are too long, impossible dates, addresses that are none.
+/// are not on offer, boxes or prices of 0, texts that are too long, impossible dates, addresses that are
+/// none.
 Faults sellingSheetContentFaults(const Json& order, const Catalogue& catalogue);
 
 /// Whether a text can be an address of mail.

@@ -6,7 +6,7 @@ namespace kavor::demo {
 
 namespace {
 
-constexpr std::int64_t day = 24 * 60 * 60;
+constexpr std::int64_t hour = 3600, day = 24 * hour; ///< seconds
 
 /// "yyyy-MM-dd", so many days from today on.
 std::string dayFromNow(int days) {
@@ -50,7 +50,7 @@ Order sheet(std::int64_t account, int daysAgo, Json body) {
     order.account = account;
     order.kind = "sheet";
     order.type = 7;
-    order.created = startOfDay(now() - daysAgo * day) + 11 * 60 * 60;
+    order.created = startOfDay(now() - daysAgo * day) + 11 * hour;
     order.filename = body["name_order"].get<std::string>();
     order.seeded = true;
     order.body = std::move(body);

@@ -45,6 +45,7 @@ QString buttonText(const std::string& stored) {
 
 std::vector<std::string> emailsOf(const SellingSheetOrder& order) {
     std::vector<std::string> emails;
+    emails.reserve(emailMembers.size());
     for (const auto member : emailMembers)
         emails.push_back((order.*member).value_or(""));
     return emails;

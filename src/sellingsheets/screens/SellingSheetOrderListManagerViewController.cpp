@@ -35,6 +35,10 @@ QVariantMap emptyState(const char* icon, const char* title, const char* text, co
             {QStringLiteral("action"), QString::fromUtf8(action)}};
 }
 
+QString copyStored() {
+    return QStringLiteral("Copia guardada en borradores");
+}
+
 const AlertButton::Role cancel = AlertButton::Role::Cancel;
 const AlertButton::Role normal = AlertButton::Role::Normal;
 const AlertButton::Role destructive = AlertButton::Role::Destructive;
@@ -242,18 +246,29 @@ void Controller::closePreview() {
 
 // ---- Copies
 
+// The second half of a double tap makes no second copy.
+bool Controller::isCopyAgain(const QString& key) {
+    constexpr qint64 doubleTap = 800; // milliseconds
+    const QDateTime now = services_.clock.now();
+    const bool isAgain = key == copiedKey_ && copiedAt_.isValid() && copiedAt_.msecsTo(now) < doubleTap;
+    copiedKey_ = key;
+    copiedAt_ = now;
+    return isAgain;
+}
+
 void Controller::copyDraft(const QString& key) {
-    if (const Draft* draft = draftOf(key))
-        storeCopy(copyOf(draft->order), QStringLiteral("Copia guardada en borradores"));
+    const Draft* draft = draftOf(key);
+    if (draft && !isCopyAgain(key))
+        storeCopy(copyOf(draft->order), copyStored());
 }
 
 void Controller::copySent(const QString& key) {
     const SellingSheetOrder* sheet = sentOf(key);
-    if (!sheet || wait_.isUnderWay())
+    if (!sheet || wait_.isUnderWay() || isCopyAgain(key))
         return;
     const auto& address = sheet->distributionLogoURL;
     if (!address || address->empty())
-        return storeCopy(copyOf(*sheet), QStringLiteral("Copia guardada en borradores"));
+        return storeCopy(copyOf(*sheet), copyStored());
     if (!services_.network.isReachable())
         return takeLogo(*sheet, {}, false);
     const QUrl logo = QUrl(services_.network.baseUrl()).resolved(QUrl(fromUtf8(*address)));
@@ -279,9 +294,7 @@ void Controller::takeLogo(const SellingSheetOrder& sheet, const QByteArray& body
             SellingSheetOrder copy = copyOf(sheet);
             if (!logo.empty())
                 copy.distributionLogo = std::move(logo);
-            if (copy.distributionLogo)
-                return storeCopy(copy, QStringLiteral("Copia guardada en borradores"));
-            storeCopy(copy, QString());
+            storeCopy(copy, copy.distributionLogo ? copyStored() : QString());
         });
 }
 
@@ -357,7 +370,7 @@ void Controller::cancelSent(const SellingSheetOrder& sheet) {
 
 QVariantMap Controller::draftsEmpty() const {
     return emptyState("sellingsheet", "No hay hojas en borrador",
-                      "Una hoja que empiece y guarde aparecerá aquí.", "Nueva hoja");
+                      "Una hoja que empiece y guarde aparecerá aquí.");
 }
 
 QVariantMap Controller::sentEmpty() const {

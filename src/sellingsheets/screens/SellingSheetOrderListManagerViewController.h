@@ -10,6 +10,7 @@
 #include "sellingsheets/screens/SellingSheetServices.h"
 #include "sellingsheets/screens/SheetShelf.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QVariantMap>
 
@@ -97,6 +98,7 @@ private:
     void showRows();
     void edit(SellingSheetOrder order, std::optional<std::string> filename);
     void openForm();
+    bool isCopyAgain(const QString& key);
     void storeCopy(const SellingSheetOrder& sheet, const QString& said);
     void takeLogo(const SellingSheetOrder& sheet, const QByteArray& body, bool isComplete);
     void removeDraft(const std::string& filename);
@@ -122,6 +124,8 @@ private:
     bool isFaultTold_ = false;
     quint64 reading_ = 0; // tells the newest reading of the drafts from older ones
     WebPreviewViewController* preview_ = nullptr;
+    QString copiedKey_; // of the last copy
+    QDateTime copiedAt_;
 };
 
 } // namespace kavor

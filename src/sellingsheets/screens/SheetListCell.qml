@@ -9,9 +9,9 @@ Tappable {
     required property string key
     required property string name
     required property string title
-    required property string validity
     required property string stateText
-    required property string modules
+    required property string details
+    required property string description
     required property string date
     required property string image
     property bool draft: false
@@ -24,7 +24,7 @@ Tappable {
 
     objectName: "sheet" + key
     accessibleName: name
-    Accessible.description: [title, validity, stateText, modules].filter(each => each !== "").join(". ")
+    Accessible.description: description
     implicitHeight: column.implicitHeight + 2 * Theme.spaceM
     onClicked: opened()
 
@@ -85,7 +85,7 @@ Tappable {
                     }
                     Text {
                         Layout.fillWidth: true
-                        text: [cell.modules, cell.validity].filter(each => each !== "").join(" · ")
+                        text: cell.details
                         color: Theme.mutedInk
                         wrapMode: Text.Wrap
                         font.family: Theme.fontFamily
@@ -106,7 +106,7 @@ Tappable {
 
                 Text {
                     Layout.fillWidth: true
-                    text: cell.date
+                    text: Theme.compact && cell.draft ? "" : cell.date // no room beside all buttons
                     color: Theme.mutedInk
                     elide: Text.ElideRight
                     font.family: Theme.fontFamily

@@ -13,12 +13,12 @@ QVariant SheetListModel::data(const QModelIndex& index, int role) const {
         return row->name;
     case TitleRole:
         return row->title;
-    case ValidityRole:
-        return row->validity;
     case StateRole:
         return row->state;
-    case ModulesRole:
-        return row->modules;
+    case DetailsRole:
+        return row->details;
+    case DescriptionRole:
+        return row->description;
     case DateRole:
         return row->date;
     case ImageRole:
@@ -29,9 +29,9 @@ QVariant SheetListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SheetListModel::roleNames() const {
-    return {{KeyRole, "key"},           {NameRole, "name"},       {TitleRole, "title"},
-            {ValidityRole, "validity"}, {StateRole, "stateText"}, {ModulesRole, "modules"},
-            {DateRole, "date"},         {ImageRole, "image"}};
+    return {{KeyRole, "key"},         {NameRole, "name"},       {TitleRole, "title"},
+            {StateRole, "stateText"}, {DetailsRole, "details"}, {DescriptionRole, "description"},
+            {DateRole, "date"},       {ImageRole, "image"}};
 }
 
 } // namespace kavor

@@ -11,10 +11,10 @@ struct SheetListRow {
     QString key; // of a draft its plain name, of a sent sheet its number
     QString name;
     QString title;
-    QString validity;
-    QString state; // "vigente", "caducada" or empty
-    QString modules;
-    QString date; // when it was changed or made
+    QString state;       // "vigente", "caducada" or empty
+    QString details;     // "3 módulos · Del 01/06/2024 al 30/06/2024"
+    QString description; // all of it, as one reads it out
+    QString date;        // when it was changed or made
     QString image;
 
     struct Key {
@@ -34,9 +34,9 @@ public:
         KeyRole = Qt::UserRole + 1,
         NameRole,
         TitleRole,
-        ValidityRole,
         StateRole,
-        ModulesRole,
+        DetailsRole,
+        DescriptionRole,
         DateRole,
         ImageRole
     };

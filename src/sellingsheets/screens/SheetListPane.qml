@@ -35,12 +35,11 @@ FocusScope {
         anchors.top: head.bottom
         anchors.topMargin: Theme.spaceM
         anchors.bottom: parent.bottom
-        width: parent.width
+        x: Theme.pageMargin
+        width: parent.width - 2 * x
         clip: true
         focus: true
         spacing: Theme.spaceM
-        leftMargin: Theme.pageMargin
-        rightMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
         boundsBehavior: Flickable.DragOverBounds
         model: pane.rows
@@ -51,7 +50,7 @@ FocusScope {
         FocusFollower { view: list }
 
         delegate: SheetListCell {
-            width: list.width - 2 * Theme.pageMargin
+            width: list.width
             draft: pane.draft
             onOpened: pane.opened(key)
             onPreviewed: pane.previewed(key)

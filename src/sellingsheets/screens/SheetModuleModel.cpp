@@ -5,6 +5,8 @@
 #include "sellingsheets/SheetModules.h"
 #include "sellingsheets/screens/SheetPage.h"
 
+#include <QStringList>
+
 #include <map>
 
 namespace kavor {
@@ -25,6 +27,9 @@ SheetModuleRow rowOf(const SellingSheetOrder::Item& module, const Catalogue& cat
     row.bottle = bottleText(catalogue, module);
     row.programme = programmeText(catalogue, module);
     row.reference = fromUtf8(module.promotionCode.value_or(""));
+    QStringList all{row.products, row.secondProducts, row.price, row.bottle};
+    all.removeAll(QString());
+    row.description = all.join(QStringLiteral(". "));
     return row;
 }
 
@@ -45,6 +50,8 @@ QVariant SheetModuleModel::data(const QModelIndex& index, int role) const {
     if (!row)
         return {};
     switch (role) {
+    case DescriptionRole:
+        return row->description;
     case ProductsRole:
         return row->products;
     case SecondProductsRole:
@@ -69,9 +76,16 @@ QVariant SheetModuleModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SheetModuleModel::roleNames() const {
-    return {{ProductsRole, "products"}, {SecondProductsRole, "secondProducts"}, {PriceRole, "price"},
-            {BottleRole, "bottle"},     {ProgrammeRole, "programme"},           {ReferenceRole, "reference"},
-            {ImageRole, "image"},       {SecondImageRole, "secondImage"},       {GoneRole, "gone"}};
+    return {{DescriptionRole, "description"},
+            {ProductsRole, "products"},
+            {SecondProductsRole, "secondProducts"},
+            {PriceRole, "price"},
+            {BottleRole, "bottle"},
+            {ProgrammeRole, "programme"},
+            {ReferenceRole, "reference"},
+            {ImageRole, "image"},
+            {SecondImageRole, "secondImage"},
+            {GoneRole, "gone"}};
 }
 
 } // namespace kavor

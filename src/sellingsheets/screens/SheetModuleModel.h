@@ -14,6 +14,7 @@ namespace kavor {
 // A row of SingleModuleTableViewCell.
 struct SheetModuleRow {
     std::pair<Int, int> key; // the module's number, and how many above it bear the same
+    QString description;
     QString products;
     QString secondProducts; // empty without a second product
     QString price;
@@ -38,7 +39,8 @@ class SheetModuleModel : public kavor::RowListModel {
 
 public:
     enum Role {
-        ProductsRole = Qt::UserRole + 1,
+        DescriptionRole = Qt::UserRole + 1,
+        ProductsRole,
         SecondProductsRole,
         PriceRole,
         BottleRole,

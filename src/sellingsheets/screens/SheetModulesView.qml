@@ -44,14 +44,14 @@ FocusScope {
         anchors.top: bar.bottom
         anchors.bottom: foot.top
         anchors.left: view.wide ? paper.right : parent.left
+        anchors.leftMargin: Theme.pageMargin
         anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
         clip: true
         focus: true
         spacing: Theme.spaceM
         topMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
-        leftMargin: Theme.pageMargin
-        rightMargin: Theme.pageMargin
         boundsBehavior: Flickable.DragOverBounds
         model: view.controller.modulesList
 
@@ -63,7 +63,7 @@ FocusScope {
         moveDisplaced: Transition { NumberAnimation { properties: "y"; duration: Theme.normal } }
 
         delegate: SingleModuleTableViewCell {
-            width: list.width - 2 * Theme.pageMargin
+            width: list.width
             last: index === list.count - 1
             onEditTapped: view.controller.editModuleAction(index)
             onDuplicateTapped: view.controller.duplicateAction(index)

@@ -76,7 +76,7 @@ QString productImage(const Catalogue& catalogue, Int product) {
         return {};
     for (const auto* picture :
          {&found.format->bottleBoxImage, &found.format->image, &found.format->imageThumb}) {
-        if (const QString source = resourceImageUrl(*picture); !source.isEmpty())
+        if (QString source = resourceImageUrl(*picture); !source.isEmpty())
             return source;
     }
     return {};
@@ -122,18 +122,16 @@ QString SheetPage::freeText() const {
     return fromUtf8(order_.freeText.value_or(""));
 }
 
-QString SheetPage::taxes() const {
-    return order_.areTaxesIncluded ? QStringLiteral("Impuestos incluidos")
-                                   : QStringLiteral("Impuestos no incluidos");
-}
-
 QString SheetPage::logo() const {
     return order_.distributionLogo ? dataImageUrl(*order_.distributionLogo) : QString();
 }
 
-QString SheetPage::pages() const {
+QString SheetPage::foot() const {
+    const QString taxes = order_.areTaxesIncluded ? QStringLiteral("Impuestos incluidos")
+                                                  : QStringLiteral("Impuestos no incluidos");
     const auto count = order_.items.size();
-    return order_.showOneModulePerPage && count > 1 ? QStringLiteral("%1 páginas").arg(count) : QString();
+    return order_.showOneModulePerPage && count > 1 ? QStringLiteral("%1 · %2 páginas").arg(taxes).arg(count)
+                                                    : taxes;
 }
 
 QString SheetPage::text() const {

@@ -22,11 +22,10 @@ class SheetPage : public QObject {
     Q_PROPERTY(QString styleImage READ styleImage NOTIFY changed)
     Q_PROPERTY(QString validity READ validity NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
-    Q_PROPERTY(QString taxes READ taxes NOTIFY changed)
     Q_PROPERTY(bool programmeLogo READ hasProgrammeLogo NOTIFY changed)
     Q_PROPERTY(QString logo READ logo NOTIFY changed)
-    // "3 páginas" where each module has a page of its own; empty otherwise.
-    Q_PROPERTY(QString pages READ pages NOTIFY changed)
+    // The taxes, and "3 páginas" where each module has a page of its own.
+    Q_PROPERTY(QString foot READ foot NOTIFY changed)
     // Each {image, boxes, name, second: {image, boxes, name} or none, price, bottle, reference}.
     Q_PROPERTY(QVariantList modules READ modules NOTIFY modulesChanged)
     // The same as one reads it out.
@@ -42,10 +41,9 @@ public:
     [[nodiscard]] QString styleImage() const;
     [[nodiscard]] QString validity() const;
     [[nodiscard]] QString freeText() const;
-    [[nodiscard]] QString taxes() const;
     [[nodiscard]] bool hasProgrammeLogo() const { return order_.isNRVLogoIncluded; }
     [[nodiscard]] QString logo() const;
-    [[nodiscard]] QString pages() const;
+    [[nodiscard]] QString foot() const;
     [[nodiscard]] const QVariantList& modules() const { return modules_; }
     [[nodiscard]] QString text() const;
 

@@ -39,67 +39,10 @@ Item {
             width: parent.width
             spacing: 2 * paper.unit
 
-            Rectangle {
+            SheetPageHead {
                 width: parent.width
-                height: headings.implicitHeight + 8 * paper.unit
-                color: Theme.bottle
-
-                ResourceImage {
-                    anchors.fill: parent
-                    radius: 0
-                    visible: paper.page.styleImage !== ""
-                    source: paper.page.styleImage
-                    fillMode: Image.PreserveAspectCrop
-                }
-                Rectangle { // so that any style lets the words be read
-                    anchors.fill: parent
-                    color: "#A0101A16"
-                }
-                Column {
-                    id: headings
-
-                    anchors.verticalCenter: parent.verticalCenter
-                    x: 5 * paper.unit
-                    width: parent.width - 2 * x
-                    spacing: paper.unit
-
-                    Text {
-                        objectName: "pageTitle"
-                        width: parent.width
-                        text: paper.page.title !== "" ? paper.page.title : "Título"
-                        color: "white"
-                        opacity: paper.page.title !== "" ? 1 : 0.6
-                        wrapMode: Text.Wrap
-                        maximumLineCount: 3
-                        elide: Text.ElideRight
-                        horizontalAlignment: Text.AlignHCenter
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Math.max(9, 7 * paper.unit)
-                        font.weight: Font.Bold
-                    }
-                    Text {
-                        width: parent.width
-                        visible: text !== ""
-                        text: paper.page.subtitle
-                        color: "white"
-                        wrapMode: Text.Wrap
-                        maximumLineCount: 2
-                        elide: Text.ElideRight
-                        horizontalAlignment: Text.AlignHCenter
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Math.max(8, 4.5 * paper.unit)
-                    }
-                    Text {
-                        width: parent.width
-                        visible: text !== ""
-                        text: paper.page.validity
-                        color: Theme.amber
-                        horizontalAlignment: Text.AlignHCenter
-                        font.family: Theme.fontFamily
-                        font.pixelSize: Math.max(8, 4 * paper.unit)
-                        font.weight: Font.Medium
-                    }
-                }
+                page: paper.page
+                unit: paper.unit
             }
             Text {
                 objectName: "pageEmpty"
@@ -173,7 +116,7 @@ Item {
             }
             Text {
                 width: parent.width
-                text: [paper.page.taxes, paper.page.pages].filter(each => each !== "").join(" · ")
+                text: paper.page.foot
                 color: Theme.mutedInk
                 horizontalAlignment: Text.AlignHCenter
                 font.family: Theme.fontFamily

@@ -5,6 +5,8 @@
 #include "sellingsheets/SheetRules.h"
 #include "sellingsheets/screens/SheetDates.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace kavor::sheet_shelf {
@@ -31,10 +33,14 @@ SheetListRow row(const SellingSheetOrder& order, const Catalogue& catalogue, QDa
     SheetListRow row;
     row.name = order.orderName.empty() ? QStringLiteral("(Sin nombre)") : fromUtf8(order.orderName);
     row.title = fromUtf8(order.title);
-    row.validity = sheet_dates::validity(order.fromDate, order.toDate);
     if (const auto inForce = isInForce(order, sheet_dates::write(today)))
         row.state = *inForce ? QStringLiteral("vigente") : QStringLiteral("caducada");
-    row.modules = modulesText(order.items.size());
+    QStringList details{modulesText(order.items.size()), sheet_dates::validity(order.fromDate, order.toDate)};
+    details.removeAll(QString());
+    row.details = details.join(QStringLiteral(" · "));
+    QStringList all{row.title, row.details, row.state};
+    all.removeAll(QString());
+    row.description = all.join(QStringLiteral(". "));
     row.image = imageOf(order, catalogue);
     return row;
 }

@@ -7,6 +7,7 @@ Tappable {
     id: cell
 
     required property int index
+    required property string description // all of it, as one reads it out
     required property string products
     required property string secondProducts
     required property string price
@@ -25,7 +26,7 @@ Tappable {
 
     objectName: "singleModule" + index
     accessibleName: "Módulo " + (index + 1)
-    Accessible.description: [products, secondProducts, price, bottle].filter(each => each !== "").join(". ")
+    Accessible.description: description
     implicitHeight: column.implicitHeight + 2 * Theme.spaceM
     onClicked: editTapped()
 

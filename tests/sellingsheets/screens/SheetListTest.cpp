@@ -186,7 +186,12 @@ TEST_F(SheetList, ACopyTakesTheLogoAlongOrSaysThatItCouldNot) {
     EXPECT_EQ(draft("2024-06-06-07-08-09(1)")->distributionLogo, std::nullopt);
     settle();
     list->copyDraft("2024-06-06-07-08-09");
+    list->copyDraft("2024-06-06-07-08-09"); // a second tap
     EXPECT_EQ(draft("2024-06-06-07-08-09(2)")->distributionLogo, copy->distributionLogo);
+    EXPECT_EQ(draftNames().size(), 3U);
+    clock.advance(std::chrono::seconds(1));
+    list->copyDraft("2024-06-06-07-08-09");
+    EXPECT_EQ(draftNames().size(), 4U);
 }
 
 TEST_F(SheetList, ADraftIsDeletedOnceTheUserSaysSo) {
