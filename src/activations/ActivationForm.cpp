@@ -57,6 +57,8 @@ std::optional<bool> isFoundIn(const std::string& text, const std::string& expres
 } // namespace
 
 PartyPlace placeOf(const SearchMapsResponse::Address& address) {
+    if (address.zip.value_or("").empty() || address.city.value_or("").empty())
+        return {address.fullAddress, std::nullopt, std::nullopt};
     return {address.fullAddress, address.zip, address.city};
 }
 

@@ -19,7 +19,7 @@ struct PartyPlace {
     bool operator==(const PartyPlace&) const = default;
 };
 
-// The place of an address that was found; what the address does not say is unset.
+// The place of an address that was found; without both postal code and city it has neither.
 PartyPlace placeOf(const SearchMapsResponse::Address& address);
 
 // What the form of an activation holds, texts as typed. It lives as long as its screen.

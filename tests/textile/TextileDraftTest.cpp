@@ -272,7 +272,7 @@ TEST_F(TextileDraft, ComesBackFromTheServerAsTheOrderThatItWas) {
         R"("lines":[{"textil_id":130,"quantity":6}]}})");
     ASSERT_TRUE(answer) << answer.error().text();
     EXPECT_EQ(*json::encode(savedOrder(*answer)),
-              R"({"save":3,"order":{"message":"Sol","application_type_id":21,"typography_id":1,)"
+              R"({"save":1,"order":{"message":"Sol","application_type_id":21,"typography_id":1,)"
               R"("orderComment":"Ojo","lines":[{"textil_id":130,"quantity":6}]},"customer":{"tevo":"77"},)"
               R"("name_archive_tablet":"Sol","id":12})");
 }

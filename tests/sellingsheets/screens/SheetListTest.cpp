@@ -4,6 +4,8 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <chrono>
+#include <filesystem>
 #include <fstream>
 
 namespace kavor {
@@ -47,7 +49,10 @@ TEST_F(SheetList, ReadableDraftsAreShownBesideOneThatIsNot) {
     SellingSheetOrder old = completeSheet();
     old.toDate = "2024-06-05";
     putDraft("dos", old);
-    std::ofstream(folder.path() / "orders/draft_orders/SellingSheetOrder/torn.zvo") << "{\"id\": ";
+    const auto drafts = folder.path() / "orders/draft_orders/SellingSheetOrder";
+    const auto writtenAt = std::filesystem::last_write_time(drafts / "dos.zvo");
+    std::filesystem::last_write_time(drafts / "uno.zvo", writtenAt - std::chrono::hours(1));
+    std::ofstream(drafts / "torn.zvo") << "{\"id\": ";
     open();
     EXPECT_EQ(told(), "Error | No se han podido obtener los pedidos de disco.");
     ASSERT_EQ(list->drafts()->rows().size(), 2U);
