@@ -76,6 +76,7 @@ double milliseconds(const std::function<void()>& action) {
 // object of JSON.
 int main(int argc, char* argv[]) {
     using namespace kavor;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
     const TemporaryFolder folder;

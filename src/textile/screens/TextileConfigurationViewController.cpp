@@ -168,7 +168,7 @@ void TextileConfigurationViewController::showTypographies() {
     for (const Textile::Typography* each : sorted) {
         TextileChoice row;
         row.key = QString::number(each->identifier);
-        row.title = fromUtf8(each->postScriptName);
+        row.title = fromUtf8(each->mimetype); // where the catalogue has the font's own name
         row.lettering = desk_.lettering(each, desk_.sampleText(), QStringLiteral("#20262B"));
         row.selected = desk_.draft().typographyIdentifier == each->identifier;
         rows.push_back(std::move(row));

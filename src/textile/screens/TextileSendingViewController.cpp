@@ -105,7 +105,7 @@ QVariantMap TextileSendingViewController::lettering() const {
 
 QString TextileSendingViewController::typographyName() const {
     const auto* typography = desk_.draft().selectedTypography();
-    return typography ? fromUtf8(typography->postScriptName) : QStringLiteral("Sin tipografía");
+    return typography ? fromUtf8(typography->mimetype) : QStringLiteral("Sin tipografía");
 }
 
 QString TextileSendingViewController::orderComment() const {
