@@ -162,6 +162,8 @@ std::vector<Tour::Step> Tour::steps() const {
         return events;
     case Story::Sheets:
         return sheets;
+    case Story::TextileAgain:
+        return {{"panel", &Tour::openDashboard}, {"carrito", &Tour::findCartAgain}};
     case Story::SheetsAgain:
         return {{"panel", &Tour::openDashboard}, {"hoja", &Tour::findSheetAgain}};
     default:

@@ -33,6 +33,7 @@ public:
         Events,         // orders parties, one tied to the other, and the last of a quota
         Textile,        // orders clothing, with and without a network
         Sheets,         // makes, sends, copies and deletes selling sheets
+        TextileAgain,   // a new start after that one died over a cart
         SheetsAgain,    // a new start after that one died over a sheet
         SendAndDie,     // an order is at the server, and the process dies before it hears so
         ReadOnlyOutbox, // a new start after that: the outbox may not be written
@@ -129,6 +130,7 @@ private:
     void leaveParty(const QString& view);
 
     void openTextile();
+    void findCartAgain();
     void fillTextileCart();
     void previewTextile();
     void saveTextileTwice();

@@ -88,6 +88,19 @@ void Tour::fillTextileCart() {
     must(draft().totalUnits() == 12, QStringLiteral("twelve units in the cart"));
 }
 
+// After a kill the cart, the text and the bar are back, and a word says so.
+void Tour::findCartAgain() {
+    openSection(textile);
+    touch_->waitUntil(QStringLiteral("the word of its return"), [&] {
+        return touch_->allTexts().contains(QStringLiteral("Se ha recuperado el pedido de textil en curso"));
+    });
+    openStep(sendEntry);
+    touch_->await(QStringLiteral("sendItem1"));
+    must(touch_->allTexts().contains(QStringLiteral("Referencias: 2 unidades: 12")), touch_->allTexts());
+    must(draft().customizedText == "Peña La Higuera" && draft().customer->tevo == "B0007",
+         QStringLiteral("the text and the bar"));
+}
+
 void Tour::previewTextile() {
     openStep(sendEntry);
     touch_->await(QStringLiteral("sendItem1"));

@@ -8,8 +8,10 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -21,18 +23,17 @@ bool isAsked(const char* option, int argc, char* argv[]) {
 
 kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
     using Story = kavor::Tour::Story;
-    if (parser.isSet("every-kind"))
-        return Story::EveryKind;
-    if (parser.isSet("orders"))
-        return Story::Orders;
-    if (parser.isSet("events"))
-        return Story::Events;
-    if (parser.isSet("textile"))
-        return Story::Textile;
-    if (parser.isSet("sheets"))
-        return Story::Sheets;
-    if (parser.isSet("sheets-again"))
-        return Story::SheetsAgain;
+    constexpr std::array stories = {std::pair("every-kind", Story::EveryKind),
+                                    std::pair("orders", Story::Orders),
+                                    std::pair("events", Story::Events),
+                                    std::pair("textile", Story::Textile),
+                                    std::pair("textile-again", Story::TextileAgain),
+                                    std::pair("sheets", Story::Sheets),
+                                    std::pair("sheets-again", Story::SheetsAgain)};
+    for (const auto& [option, story] : stories) {
+        if (parser.isSet(QLatin1String(option)))
+            return story;
+    }
     const QString send = parser.value("send");
     return send == "dies"        ? Story::SendAndDie
            : send == "read-only" ? Story::ReadOnlyOutbox
@@ -51,6 +52,7 @@ kavor::Tour::Story storyOf(const QCommandLineParser& parser) {
 //   --events                           parties instead
 //   --textile                          an order of clothing, with and without a network, instead
 //   --sheets                           selling sheets instead; the PDF of one goes to DIR
+//   --textile-again                    a new start after that one died over a cart: it comes back
 //   --sheets-again                     a new start after that one died over a sheet: it comes back
 //   --send STORY                       an order that breaks off: dies, read-only or again, one after the
 //   other
@@ -87,6 +89,7 @@ int main(int argc, char* argv[]) {
                        {"textile", {}},
                        {"sheets", {}},
                        {"sheets-again", {}},
+                       {"textile-again", {}},
                        {"send", {}, "STORY"}});
     parser.addHelpOption();
     parser.process(application);

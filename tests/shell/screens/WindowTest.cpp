@@ -58,11 +58,11 @@ protected:
     }
 
     DesktopNotifications banners;
-    RootController root{{application, alerts, banners, loginServices(), welcomeServices(),
-                         [](const QString&, ScreenStack&) {
-                             return Screen{QUrl::fromLocalFile(QStringLiteral(KAVOR_TEST_DATA "/section.qml")),
-                                           new ScreenController};
-                         }}};
+    RootController root{
+        {application, alerts, banners, loginServices(), welcomeServices(), [](const QString&, ScreenStack&) {
+             return Screen{QUrl::fromLocalFile(QStringLiteral(KAVOR_TEST_DATA "/section.qml")),
+                           new ScreenController};
+         }}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;
     std::unique_ptr<TouchDriver> driver;
