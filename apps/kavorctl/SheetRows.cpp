@@ -99,6 +99,7 @@ std::string orDash(const std::string& text) {
 void printRows(CommandContext& context, const std::vector<SellingSheetOrder>& sheets) {
     if (context.json) {
         std::vector<SheetRow> rows;
+        rows.reserve(sheets.size());
         for (const SellingSheetOrder& sheet : sheets)
             rows.push_back({sheet.identifier, sheet.orderName, sheet.title, sheet.createdAt, sheet.fromDate,
                             sheet.toDate, Int(sheet.items.size()), sheet.PDFURL});

@@ -40,7 +40,7 @@ void FilmEngine::begin() {
     player_->setVideoSink(sink);
     connect(sink, &QVideoSink::videoFrameChanged, this, &FilmEngine::takeFrame);
     connect(player_, &QMediaPlayer::playbackStateChanged, this, &FilmEngine::tell);
-    connect(player_, &QMediaPlayer::mediaStatusChanged, this, &FilmEngine::tell);
+    connect(player_, &QMediaPlayer::mediaStatusChanged, this, &FilmEngine::followStatus);
     connect(player_, &QMediaPlayer::positionChanged, this, &FilmEngine::tell);
     connect(player_, &QMediaPlayer::durationChanged, this, &FilmEngine::tell);
     connect(player_, &QMediaPlayer::errorOccurred, this, [this] {
@@ -56,9 +56,27 @@ void FilmEngine::begin() {
 }
 
 void FilmEngine::play() {
-    if (player_->mediaStatus() == QMediaPlayer::EndOfMedia)
+    if (player_->mediaStatus() == QMediaPlayer::EndOfMedia) {
+        restarts_ = mostRestarts;
         player_->setPosition(0);
+    }
     player_->play();
+}
+
+// The backend may tell of the same end twice, and the second time stop what has just begun anew.
+void FilmEngine::followStatus(QMediaPlayer::MediaStatus status) {
+    if (status == QMediaPlayer::EndOfMedia && restarts_ > 0) {
+        --restarts_;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                player_->setPosition(0);
+                player_->play();
+            },
+            Qt::QueuedConnection);
+        return;
+    }
+    tell();
 }
 
 void FilmEngine::pause() {
@@ -76,6 +94,7 @@ void FilmEngine::seek(qint64 position) {
 void FilmEngine::takeFrame(const QVideoFrame& frame) {
     if (!frame.isValid()) // the end of the film
         return;
+    restarts_ = 0;
     const QImage picture = pictureOf(frame);
     failed_ = failed_ || picture.isNull();
     shown_ = true;

@@ -2,11 +2,12 @@
 
 #include "device/FilmPlayer.h"
 
+#include <QImage>
+#include <QMediaPlayer>
 #include <QMutex>
 
 #include <memory>
 
-class QMediaPlayer;
 class QVideoFrame;
 class QVideoSink;
 
@@ -42,6 +43,7 @@ signals:
     void pictureCame();
 
 private:
+    void followStatus(QMediaPlayer::MediaStatus status);
     void takeFrame(const QVideoFrame& frame);
     void tell();
     [[nodiscard]] FilmStatus::State state() const;
@@ -51,6 +53,8 @@ private:
     QMediaPlayer* player_ = nullptr;
     bool failed_ = false;
     bool shown_ = false; // a picture came
+    static constexpr int mostRestarts = 3;
+    int restarts_ = 0; // how often it may still begin anew before its first picture
     FilmStatus told_;
 };
 
