@@ -93,10 +93,11 @@ void ModulesManagementController::duplicateAction(int row) {
 }
 
 void ModulesManagementController::moveAction(int row, int by) {
-    if (!has(row) || !has(row + by))
+    const int place = row + by;
+    if (!has(row) || !has(place))
         return;
     Modules modules = modulesList();
-    std::swap(modules[std::size_t(row)], modules[std::size_t(row + by)]);
+    std::swap(modules[std::size_t(row)], modules[std::size_t(place)]);
     take(std::move(modules));
 }
 
